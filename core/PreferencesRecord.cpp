@@ -1,0 +1,7 @@
+#include "core/PreferencesRecord.h"
+
+namespace linewright {
+
+constinit LinewrightPrefsRecord preferences = kDefaultPreferences;
+
+}  // namespace linewright

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "IPMUnknown.h"
+#include "host/runtime/FrontEnd.h"
+
+namespace host {
+
+/** What a host is started with. Texts are UTF-8, copied by Start; nullptr takes the default. */
+struct Settings {
+    /** The plug-in's library; its resources lie in the folder `resources` beside it. */
+    const char* plugin = nullptr;
+    /** The roaming folder; by default `Linewright Host` below the user's application data. */
+    const char* roamingFolder = nullptr;
+    /** The application folder; by default the folder of the running program. */
+    const char* appFolder = nullptr;
+    /** A locale such as "enUS", or "qps" for the pseudo-locale; "enUS" by default. */
+    const char* locale = nullptr;
+    /** Shows alerts and sounds beeps; the console front end by default. Outlives the host. */
+    FrontEnd* frontEnd = nullptr;
+};
+
+/** What was still alive when a host stopped; all zero after a clean run. */
+struct Leaks {
+    uint32 blocks = 0;
+    uint32 references = 0;
+};
+
+/**
+ * The stand-in host: one a process at a time. Started, it loads one plug-in, binds its
+ * implementations to the classes of its resource definitions and runs its start-up service; from
+ * then on GetExecutionContextSession and CreateObject answer. Main thread only.
+ */
+class PUBLIC_DECL Host {
+  public:
+    Host() = default;
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+    ~Host();
+
+    /** Loads and starts the plug-in. On failure returns false, Error() says what and where, and
+     *  nothing stays loaded. */
+    bool Start(const Settings& settings);
+    /** Runs the shut-down service, unloads the plug-in and counts what is left. */
+    Leaks Stop();
+    /** The last failure as UTF-8 text; "" without one. */
+    const char* Error() const;
+
+  private:
+    struct Running;
+    Running* fRunning = nullptr;
+};
+
+/** Switches for tests of what happens when the machine fails. They hold until set again. */
+struct PUBLIC_DECL Faults {
+    /** The n-th allocation of the memory service from now fails, counted from 1; 0: none does. */
+    static void FailAllocation(uint32 n);
+    enum class Io { kNone, kOpenRead, kOpenWrite, kRead, kWrite, kFlush, kRename, kCreateFolder };
+    /** Every file operation of this kind fails. */
+    static void FailIo(Io operation);
+    /** Takes the session away, its application, or its dialog manager. */
+    enum class Missing { kNothing, kSession, kMemoryService, kApplication, kDialogManager };
+    static void TakeAway(Missing what);
+};
+
+/** What the memory service did since the host was started. */
+struct MemoryCounts {
+    uint32 allocations = 0;
+    uint32 deallocations = 0;
+    uint32 liveBlocks = 0;
+};
+PUBLIC_DECL MemoryCounts CountMemory();
+
+}  // namespace host

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "PMString.h"
+
+/** The place of a file or folder, which need not exist. */
+class PUBLIC_DECL IDFile {
+  public:
+    IDFile();
+    IDFile(const IDFile& other);
+    IDFile& operator=(const IDFile& other);
+    ~IDFile();
+
+    PMString GetString() const;
+    void SetString(const PMString& fullPath);
+
+  private:
+    struct Path;
+    Path* fPath;
+};

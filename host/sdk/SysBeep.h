@@ -1,0 +1,6 @@
+#pragma once
+
+#include "BaseType.h"
+
+/** Sounds the system's default beep. */
+PUBLIC_DECL void SysBeep();
