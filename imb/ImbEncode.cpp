@@ -54,7 +54,9 @@ bool IsRoutingLength(std::size_t length) {
     return length == 0 || length == 5 || length == 9 || length == 11;
 }
 
-std::uint32_t DigitValue(char digit) { return static_cast<std::uint32_t>(digit - '0'); }
+std::uint32_t DigitValue(char digit) {
+    return static_cast<std::uint32_t>(digit - '0');
+}
 
 /// Numbers the routing codes through: none is 0, then come those of 5, of 9 and of 11 digits.
 std::uint64_t RoutingValue(std::string_view routing) {

@@ -30,8 +30,8 @@ constexpr char Modulo10CheckDigit(std::string_view digits) {
     return Modulo10Complement(AlternatingSum(digits, 3, 1));
 }
 
-/// Five-digit add-on (ISO/IEC 15420): weights 3 and 9, the last digit of the sum (0 to 9). It is not
-/// printed, but chooses the parity.
+/// Five-digit add-on (ISO/IEC 15420): weights 3 and 9, the last digit of the sum (0 to 9). It is
+/// not printed, but chooses the parity.
 constexpr std::size_t AddOn5CheckValue(std::string_view digits) {
     return AlternatingSum(digits, 3, 9) % 10;
 }

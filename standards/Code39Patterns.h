@@ -11,8 +11,7 @@ namespace linewright {
 
 /// ISO/IEC 16388:2007, table 1: the data characters in the order of their values, 0 to 42.
 /// The check character is the one whose value is the sum of all values modulo their number.
-inline constexpr std::string_view kCode39Characters =
-    "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%";
+inline constexpr std::string_view kCode39Characters = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%";
 
 /// The row of the start/stop character, which has no value of its own.
 inline constexpr std::size_t kCode39StartStop = 43;

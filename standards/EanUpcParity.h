@@ -7,8 +7,8 @@
 
 #include "standards/TableChecks.h"
 
-// Number sets of ISO/IEC 15420:2009: A has odd parity, B even parity; C, the right half's set, needs
-// no table.
+// Number sets of ISO/IEC 15420:2009: A has odd parity, B even parity; C, the right half's set,
+// needs no table.
 
 namespace linewright {
 
@@ -37,7 +37,9 @@ inline constexpr std::array<std::string_view, 10> kAddOn5Parity{
 };
 
 /// The number set of the opposite parity.
-constexpr char OppositeNumberSet(char numberSet) { return numberSet == 'A' ? 'B' : 'A'; }
+constexpr char OppositeNumberSet(char numberSet) {
+    return numberSet == 'A' ? 'B' : 'A';
+}
 
 /// Whether each row has `size` number sets, `evenCount` of them B.
 template <typename Rows>
@@ -53,7 +55,8 @@ constexpr bool HasParity(const Rows& rows, std::size_t size, std::ptrdiff_t even
 constexpr bool Ean13ParityFollowsUpcE() {
     for (std::size_t digit = 0; digit < kUpcEParity.size(); ++digit) {
         for (std::size_t position = 0; position < kUpcEParity[digit].size(); ++position) {
-            const char expected = digit == 0 ? 'A' : OppositeNumberSet(kUpcEParity[digit][position]);
+            const char expected =
+                digit == 0 ? 'A' : OppositeNumberSet(kUpcEParity[digit][position]);
             if (kEan13Parity[digit][position] != expected) return false;
         }
     }

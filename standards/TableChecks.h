@@ -40,7 +40,8 @@ constexpr std::size_t WideSpaces(std::string_view pattern) {
     return pattern.empty() ? 0 : WideBars(pattern.substr(1));
 }
 
-/// Modules of a pattern of element widths "1" to "9": of every element, or of every second (step 2).
+/// Modules of a pattern of element widths "1" to "9": of every element, or of every second (step
+/// 2).
 constexpr std::size_t ModuleCount(std::string_view widths, std::size_t step = 1) {
     std::size_t modules = 0;
     for (std::size_t element = 0; element < widths.size(); element += step) {

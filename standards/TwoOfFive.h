@@ -8,8 +8,8 @@
 
 namespace linewright {
 
-/// ISO/IEC 16390:2007, table 1: five elements of each digit, narrow or wide. In a pair of digits the
-/// first one's elements are the bars and the second one's the spaces.
+/// ISO/IEC 16390:2007, table 1: five elements of each digit, narrow or wide. In a pair of digits
+/// the first one's elements are the bars and the second one's the spaces.
 inline constexpr std::array<std::string_view, 10> kTwoOfFivePatterns{
     // 0
     "nnwwn", "wnnnw", "nwnnw", "wwnnn", "nnwnw", "wnwnn", "nwwnn", "nnnww", "wnnwn", "nwnwn",
