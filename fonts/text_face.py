@@ -5,7 +5,7 @@ foot of the 1, open forms that neither eye nor reader confuses.
 on the line y = 0 and beginning at x = 0.
 """
 
-from math import acos, atan2, ceil, cos, degrees, hypot, radians, sin, sqrt, tan
+from math import acos, atan2, ceil, cos, degrees, floor, hypot, radians, sin, sqrt, tan
 
 WIDTH_TO_HEIGHT = 0.6
 
@@ -194,15 +194,21 @@ _DRAWINGS = (_zero, _one, _two, _three, _four, _five, _six, _seven, _eight, _nin
 
 
 def _arc(centreX, centreY, radius, begin, end):
-    """A circular arc in quadratic pieces of at most 45 degrees, both ends included."""
-    pieces = max(1, ceil(abs(end - begin) / 45 - 1e-9))
-    step = (end - begin) / pieces
-    reach = radius / cos(radians(step / 2))
+    """A circular arc in quadratic pieces, both ends included; pieces meet at every 45 degrees between.
+
+    Between two whole pieces the meeting point is left to the format, which implies the middle of two
+    points off the curve: that is where the circle passes, and no rounding makes a corner of it.
+    """
+    turn = 1 if end > begin else -1
+    first = 45 * (floor(turn * begin / 45) + 1)
+    angles = [begin, *(turn * angle for angle in range(first, ceil(turn * end), 45)), end]
     points = [_on_circle(centreX, centreY, radius, begin, True)]
-    for piece in range(pieces):
-        angle = begin + piece * step
-        points.append(_on_circle(centreX, centreY, reach, angle + step / 2, False))
-        points.append(_on_circle(centreX, centreY, radius, angle + step, True))
+    for start, stop in zip(angles, angles[1:]):
+        reach = radius / cos(radians((stop - start) / 2))
+        points.append(_on_circle(centreX, centreY, reach, (start + stop) / 2, False))
+        whole = abs(stop - start) == 45 and abs(end - stop) >= 45
+        if stop % 90 == 0 or not whole:
+            points.append(_on_circle(centreX, centreY, radius, stop, True))
     return points
 
 
