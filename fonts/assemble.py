@@ -28,7 +28,9 @@ def assemble(design, path, variable=False):
     builder.setupCharacterMap(character_map(design.glyphOfByte))
     builder.setupGlyf({glyph.name: _outline(glyph) for glyph in glyphs})
     table = builder.font["glyf"]
-    builder.setupHorizontalMetrics({glyph.name: (glyph.advance, _left(table, glyph)) for glyph in glyphs})
+    builder.setupHorizontalMetrics(
+        {glyph.name: (glyph.advance, _left(table, glyph)) for glyph in glyphs}
+    )
     builder.setupHorizontalHeader(ascent=design.ascent, descent=0, lineGap=0)
     builder.setupNameTable(_names(design, variable))
     _setup_os2(builder, design)
@@ -41,11 +43,13 @@ def assemble(design, path, variable=False):
 
 
 def character_map(glyphOfByte):
-    return {codePoint: glyph for byte, glyph in glyphOfByte.items() for codePoint in code_points(byte)}
+    return {
+        codePoint: glyph for byte, glyph in glyphOfByte.items() for codePoint in code_points(byte)
+    }
 
 
 def code_points(byte):
-    """Where a byte is found. Text engines swallow controls, so these are at their Unicode pictures."""
+    """Where a byte is found. Text engines swallow controls: these are at their control pictures."""
     private = 0xF000 + byte
     if byte < 32:
         return [0x2400 + byte, private]
@@ -130,7 +134,11 @@ def _setup_variations(builder, glyphs, narrowBar):
     builder.setupFvar([HEIGHT_AXIS, REDUCTION_AXIS], [])
     builder.setupStat(
         [
-            {"tag": tag, "name": name, "values": [{"value": default, "name": "Regular", "flags": 2}]}
+            {
+                "tag": tag,
+                "name": name,
+                "values": [{"value": default, "name": "Regular", "flags": 2}],
+            }
             for tag, _, default, _, name in (HEIGHT_AXIS, REDUCTION_AXIS)
         ]
     )

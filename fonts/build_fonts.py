@@ -1,4 +1,4 @@
-"""Writes the ten Linewright fonts to a folder, and their variable forms to its folder `variable`."""
+"""Writes the ten Linewright fonts to a folder, their variable forms to its folder `variable`."""
 
 import argparse
 import sys

@@ -1,7 +1,7 @@
-"""What a font consists of, before it is a file: glyphs of bars and text, and the bytes they answer to.
+"""A font before it is a file: glyphs of bars and text, and the bytes that they answer to.
 
-All lengths are font units. A height is a `Level`: a part that stands still and a part that the height
-axis stretches.
+All lengths are font units. A height is a `Level`: a part that stands still and a part that the
+height axis stretches.
 """
 
 from dataclasses import dataclass, field

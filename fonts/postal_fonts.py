@@ -2,8 +2,7 @@
 
 At 11.5 point: bars 0.020 in wide and 22.3 to the inch; Intelligent Mail (USPS-B-3200) full bars
 0.145 in and trackers 0.048 in high; Postnet (Domestic Mail Manual 708.4) tall bars 0.125 in and
-short bars 0.050 in high. All bars stand on the baseline or, ascenders and trackers, where
-USPS-B-3200 lets them hang in the full bar.
+short bars 0.050 in high. A full bar stands on the baseline, the tracker in its middle.
 """
 
 from design import Bar, FontDesign, Glyph, Level
@@ -60,6 +59,7 @@ def _design(family, extents):
 
 def _glyph(name, extents):
     bars = [
-        Bar(place * PITCH, place * PITCH + BAR, bottom, top) for place, (bottom, top) in enumerate(extents)
+        Bar(place * PITCH, place * PITCH + BAR, bottom, top)
+        for place, (bottom, top) in enumerate(extents)
     ]
     return Glyph(name, len(extents) * PITCH, bars)

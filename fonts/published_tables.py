@@ -44,7 +44,10 @@ def code39_patterns():
         for place, character in enumerate(characters)
     }
     patterns.update(
-        {character: _interleave("nnnnn", spaces) for character, spaces in CODE39_NARROW_BARS.items()}
+        {
+            character: _interleave("nnnnn", spaces)
+            for character, spaces in CODE39_NARROW_BARS.items()
+        }
     )
     return patterns
 
@@ -77,8 +80,8 @@ UPCE_RIGHT_GUARD = (False, "111111")
 ADD_ON_GUARD = (True, "112")
 ADD_ON_DELINEATOR = (False, "11")
 
-# Postnet, Domestic Mail Manual 708.4: two tall bars (1) of five, by the weights 7 4 2 1 0; the digit
-# 0 is written as eleven.
+# Postnet, Domestic Mail Manual 708.4: two tall bars of five, by the weights 7 4 2 1 0; the digit 0
+# is written as eleven.
 POSTNET_WEIGHTS = (7, 4, 2, 1, 0)
 
 

@@ -39,7 +39,7 @@ def designs():
 
 
 def ean_upc():
-    """The add-on begins after a glyph that is a gap: the space, or a UPC symbol's last outer digit."""
+    """The add-on begins after a gap: the space, or a UPC symbol's last outer digit."""
     characters = {
         "(": "guard",
         "*": "centre",
@@ -54,18 +54,29 @@ def ean_upc():
     characters.update(_run("longLeft", "a"))
     characters.update(_run("longRight", "k"))
     characters.update(_named("outer", "UVWXYuvwxy"))
-    characters.update(_named("addOnOdd", "\"#$%&,./:;"))
+    characters.update(_named("addOnOdd", '"#$%&,./:;'))
     characters.update(_named("addOnEven", "z=?@[\\]_{}"))
     glyphs = _symbol_glyphs() + _outer_glyphs(advance=11, fullAt=1)
-    glyphs += [_glyph("addOnGuard", ADD_ON_GUARD, GUARD_BOTTOM, ADD_ON_TOP), Glyph("space", 9 * MODULE)]
-    return _design("Linewright EAN UPC", glyphs, {ord(key): name for key, name in characters.items()})
+    glyphs += [
+        _glyph("addOnGuard", ADD_ON_GUARD, GUARD_BOTTOM, ADD_ON_TOP),
+        Glyph("space", 9 * MODULE),
+    ]
+    return _design("Linewright EAN UPC", glyphs, characters)
 
 
 def classic_ean_upc():
-    """The add-on follows the right guard or the last outer digit at once, so its guard has the gap:
-    7 modules, and 12 with the outer digit's 5, the least and the most that ISO/IEC 15420 allows."""
-    characters = {"<": "guard", "=": "centre", ">": "upcERight", "+": "addOnGuard", "-": "addOnDelineator"}
-    characters.update({" ": "space"})
+    """The add-on follows the right guard or the last outer digit at once, so its guard has the gap.
+
+    It is 7 modules, and 12 with the outer digit's 5: the least and the most of ISO/IEC 15420.
+    """
+    characters = {
+        "<": "guard",
+        "=": "centre",
+        ">": "upcERight",
+        "+": "addOnGuard",
+        "-": "addOnDelineator",
+        " ": "space",
+    }
     characters.update(_run("outer", "u"))
     characters.update(_run("odd", "!"))
     characters.update(_run("even", "k"))
@@ -77,7 +88,7 @@ def classic_ean_upc():
     glyphs = _symbol_glyphs() + _outer_glyphs(advance=5, fullAt=-1)
     glyphs.append(_glyph("addOnGuard", ADD_ON_GUARD, GUARD_BOTTOM, ADD_ON_TOP, gap=7))
     glyphs.append(Glyph("space", DIGIT_WIDTH * MODULE))
-    return _design("Linewright Classic EAN UPC", glyphs, {ord(key): name for key, name in characters.items()})
+    return _design("Linewright Classic EAN UPC", glyphs, characters)
 
 
 def _run(name, first):
@@ -88,13 +99,16 @@ def _named(name, characters):
     return {character: f"{name}{value}" for value, character in enumerate(characters)}
 
 
-def _design(family, glyphs, glyphOfByte):
-    return FontDesign(family, UNITS_PER_EM, MODULE, BAR_TOP.height, glyphs, glyphOfByte, _FULL_SIZE_FIRST_DIGIT)
+def _design(family, glyphs, characters):
+    glyphOfByte = {ord(character): name for character, name in characters.items()}
+    return FontDesign(
+        family, UNITS_PER_EM, MODULE, BAR_TOP.height, glyphs, glyphOfByte, _FULL_SIZE_FIRST_DIGIT
+    )
 
 
-# The outer digits' bytes are the same for EAN and UPC and are drawn in UPC's size. Where text engines
-# do contextual alternates, the first digit of EAN-13 (six left digits up to the centre, none of them
-# long) gets the size of the others. Advances stay, so nothing depends on it.
+# The outer digits' bytes are the same for EAN and UPC and are drawn in UPC's size. Where a text
+# engine does contextual alternates, the first digit of EAN-13 (six left digits up to the centre,
+# none of them long) gets the size of the others. Advances stay, so nothing depends on it.
 _FULL_SIZE_FIRST_DIGIT = """
 @outer = [{outer}];
 @full = [{full}];
@@ -117,7 +131,9 @@ def _symbol_glyphs():
         _glyph("addOnDelineator", ADD_ON_DELINEATOR, GUARD_BOTTOM, ADD_ON_TOP),
     ]
     for value in range(10):
-        odd, even, right = (False, EAN_SET_A[value]), (False, EAN_SET_B[value]), (True, EAN_SET_C[value])
+        odd = (False, EAN_SET_A[value])
+        even = (False, EAN_SET_B[value])
+        right = (True, EAN_SET_C[value])
         below = _centred(value, TEXT_LINE)
         above = _centred(value, ADD_ON_TEXT_LINE)
         glyphs += [

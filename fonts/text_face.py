@@ -1,8 +1,8 @@
-"""The digits that EAN and UPC fonts print: one even stroke, lines and circular arcs, no serif but the
-foot of the 1, open forms that neither eye nor reader confuses.
+"""The digits that EAN and UPC fonts print: one even stroke, lines and circular arcs, no serif but
+the foot of the 1, open forms that neither eye nor reader confuses.
 
-`digit` gives contours of (x, y, on the curve) in whole font units, the outer ones clockwise, standing
-on the line y = 0 and beginning at x = 0.
+`digit` gives contours of (x, y, on the curve) in whole font units, the outer ones clockwise,
+standing on the line y = 0 and beginning at x = 0.
 """
 
 from math import acos, atan2, ceil, cos, degrees, floor, hypot, radians, sin, sqrt, tan
@@ -53,8 +53,18 @@ def _one(box):
 
     foot = 0.34 * box.width
     stem = (left + right) / 2
-    points = [(stem - foot, 0), (stem - foot, stroke), (left, stroke), (left, flag(left) - thickness)]
-    points += [(flagEnd, flag(flagEnd) - thickness), (flagEnd, flag(flagEnd)), (peak, height), (right, height)]
+    points = [
+        (stem - foot, 0),
+        (stem - foot, stroke),
+        (left, stroke),
+        (left, flag(left) - thickness),
+    ]
+    points += [
+        (flagEnd, flag(flagEnd) - thickness),
+        (flagEnd, flag(flagEnd)),
+        (peak, height),
+        (right, height),
+    ]
     points += [(right, stroke), (stem + foot, stroke), (stem + foot, 0)]
     return [_polygon(points)]
 
@@ -76,7 +86,11 @@ def _two(box):
 
     begin = 168
     points = _arc(box.middle, centreY, box.outer, begin, tangent)
-    points += [diagonal(box.outer, y=box.stroke), (box.width, box.stroke, True), (box.width, 0, True)]
+    points += [
+        diagonal(box.outer, y=box.stroke),
+        (box.width, box.stroke, True),
+        (box.width, 0, True),
+    ]
     points += [(0, 0, True), diagonal(box.inner, x=0)]
     points += _arc(box.middle, centreY, box.inner, tangent, begin)
     return [_contour(points)]
@@ -180,7 +194,8 @@ def _eight(box):
     points = _arc(middle, upperY, upperRadius, 180 - upperMeet, upperMeet)
     points += _arc(middle, lowerY, lowerRadius, lowerMeet, -180 - lowerMeet)
     counters = [
-        _contour(_arc(middle, y, radius - box.stroke, 180, -180))[::-1] for y, radius in (upper, lower)
+        _contour(_arc(middle, y, radius - box.stroke, 180, -180))[::-1]
+        for y, radius in (upper, lower)
     ]
     return [_contour(points)] + counters
 
@@ -194,10 +209,10 @@ _DRAWINGS = (_zero, _one, _two, _three, _four, _five, _six, _seven, _eight, _nin
 
 
 def _arc(centreX, centreY, radius, begin, end):
-    """A circular arc in quadratic pieces, both ends included; pieces meet at every 45 degrees between.
+    """A circular arc in quadratic pieces that meet at multiples of 45 degrees, both ends included.
 
-    Between two whole pieces the meeting point is left to the format, which implies the middle of two
-    points off the curve: that is where the circle passes, and no rounding makes a corner of it.
+    Between two whole pieces the meeting point is left to the format, which implies the middle of
+    two points off the curve: there the circle passes, and no rounding makes a corner of it.
     """
     turn = 1 if end > begin else -1
     first = 45 * (floor(turn * begin / 45) + 1)

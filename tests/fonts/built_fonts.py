@@ -77,7 +77,9 @@ class Font:
 
     def bars(self, glyph):
         """(left, right, bottom, top) of each upright rectangle, from the left."""
-        return sorted(_extent(contour) for contour in self.contours(glyph) if _is_rectangle(contour))
+        return sorted(
+            _extent(contour) for contour in self.contours(glyph) if _is_rectangle(contour)
+        )
 
     def text(self, glyph):
         return [contour for contour in self.contours(glyph) if not _is_rectangle(contour)]
@@ -114,7 +116,7 @@ def expected_code_points(byte):
 
 
 def runs(bits):
-    """A row of modules as (is bar, width) elements: "1101" is a bar of 2, a space of 1, a bar of 1."""
+    """A row of modules as (is bar, width) elements: "1101" is bar 2, space 1, bar 1."""
     found = []
     for bit in bits:
         if found and found[-1][0] == (bit == "1"):

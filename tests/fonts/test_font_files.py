@@ -14,7 +14,9 @@ VARIABLE_TABLES = {"fvar", "gvar", "STAT"}
 
 class FontFileTest(unittest.TestCase):
     def test_files_are_ten_and_ten(self):
-        self.assertEqual({file.name for file in folder().glob("*.ttf")}, {path(f).name for f in FAMILIES})
+        self.assertEqual(
+            {file.name for file in folder().glob("*.ttf")}, {path(f).name for f in FAMILIES}
+        )
         variable = {file.name for file in (folder() / "variable").iterdir()}
         self.assertEqual(variable, {path(f, True).name for f in FAMILIES})
 
@@ -46,7 +48,9 @@ class FontFileTest(unittest.TestCase):
             self.assertEqual(module & (module - 1), 0)
             header, os2 = file["hhea"], file["OS/2"]
             self.assertEqual((header.ascent, header.descent, header.lineGap), (header.ascent, 0, 0))
-            self.assertEqual((os2.sTypoAscender, os2.sTypoDescender, os2.sTypoLineGap), (header.ascent, 0, 0))
+            self.assertEqual(
+                (os2.sTypoAscender, os2.sTypoDescender, os2.sTypoLineGap), (header.ascent, 0, 0)
+            )
             self.assertEqual((os2.usWinAscent, os2.usWinDescent), (header.ascent, 0))
             self.assertLessEqual(header.ascent, unitsPerEm)
             self.assertEqual(os2.fsType, 0)
@@ -67,7 +71,9 @@ class FontFileTest(unittest.TestCase):
 
     def test_character_maps_agree(self):
         for _, _, file in self.files():
-            tables = {(table.platformID, table.platEncID): table.cmap for table in file["cmap"].tables}
+            tables = {
+                (table.platformID, table.platEncID): table.cmap for table in file["cmap"].tables
+            }
             self.assertEqual(set(tables), {(0, 3), (3, 1)})
             self.assertEqual(tables[(0, 3)], tables[(3, 1)])
 
@@ -78,13 +84,17 @@ class FontFileTest(unittest.TestCase):
             outer, inner = subject.bars(".notdef")
             self.assertTrue(outer[0] < inner[0] and inner[1] < outer[1])
             self.assertTrue(outer[2] < inner[2] and inner[3] < outer[3])
-            self.assertNotEqual(_turn(subject.contours(".notdef")[0]), _turn(subject.contours(".notdef")[1]))
+            self.assertNotEqual(
+                _turn(subject.contours(".notdef")[0]), _turn(subject.contours(".notdef")[1])
+            )
             self.assertNotIn(".notdef", subject.map.values())
 
     def test_every_glyph_is_reached(self):
         for family in FAMILIES:
             unreached = set(font(family).file.getGlyphOrder()) - set(font(family).map.values())
-            alternates = {f"outer{digit}.full" for digit in range(10)} if "EAN UPC" in family else set()
+            alternates = (
+                {f"outer{digit}.full" for digit in range(10)} if "EAN UPC" in family else set()
+            )
             self.assertEqual(unreached, {".notdef"} | alternates)
 
 
@@ -124,7 +134,9 @@ class VariableFontTest(unittest.TestCase):
                     self.assert_same(family, subject, lambda e: (*e[:3], e[3] + rise), rise)
                 else:
                     scale = percent / 100
-                    self.assert_same(family, subject, lambda e: (e[0], e[1], e[2] * scale, e[3] * scale))
+                    self.assert_same(
+                        family, subject, lambda e: (e[0], e[1], e[2] * scale, e[3] * scale)
+                    )
 
     def test_both_ends_at_once(self):
         subject = self.instance("Linewright Bars", BHGT=400, BWRD=25)
@@ -142,7 +154,9 @@ class VariableFontTest(unittest.TestCase):
                     continue
                 self.assertEqual(subject.bars(glyph), [changed(bar) for bar in static.bars(glyph)])
                 up = rise if glyph.startswith("addOn") else 0
-                moved = [[(x, y + up, on) for x, y, on in contour] for contour in static.text(glyph)]
+                moved = [
+                    [(x, y + up, on) for x, y, on in contour] for contour in static.text(glyph)
+                ]
                 self.assertEqual(subject.text(glyph), moved)
 
 
@@ -154,13 +168,19 @@ class RepeatedBuildTest(unittest.TestCase):
             names = sorted(file.relative_to(one) for file in Path(one).rglob("*.ttf"))
             self.assertEqual(len(names), 20)
             for name in names:
-                self.assertEqual((Path(one) / name).read_bytes(), (Path(other) / name).read_bytes(), name)
-                self.assertEqual((Path(one) / name).read_bytes(), (folder() / name).read_bytes(), name)
+                self.assertEqual(
+                    (Path(one) / name).read_bytes(), (Path(other) / name).read_bytes(), name
+                )
+                self.assertEqual(
+                    (Path(one) / name).read_bytes(), (folder() / name).read_bytes(), name
+                )
 
 
 def _turn(contour):
     """The sign of a contour's area."""
-    area = sum(x * yy - xx * y for (x, y, _), (xx, yy, _) in zip(contour, contour[1:] + contour[:1]))
+    area = sum(
+        x * yy - xx * y for (x, y, _), (xx, yy, _) in zip(contour, contour[1:] + contour[:1])
+    )
     return area > 0
 
 

@@ -38,7 +38,14 @@ class PostalFontTest(unittest.TestCase):
 
     def test_postnet(self):
         height = {"0": (0, 640), "1": (0, 1600)}
-        for letter, bars in {"j": "00", "k": "01", "l": "10", "m": "11", "n": "1", "o": "0"}.items():
+        for letter, bars in {
+            "j": "00",
+            "k": "01",
+            "l": "10",
+            "m": "11",
+            "n": "1",
+            "o": "0",
+        }.items():
             self.check_row(POSTAL, letter, [height[bar] for bar in bars])
         for digit, bars in enumerate(DIGITS):
             self.check_row(POSTNET, str(digit), [height[bar] for bar in bars])

@@ -1,4 +1,4 @@
-"""The EAN and UPC fonts: every glyph against the module rows of ISO/IEC 15420, and its printed digits."""
+"""The EAN and UPC fonts: every glyph against the module rows of ISO/IEC 15420, and its text."""
 
 import unittest
 
@@ -130,7 +130,9 @@ class RetailCase:
             above = self.font.text(self.glyph("add-on A", digit))
             self.assertEqual(self.font.text(self.glyph("add-on B", digit)), above)
             rise = ADD_ON_TOP * 32 + 24
-            self.assertEqual(above, [[(x, y + rise, on) for x, y, on in contour] for contour in below])
+            self.assertEqual(
+                above, [[(x, y + rise, on) for x, y, on in contour] for contour in below]
+            )
             self.assertEqual(bounds(above)[3], TOP * 32)
             for kind in ("long first", "long last"):
                 self.assertEqual(self.font.text(self.glyph(kind, digit)), [])
@@ -148,7 +150,9 @@ class RetailCase:
 
     def test_first_digit_of_ean13_is_full_size_by_a_feature_that_moves_nothing(self):
         table = self.font.file["GSUB"].table
-        self.assertEqual([record.FeatureTag for record in table.FeatureList.FeatureRecord], ["calt"])
+        self.assertEqual(
+            [record.FeatureTag for record in table.FeatureList.FeatureRecord], ["calt"]
+        )
         for digit in TEN:
             glyph = self.glyph("outer", digit)
             full = glyph + ".full"
@@ -157,7 +161,9 @@ class RetailCase:
             drawn = self.font.text(full)
             below = self.font.text(self.glyph("A", digit))
             shift = bounds(drawn)[0] - bounds(below)[0]
-            self.assertEqual(drawn, [[(x + shift, y, on) for x, y, on in contour] for contour in below])
+            self.assertEqual(
+                drawn, [[(x + shift, y, on) for x, y, on in contour] for contour in below]
+            )
         context = [
             lookup.SubTable[0] for lookup in table.LookupList.Lookup if lookup.LookupType == 6
         ]

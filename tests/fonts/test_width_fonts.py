@@ -1,4 +1,4 @@
-"""Linewright Bars and the classic width-modulated fonts: every glyph against the published widths."""
+"""Linewright Bars and the classic fonts of one bar height: every glyph against its widths."""
 
 import csv
 import unittest
@@ -46,12 +46,16 @@ class BarsTest(WidthFontCase):
         for bar in (1, 2, 3, 4):
             for space in (1, 2, 3, 4):
                 widths[ord("A") + 4 * (bar - 1) + (space - 1)] = [bar, space]
-        widths.update({ord("W"): [1, 1], ord("X"): [1, 2.5], ord("Y"): [2.5, 1], ord("Z"): [2.5, 2.5]})
+        widths.update(
+            {ord("W"): [1, 1], ord("X"): [1, 2.5], ord("Y"): [2.5, 1], ord("Z"): [2.5, 2.5]}
+        )
         self.check("Linewright Bars", widths, {32: 10})
 
     def test_code128_stop_ends_in_white(self):
         subject = font("Linewright Bars")
-        elements = [width for letter in "GIAH" for _, width in subject.elements(subject.map[ord(letter)])]
+        elements = [
+            width for letter in "GIAH" for _, width in subject.elements(subject.map[ord(letter)])
+        ]
         stop = [int(width) for width in rows("code128-widths.csv", "value", "widths")["stop"]]
         self.assertEqual(elements[:7], stop)
 
@@ -62,10 +66,10 @@ class Code128Test(WidthFontCase):
 
     def test_every_byte(self):
         valueOfByte = {}
-        # Set A data: controls and the plain characters; set B data: 33 to 134; "'" has its own byte.
+        # Set A data: controls and 33 to 95; set B data: 33 to 134; "'" has a byte of its own.
         valueOfByte.update({byte: str(byte + 64) for byte in range(0, 32)})
         valueOfByte.update({byte: str(byte - 32) for byte in range(33, 135) if byte != 39})
-        # Set C data 95 before the sum is taken, and the spare form of 64.
+        # The forms of 95 and 64 that set C takes its sum over.
         valueOfByte.update({139: "95", 141: "64"})
         # Check characters, and the data 0, 7, 95, 96, 97 that share their form.
         valueOfByte.update({192: "0", 193: "7", 194: "64", 195: "95", 196: "96", 197: "97"})
@@ -76,8 +80,18 @@ class Code128Test(WidthFontCase):
 
     def test_data_and_check_forms_of_a_value_are_one_drawing(self):
         subject = font("Linewright Classic Code 128")
-        private = {byte: subject.map.get(0xF000 + byte, subject.map.get(byte)) for byte in range(256)}
-        for data, check in ((96, 194), (127, 195), (128, 196), (129, 197), (130, 198), (131, 199), (0, 194)):
+        private = {
+            byte: subject.map.get(0xF000 + byte, subject.map.get(byte)) for byte in range(256)
+        }
+        for data, check in (
+            (96, 194),
+            (127, 195),
+            (128, 196),
+            (129, 197),
+            (130, 198),
+            (131, 199),
+            (0, 194),
+        ):
             self.assertEqual(subject.contours(private[data]), subject.contours(private[check]))
 
 
