@@ -28,9 +28,6 @@ TEXT_LINE = Level()
 TEXT_HEIGHT = 8.25 * MODULE
 TEXT_STROKE = MODULE
 ADD_ON_TEXT_LINE = Level(fixed=round(0.75 * MODULE), stretch=69 * MODULE)
-# The outer digits of UPC symbols are at most four modules wide.
-OUTER_HEIGHT = 6 * MODULE
-OUTER_STROKE = 0.85 * MODULE
 DIGIT_WIDTH = 7
 
 
@@ -39,7 +36,7 @@ def designs():
 
 
 def ean_upc():
-    """The add-on begins after a gap: the space, or a UPC symbol's last outer digit."""
+    """The add-on begins after a gap of 9 modules: the space, or a UPC symbol's last outer digit."""
     characters = {
         "(": "guard",
         "*": "centre",
@@ -56,7 +53,7 @@ def ean_upc():
     characters.update(_named("outer", "UVWXYuvwxy"))
     characters.update(_named("addOnOdd", '"#$%&,./:;'))
     characters.update(_named("addOnEven", "z=?@[\\]_{}"))
-    glyphs = _symbol_glyphs() + _outer_glyphs(advance=11, fullAt=1)
+    glyphs = _symbol_glyphs() + _outer_glyphs(advance=9, height=6, stroke=0.85, fullAt=0)
     glyphs += [
         _glyph("addOnGuard", ADD_ON_GUARD, GUARD_BOTTOM, ADD_ON_TOP),
         Glyph("space", 9 * MODULE),
@@ -67,7 +64,8 @@ def ean_upc():
 def classic_ean_upc():
     """The add-on follows the right guard or the last outer digit at once, so its guard has the gap.
 
-    It is 7 modules, and 12 with the outer digit's 5: the least and the most of ISO/IEC 15420.
+    ISO/IEC 15420 wants 7 to 12 modules after EAN and 9 to 12 after UPC, and readers are known that
+    look no further than 10. So the gap is 7, and the outer digit is as small as 3 modules allow.
     """
     characters = {
         "<": "guard",
@@ -85,7 +83,7 @@ def classic_ean_upc():
     characters.update(_run("longRight", "A"))
     characters.update(_run("addOnOdd", "U"))
     characters.update(_run("addOnEven", "\x80"))
-    glyphs = _symbol_glyphs() + _outer_glyphs(advance=5, fullAt=-1)
+    glyphs = _symbol_glyphs() + _outer_glyphs(advance=3, height=4, stroke=0.6, fullAt=-3)
     glyphs.append(_glyph("addOnGuard", ADD_ON_GUARD, GUARD_BOTTOM, ADD_ON_TOP, gap=7))
     glyphs.append(Glyph("space", DIGIT_WIDTH * MODULE))
     return _design("Linewright Classic EAN UPC", glyphs, characters)
@@ -148,12 +146,12 @@ def _symbol_glyphs():
     return glyphs
 
 
-def _outer_glyphs(advance, fullAt):
-    """Outer digits, in the middle of their advance; those of full size begin at module `fullAt`."""
-    left = round((advance * MODULE - digit_width(OUTER_HEIGHT)) / 2)
+def _outer_glyphs(advance, height, stroke, fullAt):
+    """Outer digits, in the middle of their advance; those of full size begin at `fullAt`."""
+    left = round((advance - digit_width(height)) / 2 * MODULE)
     glyphs = []
     for value in range(10):
-        small = placed(digit(value, OUTER_HEIGHT, OUTER_STROKE), left, TEXT_LINE)
+        small = placed(digit(value, height * MODULE, stroke * MODULE), left, TEXT_LINE)
         full = placed(digit(value, TEXT_HEIGHT, TEXT_STROKE), fullAt * MODULE, TEXT_LINE)
         glyphs.append(Glyph(f"outer{value}", advance * MODULE, text=small))
         glyphs.append(Glyph(f"outer{value}.full", advance * MODULE, text=full))

@@ -41,7 +41,8 @@ SIGNS = {
 }
 ADD_ON_SIGNS = {"current": "+!", "classic": "+-"}
 SPACE = {"current": 9, "classic": 7}
-OUTER_ADVANCE = {"current": 11, "classic": 5}
+OUTER_ADVANCE = {"current": 9, "classic": 3}
+OUTER_HEIGHT = {"current": 6, "classic": 4}
 ROWS = {"A": SET_A, "B": SET_B, "C": SET_C, "long first": SET_A, "long last": SET_C}
 ROWS.update({"add-on A": SET_A, "add-on B": SET_B})
 
@@ -114,7 +115,8 @@ class RetailCase:
         afterEan = {"current": " ", "classic": ""}[self.generation]
         self.assertTrue(7 <= gap(afterEan) <= 12)
         for digit in TEN:
-            self.assertTrue(9 <= gap(chr(DIGITS[self.generation]["outer"][digit])) <= 12)
+            after = gap(chr(DIGITS[self.generation]["outer"][digit]))
+            self.assertTrue(9 <= after <= 10)
 
     def test_text_is_one_drawing_for_each_digit(self):
         shapes = set()
@@ -144,9 +146,9 @@ class RetailCase:
             glyph = self.glyph("outer", digit)
             self.assertEqual(len(self.font.text(glyph)), CONTOURS[digit])
             left, right, bottom, top = bounds(self.font.text(glyph))
-            self.assertTrue(16 <= left and right <= self.font.advance(glyph) - 16)
+            self.assertTrue(8 <= left and right <= self.font.advance(glyph) - 8)
             self.assertLessEqual(right - left, 4 * 32)
-            self.assertEqual((bottom, top), (TEXT, 6 * 32))
+            self.assertEqual((bottom, top), (TEXT, OUTER_HEIGHT[self.generation] * 32))
 
     def test_first_digit_of_ean13_is_full_size_by_a_feature_that_moves_nothing(self):
         table = self.font.file["GSUB"].table
