@@ -32,7 +32,7 @@ struct Leaks {
  */
 class PUBLIC_DECL Host {
   public:
-    Host() = default;
+    Host();
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
     ~Host();
@@ -46,9 +46,13 @@ class PUBLIC_DECL Host {
     const char* Error() const;
 
   private:
-    struct Running;
-    Running* fRunning = nullptr;
+    struct State;
+    State* fState;
 };
+
+/** Whether this host halts the process, with a word on standard error, where a plug-in breaks a
+ *  rule (a double free, a change outside a transaction); debug builds do. Others carry on. */
+PUBLIC_DECL bool ChecksRules();
 
 /** Switches for tests of what happens when the machine fails. They hold until set again. */
 struct PUBLIC_DECL Faults {

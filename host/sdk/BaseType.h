@@ -35,5 +35,7 @@ constexpr OSType FourCharCode(char a, char b, char c, char d) {
            static_cast<OSType>(static_cast<uint8>(d));
 }
 
-/** Marks what the host's library exports; the stand-in exports everything, so it is empty here. */
+/** Marks what the host's library exports; the build of that library says how. */
+#ifndef PUBLIC_DECL
 #define PUBLIC_DECL
+#endif

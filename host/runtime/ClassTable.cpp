@@ -1,0 +1,138 @@
+#include "host/runtime/ClassTable.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <set>
+#include <stdexcept>
+
+#include "host/runtime/Platform.h"
+#include "host/runtime/ResourceFile.h"
+
+namespace fs = std::filesystem;
+
+namespace host {
+
+namespace {
+
+std::string Hex(uint32 id) {
+    char text[16];
+    std::snprintf(text, sizeof text, "0x%X", static_cast<unsigned>(id));
+    return text;
+}
+
+/** The implementations that a plug-in registered, and which of them a class has used. */
+class Registrations {
+  public:
+    explicit Registrations(const PlugIn& plugIn) {
+        for (auto* record = plugIn.GetImplementations(); record; record = record->next) {
+            if (!fRecords.emplace(record->id, record).second) {
+                throw std::runtime_error("implementation " + Hex(record->id) +
+                                         " is registered twice by the plug-in");
+            }
+        }
+    }
+
+    const ImplementationRecord* Use(ImplementationID id) {
+        const auto found = fRecords.find(id);
+        if (found == fRecords.end()) return nullptr;
+        fUsed.insert(id);
+        return found->second;
+    }
+
+    void ExpectAllUsed(const fs::path& resources) const {
+        for (const auto& [id, record] : fRecords) {
+            if (fUsed.contains(id)) continue;
+            throw std::runtime_error("implementation " + Hex(id) + " (" + record->className +
+                                     ") is registered by the plug-in but used by no class in " +
+                                     ToUtf8(resources));
+        }
+    }
+
+  private:
+    std::map<ImplementationID, const ImplementationRecord*> fRecords;
+    std::set<ImplementationID> fUsed;
+};
+
+Binding ReadBinding(const ResourceFile& file, const toml::table& table,
+                    Registrations& registrations) {
+    file.ExpectOnly(table, {"name", "id", "implementation"});
+    file.GetText(table, "name");
+    const ImplementationID implementation = file.GetID(table, "implementation");
+    const ImplementationRecord* const record = registrations.Use(implementation);
+    if (!record) {
+        file.Fail(table,
+                  "implementation " + Hex(implementation) + " is not registered by the plug-in");
+    }
+    return {file.GetID(table, "id"), implementation, record->create, record->destroy,
+            record->readWrite};
+}
+
+bool ReadIsPersistent(const ResourceFile& file, const toml::table& table) {
+    const toml::node* const node = table.get("persistent");
+    if (!node) return false;
+    const auto value = node->value_exact<bool>();
+    if (!value) file.Fail(*node, "\"persistent\" is true or false");
+    return *value;
+}
+
+BossClass ReadClass(const ResourceFile& file, const toml::table& table,
+                    Registrations& registrations) {
+    file.ExpectOnly(table, {"name", "class", "persistent", "interfaces"});
+    BossClass result{.name = file.GetText(table, "name"),
+                     .id = file.GetID(table, "class"),
+                     .isPersistent = ReadIsPersistent(file, table),
+                     .bindings = {}};
+    std::set<PMIID> interfaces;
+    for (const toml::table* element : file.GetTables(table, "interfaces")) {
+        const Binding binding = ReadBinding(file, *element, registrations);
+        if (!interfaces.insert(binding.interfaceID).second) {
+            file.Fail(*element,
+                      "interface " + Hex(binding.interfaceID) + " stands twice in " + result.name);
+        }
+        result.bindings.push_back(binding);
+    }
+    return result;
+}
+
+}  // namespace
+
+ClassTable::ClassTable(const fs::path& resources, const PlugIn& plugIn) {
+    const std::vector<fs::path> files = TomlFilesIn(resources);
+    if (files.empty()) {
+        throw std::runtime_error("resource file missing: no .toml in " + ToUtf8(resources));
+    }
+    Registrations registrations(plugIn);
+    for (const fs::path& path : files) {
+        const ResourceFile file(path);
+        file.ExpectOnly(file.Root(), {"plugin", "boss"});
+        file.GetID(file.Root(), "plugin");
+        for (const toml::table* table : file.GetTables(file.Root(), "boss")) {
+            BossClass next = ReadClass(file, *table, registrations);
+            if (const BossClass* const first = Find(next.id)) {
+                file.Fail(*table, "class " + Hex(next.id) + " of " + next.name +
+                                      " is already that of " + first->name);
+            }
+            fClasses.push_back(std::move(next));
+        }
+    }
+    registrations.ExpectAllUsed(resources);
+}
+
+const BossClass* ClassTable::Find(ClassID id) const {
+    const auto found = std::find_if(fClasses.begin(), fClasses.end(),
+                                    [id](const BossClass& boss) { return boss.id == id; });
+    return found == fClasses.end() ? nullptr : &*found;
+}
+
+std::vector<const BossClass*> ClassTable::WithInterface(PMIID interfaceID) const {
+    std::vector<const BossClass*> result;
+    for (const BossClass& boss : fClasses) {
+        if (std::any_of(boss.bindings.begin(), boss.bindings.end(),
+                        [&](const Binding& binding) { return binding.interfaceID == interfaceID; }))
+            result.push_back(&boss);
+    }
+    return result;
+}
+
+}  // namespace host

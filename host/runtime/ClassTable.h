@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "host/runtime/BossClass.h"
+
+namespace host {
+
+/** The classes of a plug-in: those of its resource definitions, each interface bound to the
+ *  implementation that the plug-in registered. */
+class ClassTable {
+  public:
+    ClassTable() = default;
+    /** Reads all definitions of a resource folder. Throws std::runtime_error saying what does not
+     *  fit together and where. */
+    ClassTable(const std::filesystem::path& resources, const PlugIn& plugIn);
+
+    /** The class of an id; nullptr when there is none. */
+    const BossClass* Find(ClassID id) const;
+    /** The classes with an interface, in the order of their definition. */
+    std::vector<const BossClass*> WithInterface(PMIID interfaceID) const;
+
+  private:
+    std::vector<BossClass> fClasses;
+};
+
+}  // namespace host

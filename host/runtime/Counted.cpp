@@ -1,0 +1,51 @@
+#include "host/runtime/Counted.h"
+
+#include <unordered_set>
+
+namespace host {
+
+namespace {
+
+typedef std::unordered_set<Counted*> Objects;
+
+// Both are never destroyed: objects may be left when the process ends.
+Objects& LiveObjects() {
+    static Objects* const objects = new Objects;
+    return *objects;
+}
+
+Objects& AbandonedObjects() {
+    static Objects* const objects = new Objects;
+    return *objects;
+}
+
+}  // namespace
+
+uint32 Counted::LiveReferences() {
+    uint32 references = 0;
+    for (const Counted* object : LiveObjects()) references += object->fReferences;
+    return references;
+}
+
+void Counted::AbandonAll() {
+    for (Counted* object : LiveObjects()) object->fAbandoned = true;
+    AbandonedObjects().merge(LiveObjects());
+}
+
+Counted::Counted() {
+    LiveObjects().insert(this);
+}
+
+Counted::~Counted() {
+    LiveObjects().erase(this);
+}
+
+void Counted::CountUp() const {
+    ++fReferences;
+}
+
+void Counted::CountDown() const {
+    if (--fReferences == 0 && !fAbandoned) delete this;
+}
+
+}  // namespace host

@@ -1,0 +1,64 @@
+#include "host/runtime/Host.h"
+
+#include <exception>
+#include <memory>
+#include <string>
+
+#include "host/runtime/Halt.h"
+#include "host/runtime/Running.h"
+
+namespace host {
+
+struct Host::State {
+    std::unique_ptr<Running> running;
+    std::string error;
+
+    Leaks Stop() {
+        const Leaks leaks = running->Stop();
+        SetRunning(nullptr);
+        running.reset();
+        return leaks;
+    }
+};
+
+Host::Host() : fState(new State) {}
+
+Host::~Host() {
+    Stop();
+    delete fState;
+}
+
+bool Host::Start(const Settings& settings) try {
+    if (GetRunning()) {
+        fState->error = "a host is running already";
+        return false;
+    }
+    fState->error.clear();
+    fState->running = std::make_unique<Running>();
+    SetRunning(fState->running.get());
+    fState->running->Start(settings);
+    return true;
+} catch (const std::exception& error) {
+    fState->error = error.what();
+    Stop();
+    return false;
+}
+
+Leaks Host::Stop() {
+    return fState->running ? fState->Stop() : Leaks();
+}
+
+const char* Host::Error() const {
+    return fState->error.c_str();
+}
+
+bool ChecksRules() {
+    return kChecksRules;
+}
+
+MemoryCounts CountMemory() {
+    const Running* const running = GetRunning();
+    return running ? running->memory.Counts() : MemoryCounts();
+}
+
+}  // namespace host

@@ -1,0 +1,43 @@
+#include "IDFile.h"
+
+#include "host/runtime/FilePath.h"
+#include "host/runtime/Platform.h"
+#include "host/runtime/Utf8.h"
+
+struct IDFile::Path {
+    PMString text;
+};
+
+IDFile::IDFile() : fPath(new Path) {}
+
+IDFile::IDFile(const IDFile& other) : fPath(new Path(*other.fPath)) {}
+
+IDFile& IDFile::operator=(const IDFile& other) {
+    *fPath = *other.fPath;
+    return *this;
+}
+
+IDFile::~IDFile() {
+    delete fPath;
+}
+
+PMString IDFile::GetString() const {
+    return fPath->text;
+}
+
+void IDFile::SetString(const PMString& fullPath) {
+    fPath->text = fullPath;
+    fPath->text.SetTranslatable(kFalse);
+}
+
+namespace host {
+
+std::filesystem::path PathOf(const IDFile& file) {
+    return PathFromUtf8(ToUtf8(file.GetString()));
+}
+
+void SetPath(IDFile& file, const std::filesystem::path& path) {
+    file.SetString(PlainText(ToUtf8(path)));
+}
+
+}  // namespace host

@@ -1,0 +1,68 @@
+#include "host/runtime/Library.h"
+
+#include <stdexcept>
+
+#include "host/runtime/Platform.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
+
+namespace fs = std::filesystem;
+
+namespace host {
+
+namespace {
+
+// A path without a folder would be searched for along the system's own.
+fs::path FullPath(const fs::path& path) {
+    if (!fs::is_regular_file(path)) {
+        throw std::runtime_error("plug-in library missing: " + ToUtf8(path));
+    }
+    return fs::absolute(path);
+}
+
+std::runtime_error LoadError(const fs::path& path, const std::string& reason) {
+    return std::runtime_error("plug-in library cannot be loaded: " + ToUtf8(path) + ": " + reason);
+}
+
+}  // namespace
+
+#ifdef _WIN32
+
+void Library::Load(const fs::path& path) {
+    fHandle = LoadLibraryExW(FullPath(path).make_preferred().c_str(), nullptr,
+                             LOAD_WITH_ALTERED_SEARCH_PATH);
+    if (!fHandle) throw LoadError(path, "Windows error " + std::to_string(GetLastError()));
+}
+
+void Library::Unload() {
+    if (fHandle) FreeLibrary(static_cast<HMODULE>(fHandle));
+    fHandle = nullptr;
+}
+
+void (*Library::Find(const char* name) const)() {
+    return reinterpret_cast<void (*)()>(GetProcAddress(static_cast<HMODULE>(fHandle), name));
+}
+
+#else
+
+void Library::Load(const fs::path& path) {
+    fHandle = dlopen(FullPath(path).c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!fHandle) throw LoadError(path, dlerror());
+}
+
+void Library::Unload() {
+    if (fHandle) dlclose(fHandle);
+    fHandle = nullptr;
+}
+
+void (*Library::Find(const char* name) const)() {
+    return reinterpret_cast<void (*)()>(dlsym(fHandle, name));
+}
+
+#endif
+
+}  // namespace host

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/runtime/FrontEnd.h"
+
+namespace host {
+
+/** Keeps what would be shown, for tests to look at. */
+class RecordingFrontEnd final : public FrontEnd {
+  public:
+    struct Alert {
+        AlertKind kind;
+        std::string text;
+        bool operator==(const Alert&) const = default;
+    };
+
+    void ShowAlert(AlertKind kind, const char* text) override { alerts.push_back({kind, text}); }
+    void Beep() override { ++beeps; }
+
+    std::vector<Alert> alerts;
+    int beeps = 0;
+};
+
+}  // namespace host

@@ -1,0 +1,101 @@
+#include "host/runtime/ResourceFile.h"
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+
+#include "host/runtime/Platform.h"
+
+namespace fs = std::filesystem;
+
+namespace host {
+
+namespace {
+
+std::string ReadWhole(const fs::path& path) {
+    std::FILE* const file = fs::is_directory(path) ? nullptr : OpenFile(path, OpenMode::kRead);
+    if (!file) throw std::runtime_error("resource file missing: " + ToUtf8(path));
+    std::string content;
+    char part[4096];
+    while (const std::size_t count = std::fread(part, 1, sizeof part, file)) {
+        content.append(part, count);
+    }
+    const bool failed = std::ferror(file) != 0;
+    std::fclose(file);
+    if (failed) throw std::runtime_error("resource file cannot be read: " + ToUtf8(path));
+    return content;
+}
+
+std::runtime_error ErrorAt(const std::string& file, const toml::source_region& where,
+                           const std::string& what) {
+    return std::runtime_error(file + ", line " + std::to_string(where.begin.line) + ": " + what);
+}
+
+}  // namespace
+
+std::vector<fs::path> TomlFilesIn(const fs::path& folder) {
+    std::vector<fs::path> files;
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
+        if (entry.path().extension() == ".toml") files.push_back(entry.path());
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+ResourceFile::ResourceFile(const fs::path& path) : fName(ToUtf8(path)) {
+    try {
+        fRoot = toml::parse(ReadWhole(path), fName);
+    } catch (const toml::parse_error& error) {
+        throw ErrorAt(fName, error.source(), std::string(error.description()));
+    }
+}
+
+const toml::node& ResourceFile::Get(const toml::table& table, std::string_view name) const {
+    const toml::node* const node = table.get(name);
+    if (!node) Fail(table, "\"" + std::string(name) + "\" is missing");
+    return *node;
+}
+
+std::string ResourceFile::GetText(const toml::table& table, std::string_view name) const {
+    const toml::node& node = Get(table, name);
+    const auto text = node.value_exact<std::string>();
+    if (!text) Fail(node, "\"" + std::string(name) + "\" is a string");
+    return *text;
+}
+
+uint32_t ResourceFile::GetID(const toml::table& table, std::string_view name) const {
+    const toml::node& node = Get(table, name);
+    const auto number = node.value_exact<int64_t>();
+    if (!number || *number < 1 || *number > std::numeric_limits<uint32_t>::max()) {
+        Fail(node, "\"" + std::string(name) + "\" is a number from 1 to 0xFFFFFFFF");
+    }
+    return static_cast<uint32_t>(*number);
+}
+
+std::vector<const toml::table*> ResourceFile::GetTables(const toml::table& table,
+                                                        std::string_view name) const {
+    const toml::node& node = Get(table, name);
+    std::vector<const toml::table*> tables;
+    if (!node.is_array()) Fail(node, "\"" + std::string(name) + "\" is a list of tables");
+    for (const toml::node& element : *node.as_array()) {
+        if (!element.is_table()) Fail(element, "\"" + std::string(name) + "\" is a list of tables");
+        tables.push_back(element.as_table());
+    }
+    return tables;
+}
+
+void ResourceFile::ExpectOnly(const toml::table& table,
+                              std::initializer_list<std::string_view> names) const {
+    for (const auto& [key, node] : table) {
+        if (std::find(names.begin(), names.end(), key.str()) == names.end()) {
+            Fail(node, "\"" + std::string(key.str()) + "\" is not known");
+        }
+    }
+}
+
+void ResourceFile::Fail(const toml::node& where, const std::string& what) const {
+    throw ErrorAt(fName, where.source(), what);
+}
+
+}  // namespace host

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include "IStartupShutdownService.h"
+#include "InterfacePtr.h"
+#include "LocaleSetting.h"
+#include "host/runtime/Boss.h"
+#include "host/runtime/ClassTable.h"
+#include "host/runtime/ConsoleFrontEnd.h"
+#include "host/runtime/DataBase.h"
+#include "host/runtime/Host.h"
+#include "host/runtime/Library.h"
+#include "host/runtime/Memory.h"
+#include "host/runtime/StringTable.h"
+
+namespace host {
+
+/** All that belongs to the host while it runs. */
+struct Running {
+    Running() = default;
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+    /** Throws std::exception with what is wrong; Stop clears up in any case. */
+    void Start(const Settings& settings);
+    Leaks Stop();
+
+    ConsoleFrontEnd console;
+    FrontEnd* frontEnd = &console;
+    bool showsAlerts = true;
+    std::optional<std::filesystem::path> roamingFolder;
+    std::optional<std::filesystem::path> appFolder;
+    PMLocaleId locale = 0;
+    StringTable strings;
+    Memory memory;
+    DataBase dataBase;
+    ClassTable classes;
+    Library library;
+    Boss* session = nullptr;
+    Boss* application = nullptr;
+    std::vector<IStartupShutdownService*> services;  // those started, in order
+
+  private:
+    void SetFolders(const Settings& settings);
+    void SetLocale(const std::filesystem::path& resources, const char* name);
+    void LoadPlugIn(const std::filesystem::path& plugIn, const std::filesystem::path& resources);
+    void RunServices();
+};
+
+/** The host that runs; nullptr when none does. */
+Running* GetRunning();
+void SetRunning(Running* running);
+
+}  // namespace host

@@ -1,0 +1,65 @@
+#include "host/runtime/Session.h"
+
+#include "CPMUnknown.h"
+#include "IApplication.h"
+#include "IDialogMgr.h"
+#include "ISession.h"
+#include "host/runtime/MemoryService.h"
+#include "host/runtime/Running.h"
+
+namespace host {
+
+namespace {
+
+class Session final : public CPMUnknown<ISession> {
+  public:
+    using CPMUnknown::CPMUnknown;
+
+    IApplication* QueryApplication() const noexcept override {
+        return static_cast<IApplication*>(
+            GetRunning()->application->QueryInterface(IID_IAPPLICATION));
+    }
+};
+
+class Application final : public CPMUnknown<IApplication> {
+  public:
+    using CPMUnknown::CPMUnknown;
+
+    IDialogMgr* QueryDialogMgr() const noexcept override {
+        return static_cast<IDialogMgr*>(QueryInterface(IID_IDIALOGMGR));
+    }
+};
+
+class DialogManager final : public CPMUnknown<IDialogMgr> {
+  public:
+    using CPMUnknown::CPMUnknown;
+
+    // No plug-in's resource definitions describe views, so there is never one to make.
+    IDialog* CreateNewDialog(const RsrcSpec&, IDialog::DialogType, bool16) noexcept override {
+        return nullptr;
+    }
+};
+
+/** Binds an implementation of the host's own, which needs no number. */
+template <class Implementation>
+Binding Bind() {
+    return {Implementation::kDefaultIID, 0,
+            [](IPMUnknown* boss) -> IPMUnknown* { return new Implementation(boss); },
+            [](IPMUnknown* object) { delete static_cast<Implementation*>(object); }, nullptr};
+}
+
+}  // namespace
+
+const BossClass kSessionClass{.name = "kSessionBoss",
+                              .bindings = {Bind<Session>(), Bind<MemoryService>()}};
+
+const BossClass kApplicationClass{.name = "kAppBoss",
+                                  .bindings = {Bind<Application>(), Bind<DialogManager>()}};
+
+}  // namespace host
+
+ISession* GetExecutionContextSession() {
+    const host::Running* const running = host::GetRunning();
+    const InterfacePtr<ISession> session(running ? running->session : nullptr, UseDefaultIID());
+    return session;  // outlives this reference by the host's own
+}
