@@ -21,9 +21,8 @@ std::string RandomData(std::mt19937& random) {
     std::string data;
     while (data.size() < length) {
         const std::size_t number = random();
-        data += kind == std::size(alphabets)
-                    ? static_cast<char>(number % 256)
-                    : alphabets[kind][number % alphabets[kind].size()];
+        data += kind == std::size(alphabets) ? static_cast<char>(number % 256)
+                                             : alphabets[kind][number % alphabets[kind].size()];
     }
     return data;
 }
@@ -42,9 +41,9 @@ void SetRandomPreferences(std::mt19937& random) {
 bool IsRefusal(const ClassicType& type, int16 status, const std::string& text,
                const std::string& data) {
     if (type.name == "_BARCODE_USPS_IM_" && status == kBadLength && text == data) return true;
-    return std::any_of(
-        type.refusals.begin(), type.refusals.end(),
-        [&](const Refusal& refusal) { return refusal.marker == text && refusal.status == status; });
+    return std::any_of(type.refusals.begin(), type.refusals.end(), [&](const Refusal& refusal) {
+        return refusal.marker == text && refusal.status == status;
+    });
 }
 
 TEST(ClassicRandomBytes, AreEncodedOrRefusedAsStated) {

@@ -104,8 +104,8 @@ TEST(Code128Classic, EachByteIsEncodedOrRefused) {
     for (const CodeSet& set : {kCodeSets[0], kCodeSets[1]}) {
         for (int byte = 0; byte < 256; ++byte) {
             const bool isSetA = set.startValue == 103;
-            const bool belongs = isSetA ? byte < 96 || (byte >= 128 && byte <= 134)
-                                        : byte >= 32 && byte <= 134;
+            const bool belongs =
+                isSetA ? byte < 96 || (byte >= 128 && byte <= 134) : byte >= 32 && byte <= 134;
             const std::string data(1, static_cast<char>(byte));
             TestBlock block(data);
             ASSERT_EQ(set.encode(block.Data()), belongs ? kEncoded : kBadData) << byte;
