@@ -7,6 +7,7 @@
 
 #include "CreateObject.h"
 #include "FileUtils.h"
+#include "host/runtime/Dialog.h"
 #include "host/runtime/Faults.h"
 #include "host/runtime/Platform.h"
 #include "host/runtime/Session.h"
@@ -66,6 +67,7 @@ void Running::Start(const Settings& settings) {
     application = new Boss(kApplicationClass);
     library.Load(plugIn);
     classes = ClassTable(resources, FindPlugIn(library, plugIn));
+    views = ViewTable(resources, classes);
     RunServices();
 }
 
@@ -81,7 +83,7 @@ void Running::SetFolders(const Settings& settings) {
 }
 
 void Running::SetLocale(const fs::path& resources, const char* name) {
-    const std::vector<std::string> locales = ListLocales(resources);
+    locales = ListLocales(resources);
     const std::string_view wanted = name ? name : kDefaultLocale;
     const auto found = std::find(locales.begin(), locales.end(), wanted);
     if (found == locales.end()) {
@@ -106,6 +108,7 @@ void Running::RunServices() {
 }
 
 Leaks Running::Stop() {
+    while (!dialogs.empty()) Discard(dialogs.back());
     while (!services.empty()) {
         IStartupShutdownService* const last = services.back();
         services.pop_back();

@@ -19,8 +19,8 @@ enum class WidgetKind {
     kButton,
 };
 
-/** Where a widget stands. A dialog is a column of groups and, at its foot, a row of buttons; a group
- *  is a grid of two columns, labels in the first and what they name in the second. */
+/** Where a widget stands. A dialog is a column of groups and, at its foot, a row of buttons; a
+ * group is a grid of two columns, labels in the first and what they name in the second. */
 struct WidgetPlace {
     /** The row of buttons instead of a group. */
     static constexpr int32 kButtonRow = -1;
