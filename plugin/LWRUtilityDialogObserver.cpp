@@ -8,10 +8,12 @@
 #include "ISubject.h"
 #include "WidgetID.h"
 #include "core/EncodeBarcodeData.h"
+#include "core/ErrorAlert.h"
 #include "core/HostMemory.h"
 #include "core/OpenPluginDialog.h"
 #include "core/PluginID.h"
 #include "core/PreferencesRecord.h"
+#include "core/Status.h"
 #include "plugin/DialogWidget.h"
 #include "plugin/UtilityDialogType.h"
 
@@ -87,7 +89,11 @@ void LWRUtilityDialogObserver::Convert() {
     text.length = static_cast<uint8>(
         controller->GetTextControlData(kDataWidgetID).GetString(text.text, kMaxPStringLength));
     DataCopy data(text);
-    if (!data.bytes) return;
+    if (!data.bytes) {
+        if (preferences.showErrorAlerts)
+            ReportFailure(kInternalError, type->code, {data.bytes, data.length}, nullptr);
+        return;
+    }
 
     const uint16 checkCharacter = IsChecked(this, kCheckDigitWidgetID) ? 1 : 0;
     const double ratio = RatioOfItem(SelectedItem(this, kRatioWidgetID));
