@@ -6,7 +6,7 @@ namespace host {
 
 namespace {
 
-typedef std::unordered_set<Counted*> Objects;
+using Objects = std::unordered_set<Counted*>;
 
 // Both are never destroyed: objects may be left when the process ends.
 Objects& LiveObjects() {

@@ -13,7 +13,7 @@ IDFile::IDFile() : fPath(new Path) {}
 IDFile::IDFile(const IDFile& other) : fPath(new Path(*other.fPath)) {}
 
 IDFile& IDFile::operator=(const IDFile& other) {
-    *fPath = *other.fPath;
+    if (this != &other) *fPath = *other.fPath;
     return *this;
 }
 

@@ -63,6 +63,7 @@ PMString::PMString(const char* key, TranslateAction action) : PMString() {
 PMString::PMString(const PMString& other) : fText(new Text(*other.fText)) {}
 
 PMString& PMString::operator=(const PMString& other) {
+    if (this == &other) return *this;
     Assign(fText->characters, other.fText->characters);
     fText->isTranslatable = other.fText->isTranslatable;
     return *this;

@@ -4,7 +4,7 @@
 
 namespace {
 
-typedef host::RecordingFrontEnd::Alert Alert;
+using Alert = host::RecordingFrontEnd::Alert;
 
 }  // namespace
 
@@ -70,7 +70,7 @@ TEST_F(AlertTest, Beeps) {
     EXPECT_EQ(frontEnd.beeps, 2);
 }
 
-typedef HostTest ConsoleTest;
+using ConsoleTest = HostTest;
 
 TEST_F(ConsoleTest, IsTheDefaultAndWritesToStandardError) {
     settings.frontEnd = nullptr;

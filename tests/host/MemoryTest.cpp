@@ -157,7 +157,7 @@ TEST_F(MemoryTest, LimitsWhatItKeepsOfFreedBlocks) {
     EXPECT_EQ(host::CountMemory().liveBlocks, 0u);
 }
 
-typedef HostTest LeakTest;
+using LeakTest = HostTest;
 
 TEST_F(LeakTest, ReportsBlocks) {
     ASSERT_TRUE(Start()) << Error();

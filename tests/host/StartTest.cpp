@@ -6,8 +6,7 @@
 
 namespace fs = std::filesystem;
 
-using testing::Test;
-typedef HostTest StartTest;
+using StartTest = HostTest;
 
 namespace {
 
@@ -24,7 +23,7 @@ std::string Replaced(std::string_view text, std::string_view from, std::string_v
     return result.replace(at, from.size(), to);
 }
 
-typedef std::vector<std::string> Texts;
+using Texts = std::vector<std::string>;
 
 }  // namespace
 

@@ -2,9 +2,9 @@
 // the bell of a terminal.
 
 #include <fcntl.h>
-#include <stdlib.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <optional>
 
 #include "FileUtils.h"
@@ -78,7 +78,7 @@ TEST_F(RoamingFolderTest, IsUnknownToAUserWithoutAHome) {
     EXPECT_EQ(Find(nullptr, nullptr), "");
 }
 
-typedef StartedHostTest LinkTest;
+using LinkTest = StartedHostTest;
 
 TEST_F(LinkTest, StaysWhenTheFileBehindItIsWritten) {
     WriteFile(folder / "file", "old");
@@ -99,7 +99,7 @@ TEST_F(LinkTest, ToADeviceIsNoFileToReplace) {
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
-typedef HostTest TerminalTest;
+using TerminalTest = HostTest;
 
 TEST_F(TerminalTest, Beeps) {
     settings.frontEnd = nullptr;
