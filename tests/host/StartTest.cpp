@@ -78,8 +78,10 @@ TEST_F(StartTest, FailsWithoutTheLibrary) {
     EXPECT_EQ(Error(), "no plug-in library is named");
     const std::string missing = ToUtf8(folder / "none.so");
     settings.plugin = missing.c_str();
+    settings.locale = "xxXX";
     EXPECT_FALSE(Start());
     EXPECT_EQ(Error(), "plug-in library missing: " + missing);
+    settings.locale = nullptr;
     settings.plugin = pluginText.c_str();
     EXPECT_TRUE(Start());
     EXPECT_EQ(Error(), "");
