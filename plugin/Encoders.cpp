@@ -7,6 +7,16 @@
 #include "classic/Postnet.h"
 #include "core/EncoderTable.h"
 #include "core/PreferencesRecord.h"
+#include "current/Codabar.h"
+#include "current/Code128Auto.h"
+#include "current/Code39.h"
+#include "current/Ean13.h"
+#include "current/Ean8.h"
+#include "current/InterleavedTwoOfFive.h"
+#include "current/Msi.h"
+#include "current/Postnet.h"
+#include "current/UpcA.h"
+#include "current/UpcE.h"
 #include "imb/EncodeIntelligentMail.h"
 
 namespace linewright {
@@ -27,6 +37,7 @@ constexpr EncoderTable kEncoders = [] {
     table[6] = [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
     table[7] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, false); };
     table[8] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, true); };
+    table[9] = EncodeEan8;
     table[10] = [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
     table[11] = [](Arguments a) -> int32 {
         return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, false);
@@ -40,6 +51,17 @@ constexpr EncoderTable kEncoders = [] {
     };
     table[15] = [](Arguments a) -> int32 { return EncodeUpcAClassic(a.data); };
     table[16] = [](Arguments a) -> int32 { return EncodeUpcEClassic(a.data); };
+    table[20] = EncodeCodabarCurrent;
+    table[21] = EncodeCode39Current;
+    table[22] = EncodeCode128Auto;
+    table[23] = EncodeEan13Current;
+    table[24] = EncodeInterleaved2of5Current;
+    table[25] = EncodeInterleaved2of5TextCurrent;
+    table[26] = EncodeEan13Current;
+    table[27] = EncodeMsiCurrent;
+    table[28] = EncodeUpcACurrent;
+    table[29] = EncodeUpcECurrent;
+    table[30] = EncodePostnetCurrent;
     return table;
 }();
 
