@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/BatchCommand.h"
+#include "cli/Console.h"
+#include "cli/EncodeCommand.h"
+#include "cli/Service.h"
+
+namespace linewright {
+
+/** What the command line asks for. */
+struct Arguments {
+    enum class Command { kTypes, kEncode, kStream, kBatch, kPrefs, kPrefsSet };
+
+    Command command = Command::kTypes;
+    HostOptions host;
+    bool isTypesJson = false;
+    EncodeOptions encode;
+    BatchFiles batchFiles;
+    BatchOptions batch;
+    std::vector<std::string> assignments;
+};
+
+/** Reads a command line (UTF-8, without the program's name). Answers --help, --version and mistakes
+ *  itself: then there are no arguments, and `exitStatus` is set. */
+std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Console& console,
+                                        ExitStatus& exitStatus);
+
+}  // namespace linewright

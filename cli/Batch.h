@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/Csv.h"
+
+namespace linewright {
+
+/** How the columns of a file are used. */
+struct BatchOptions {
+    /** Given, they take the place of the file's own column. */
+    std::optional<std::string> type;
+    bool isCheckWanted = false;
+    std::optional<double> ratio;
+    /** The column that holds the data; "data" by default. */
+    std::string dataColumn = "data";
+    std::optional<char> delimiter;
+    bool isStrict = false;
+};
+
+/** What one row asks for. */
+struct RowWish {
+    std::string type;
+    std::string data;
+    std::uint8_t checkCharacter = 0;
+    double ratio = 2.0;
+};
+
+/** What is written for one row. */
+struct RowResult {
+    std::string barcode;
+    std::string status;
+    std::string message;
+    std::string warning;
+};
+
+/** The columns of a batch file: where the wishes stand and where the results go. */
+class BatchColumns {
+  public:
+    /** Throws Failure, naming the column, when one is missing or stands twice. */
+    BatchColumns(const CsvRecord& header, const BatchOptions& wanted, char separator);
+
+    /** What a row asks for. Throws Failure with a sentence for a row that cannot be understood. */
+    RowWish WishOf(const CsvRecord& row) const;
+    /** The header with the columns that are added. */
+    std::string HeaderLine(const CsvRecord& header) const;
+    /** A row with its result in the columns for it; everything else as it stands in the file. A
+     *  short row is filled up, what a long one has too much follows at the end. */
+    std::string RowLine(const CsvRecord& row, const RowResult& result) const;
+
+  private:
+    std::string ValueAt(const CsvRecord& row, std::size_t column) const;
+    std::string Line(const CsvRecord& row, const std::array<std::string, 4>& results) const;
+
+    const BatchOptions& options;
+    char delimiter;
+    std::size_t width;
+    std::optional<std::size_t> type;
+    std::optional<std::size_t> data;
+    std::optional<std::size_t> check;
+    std::optional<std::size_t> ratio;
+    /** Where the file has the columns barcode, status, message and warning already. */
+    std::array<std::optional<std::size_t>, 4> replaced;
+};
+
+}  // namespace linewright

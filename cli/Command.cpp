@@ -1,0 +1,75 @@
+#include "cli/Command.h"
+
+#include <fmt/format.h>
+
+#include <exception>
+
+#include "cli/Arguments.h"
+#include "cli/Failure.h"
+#include "cli/PrefsCommand.h"
+#include "cli/StreamCommand.h"
+#include "cli/TypesCommand.h"
+#include "cli/Utf8.h"
+
+namespace linewright {
+
+namespace {
+
+#ifdef NDEBUG
+constexpr bool kIsDebugBuild = false;
+#else
+constexpr bool kIsDebugBuild = true;
+#endif
+
+/** The plug-in's place in the build tree and in an installation alike. */
+std::string PlugInBeside(const std::filesystem::path& programFolder) {
+    const auto path = programFolder / ".." / "lib" / "linewright" / LINEWRIGHT_PLUGIN_FILE;
+    return Utf8FromPath(path.lexically_normal());
+}
+
+ExitStatus RunOne(Service& service, const Arguments& arguments, Console& console) {
+    switch (arguments.command) {
+        case Arguments::Command::kTypes: return RunTypes(service, arguments.isTypesJson, console);
+        case Arguments::Command::kEncode: return RunEncode(service, arguments.encode, console);
+        case Arguments::Command::kStream: return RunStream(service, console);
+        case Arguments::Command::kBatch:
+            return RunBatch(service, arguments.batchFiles, arguments.batch, console);
+        case Arguments::Command::kPrefs: return RunPrefs(console);
+        case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
+    }
+    return kTrouble;
+}
+
+void ReportLeaks(const host::Leaks& leaks, std::ostream& err) {
+    if (!kIsDebugBuild || (leaks.blocks == 0 && leaks.references == 0)) return;
+    err << fmt::format("linewright: still alive at the end: {} blocks, {} references\n",
+                       leaks.blocks, leaks.references);
+}
+
+ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::path& programFolder,
+               Console& console) {
+    ExitStatus exitStatus = kDone;
+    std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
+    if (!arguments) return exitStatus;
+    if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
+    Service service(arguments->host);
+    exitStatus = RunOne(service, *arguments, console);
+    ReportLeaks(service.Stop(), console.err);
+    if (!console.out.flush()) throw Failure("standard output could not be written to its end");
+    return exitStatus;
+}
+
+}  // namespace
+
+int RunCommand(const std::vector<std::string>& arguments,
+               const std::filesystem::path& programFolder, Console& console) noexcept {
+    try {
+        return Run(arguments, programFolder, console);
+    } catch (const std::exception& failure) {
+        console.out.flush();
+        console.err << "linewright: " << failure.what() << '\n';
+        return kTrouble;
+    }
+}
+
+}  // namespace linewright

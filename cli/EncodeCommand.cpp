@@ -1,0 +1,77 @@
+#include "cli/EncodeCommand.h"
+
+#include <fmt/format.h>
+
+#include <iterator>
+#include <nlohmann/json.hpp>
+
+#include "cli/Encoding.h"
+#include "cli/FontText.h"
+#include "cli/Hex.h"
+#include "cli/TypeNames.h"
+
+namespace linewright {
+
+namespace {
+
+std::string ReadAll(std::istream& input) {
+    return {std::istreambuf_iterator<char>(input), std::istreambuf_iterator<char>()};
+}
+
+/** Text from a pipe commonly ends with a line break that is no data. */
+void RemoveLastLineBreak(std::string& text) {
+    if (!text.ends_with('\n')) return;
+    text.pop_back();
+    if (text.ends_with('\r')) text.pop_back();
+}
+
+std::string DataOf(const EncodeOptions& options, std::istream& input) {
+    if (options.data != "-") return options.data;
+    std::string data = ReadAll(input);
+    if (!options.isBytes) RemoveLastLineBreak(data);
+    return data;
+}
+
+std::string JsonOf(const BarcodeOutcome& outcome) {
+    const nlohmann::ordered_json object{
+        {"type", outcome.typeName},         {"shortName", ShortNameOf(outcome.typeName)},
+        {"status", outcome.status.value()}, {"hex", ToHex(outcome.bytes)},
+        {"text", FontText(outcome.bytes)},  {"warnings", outcome.warnings},
+    };
+    return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, std::ostream& out) {
+    switch (form) {
+        case EncodeOptions::Form::kText: out << FontText(outcome.bytes) << '\n'; break;
+        case EncodeOptions::Form::kJson: out << JsonOf(outcome) << '\n'; break;
+        case EncodeOptions::Form::kHex: out << ToHex(outcome.bytes) << '\n'; break;
+        case EncodeOptions::Form::kRaw: out << outcome.bytes; break;
+    }
+}
+
+}  // namespace
+
+ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
+    const EncodeRequest request{
+        .typeName = options.type,
+        .data = DataOf(options, console.in),
+        .isUtf8 = !options.isBytes,
+        .checkCharacter = static_cast<uint8>(options.isCheckWanted ? 1 : 0),
+        .ratio = options.ratio,
+    };
+    const BarcodeOutcome outcome = MakeBarcode(service, request, options.isStrict);
+    for (const std::string& warning : outcome.warnings) {
+        console.err << "linewright: warning: " << warning << '\n';
+    }
+    if (!outcome.isMade) {
+        console.err << "linewright: refused"
+                    << (outcome.status ? fmt::format(" (status {})", *outcome.status) : "") << ": "
+                    << outcome.message << '\n';
+        return kRefused;
+    }
+    Print(outcome, options.form, console.out);
+    return kDone;
+}
+
+}  // namespace linewright

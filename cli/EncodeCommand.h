@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+#include "cli/Console.h"
+#include "cli/Service.h"
+
+namespace linewright {
+
+struct EncodeOptions {
+    enum class Form { kText, kJson, kHex, kRaw };
+
+    std::string type;
+    /** "-" reads standard input. */
+    std::string data;
+    bool isCheckWanted = false;
+    double ratio = 2.0;
+    bool isBytes = false;
+    bool isStrict = false;
+    Form form = Form::kText;
+};
+
+/** Makes one barcode: the font string to standard output, warnings and refusals to standard error,
+ *  kRefused for a refusal. */
+ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console);
+
+}  // namespace linewright

@@ -1,0 +1,70 @@
+#include "cli/Encoding.h"
+
+#include <fmt/format.h>
+
+#include <utility>
+
+#include "cli/TypeNames.h"
+#include "cli/Utf8.h"
+#include "cli/Warnings.h"
+
+namespace linewright {
+
+namespace {
+
+std::string UnknownType(std::string_view written) {
+    return fmt::format("there is no type \"{}\"; nearest: {}", Readable(written.substr(0, 80)),
+                       fmt::join(NearestNames(written), ", "));
+}
+
+/** The words of a marker such as "***Bad Code 39***"; "" for a text that is none. */
+std::string_view MarkerWords(std::string_view bytes) {
+    if (!bytes.starts_with("**")) return "";
+    const std::size_t first = bytes.find_first_not_of("* ");
+    if (first == std::string_view::npos) return "";
+    return bytes.substr(first, bytes.find_last_not_of("* ") - first + 1);
+}
+
+std::string WhyRefused(const EncodeAnswer& answer) {
+    if (!answer.hint.empty()) return answer.hint;
+    const std::string_view words = MarkerWords(answer.bytes);
+    return words.empty() ? "the encoder failed" : Readable(words);
+}
+
+}  // namespace
+
+BarcodeOutcome MakeBarcode(Service& service, EncodeRequest request, bool isStrict) {
+    const std::string written = std::exchange(request.typeName, "");
+    request.typeName = TypeNameOf(written);
+    BarcodeOutcome outcome;
+    outcome.typeName = request.typeName;
+    if (written.empty() || request.typeName.size() > kMaxPStringLength) {
+        outcome.message = UnknownType(written);
+        return outcome;
+    }
+    EncodeAnswer answer = service.Encode(request);
+    if (!answer.isRecognised) {
+        outcome.message = UnknownType(written);
+        return outcome;
+    }
+    outcome.status = answer.status;
+    if (answer.status != 0) {
+        outcome.message = WhyRefused(answer);
+        return outcome;
+    }
+    outcome.warnings = Warnings(request.typeName, request.data, request.isUtf8);
+    if (isStrict && !outcome.warnings.empty()) {
+        outcome.status.reset();
+        outcome.message = "refused because of a warning";
+        return outcome;
+    }
+    outcome.isMade = true;
+    outcome.bytes = std::move(answer.bytes);
+    return outcome;
+}
+
+std::string Joined(const std::vector<std::string>& sentences) {
+    return fmt::format("{}", fmt::join(sentences, "; "));
+}
+
+}  // namespace linewright

@@ -1,0 +1,28 @@
+#include "cli/HostBlock.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "IMemoryService.h"
+#include "ISession.h"
+#include "InterfacePtr.h"
+#include "cli/Failure.h"
+
+namespace linewright {
+
+HostBlock::HostBlock(std::string_view bytes) {
+    const InterfacePtr<IMemoryService> memory(GetExecutionContextSession(), UseDefaultIID());
+    if (memory && bytes.size() <= std::numeric_limits<uint32>::max()) {
+        length = static_cast<uint32>(bytes.size());
+        block = memory->Allocate(length);
+    }
+    if (!block) throw Failure("the host has no memory for the data");
+    std::copy(bytes.begin(), bytes.end(), static_cast<char*>(block));
+}
+
+HostBlock::~HostBlock() {
+    const InterfacePtr<IMemoryService> memory(GetExecutionContextSession(), UseDefaultIID());
+    if (memory) memory->Deallocate(block);
+}
+
+}  // namespace linewright

@@ -1,0 +1,16 @@
+#include <iostream>
+
+#include "cli/Command.h"
+#include "cli/Platform.h"
+
+int main(int count, char** values) {
+    linewright::PrepareStandardStreams();
+    linewright::Console console{
+        .in = std::cin,
+        .out = std::cout,
+        .err = std::cerr,
+        .isErrTerminal = linewright::IsStandardErrorTerminal(),
+    };
+    return linewright::RunCommand(linewright::CommandLineArguments(count, values),
+                                  linewright::ProgramFolder(), console);
+}

@@ -1,0 +1,55 @@
+#include "cli/PrefsCommand.h"
+
+#include <fmt/format.h>
+
+#include "cli/Failure.h"
+#include "cli/HostText.h"
+#include "cli/PreferenceFields.h"
+#include "cli/Utf8.h"
+#include "plugin/PreferencesFile.h"
+
+namespace linewright {
+
+namespace {
+
+void LoadRecord() {
+    ClearLocalConfig();
+    DetectLocalConfig();
+    LoadPreferences();
+}
+
+std::string FileName() {
+    IDFile file;
+    if (!LocatePreferencesFile(file)) throw Failure("the host knows no folder for preferences");
+    return Utf8FromHost(file.GetString());
+}
+
+void Print(std::ostream& out, std::string_view name, std::string_view text,
+           std::string_view choice) {
+    out << fmt::format("{:18}{}{}\n", name, text,
+                       choice.empty() ? "" : fmt::format("  ({})", choice));
+}
+
+}  // namespace
+
+ExitStatus RunPrefs(Console& console) {
+    LoadRecord();
+    console.out << FileName() << "\n\n";
+    Print(console.out, "version", std::to_string(preferences.version), "");
+    Print(console.out, "lastData",
+          fmt::format("\"{}\"", Readable(Utf8FromLatin1(preferences.lastData.View()))), "");
+    for (const PreferenceField& field : PreferenceFields()) {
+        Print(console.out, field.name, fmt::format("{:5}", field.Text(preferences)),
+              field.Choice());
+    }
+    return kDone;
+}
+
+ExitStatus RunPrefsSet(const std::vector<std::string>& assignments, Console& console) {
+    LoadRecord();
+    SetPreferences(preferences, assignments);
+    if (!SavePreferences()) throw Failure(FileName() + " cannot be written");
+    return RunPrefs(console);
+}
+
+}  // namespace linewright

@@ -1,0 +1,66 @@
+#include "cli/TypesCommand.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "cli/TypeNames.h"
+
+namespace linewright {
+
+namespace {
+
+nlohmann::ordered_json JsonOf(std::size_t index, const TypeDescription& type) {
+    nlohmann::ordered_json object{
+        {"index", index},
+        {"type", type.typeName},
+        {"shortName", ShortNameOf(type.typeName)},
+        {"displayText", type.displayText},
+    };
+    if (type.optionFlags) {
+        object["optionFlag1"] = (*type.optionFlags)[0];
+        object["optionFlag2"] = (*type.optionFlags)[1];
+        object["optionFlag3"] = (*type.optionFlags)[2];
+    }
+    return object;
+}
+
+std::string FlagsOf(const TypeDescription& type) {
+    return type.optionFlags ? fmt::format("{}", fmt::join(*type.optionFlags, " ")) : "";
+}
+
+void PrintTable(const std::vector<TypeDescription>& types, std::ostream& out) {
+    std::size_t nameWidth = 0;
+    std::size_t shortWidth = 0;
+    for (const TypeDescription& type : types) {
+        nameWidth = std::max(nameWidth, type.typeName.size());
+        shortWidth = std::max(shortWidth, ShortNameOf(type.typeName).size());
+    }
+    const auto print = [&](std::string_view index, std::string_view shortName,
+                           std::string_view name, std::string_view flags, std::string_view text) {
+        out << fmt::format("{:>5}  {:{}}  {:{}}  {:5}  {}\n", index, shortName, shortWidth, name,
+                           nameWidth, flags, text);
+    };
+    print("index", "short name", "type name", "flags", "display text");
+    for (std::size_t i = 0; i < types.size(); ++i) {
+        print(std::to_string(i), ShortNameOf(types[i].typeName), types[i].typeName,
+              FlagsOf(types[i]), types[i].displayText);
+    }
+}
+
+}  // namespace
+
+ExitStatus RunTypes(Service& service, bool isJson, Console& console) {
+    const std::vector<TypeDescription> types = service.Types();
+    if (!isJson) {
+        PrintTable(types, console.out);
+        return kDone;
+    }
+    auto list = nlohmann::ordered_json::array();
+    for (std::size_t i = 0; i < types.size(); ++i) list.push_back(JsonOf(i, types[i]));
+    console.out << list.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+    return kDone;
+}
+
+}  // namespace linewright

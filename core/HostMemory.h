@@ -1,0 +1,21 @@
+#pragma once
+
+#include "BaseType.h"
+
+namespace linewright {
+
+// Blocks from the host's memory service. Without a session or its service nothing is allocated
+// and the other operations do nothing. A block belongs to whoever holds it. Main thread only.
+
+/** A new block, valid also for size 0; nullptr when there is no memory. */
+uint8* AllocBlock(uint32 size);
+/** The service's second entry, for conversions; its blocks are freed like all others. */
+uint8* AllocConversionBlock(uint32 size);
+/** Gives a block back; nothing for nullptr. */
+void FreeBlock(void* block);
+/** Changes a block's size in place; false, and no change, when it cannot grow there. */
+bool ResizeBlock(void* block, uint32 size);
+/** The size of a block in bytes; 0 for nullptr. */
+uint32 BlockSize(const void* block);
+
+}  // namespace linewright

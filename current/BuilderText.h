@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "BaseType.h"
+#include "core/CharClasses.h"
+#include "core/FixedText.h"
+#include "core/Status.h"
+
+namespace linewright {
+
+// How builders read their text, a C string.
+
+/** The most characters of its text that a builder works on. */
+constexpr std::size_t kMaxBuilderText = 512;
+
+/** kNoData for nullptr, kEmptyData for no characters, otherwise kEncoded. */
+constexpr int16 TextStatus(const char* text) {
+    if (!text) return kNoData;
+    return *text ? kEncoded : kEmptyData;
+}
+
+constexpr std::string_view FirstCharacters(const char* text, std::size_t most = kMaxBuilderText) {
+    return std::string_view(text).substr(0, most);
+}
+
+/** Appends the decimal digits of a text. */
+inline void AppendDigits(std::string_view text, TextArea& digits) {
+    for (const char character : text)
+        if (IsDigit(character)) digits.Append(character);
+}
+
+}  // namespace linewright

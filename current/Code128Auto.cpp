@@ -1,0 +1,170 @@
+#include "current/Code128Auto.h"
+
+#include "current/Code128PreParse.h"
+#include "current/Front.h"
+#include "standards/Code128Patterns.h"
+
+namespace linewright {
+
+namespace {
+
+constexpr FrontRule kFront{
+    .length = AtMost(255),
+    .characters = kEveryByte,
+    .build = [](const char* text, const EncoderArguments&, TextArea& symbol) {
+        return BuildCode128Auto(text, HasEscapes(text), symbol);
+    }};
+
+constexpr std::size_t kCodeC = 99;
+constexpr std::size_t kCodeB = 100;
+constexpr std::size_t kCodeA = 101;
+constexpr std::size_t kFnc1 = 102;
+
+constexpr uint8 kDelete = 127;
+
+/** The font's letter for a bar and the space behind it, of one to four modules each. */
+constexpr char LetterOf(char barWidth, char spaceWidth) {
+    return static_cast<char>('A' + 4 * (barWidth - '1') + (spaceWidth - '1'));
+}
+
+/** The stop character, whose last bar has four modules of the quiet zone with it. */
+constexpr std::string_view kStopLetters = "GIAH";
+static_assert(LetterOf('2', '3') == 'G' && LetterOf('3', '1') == 'I' && LetterOf('2', '4') == 'H');
+
+void AppendLetters(std::size_t value, TextArea& symbol) {
+    const std::string_view widths = kCode128Widths[value];
+    for (std::size_t bar = 0; bar < widths.size(); bar += 2)
+        symbol.Append(LetterOf(widths[bar], widths[bar + 1]));
+}
+
+constexpr bool IsSetBMarker(uint8 byte) {
+    return IsMarkerByte(byte) && byte < kFnc1Byte;
+}
+
+/** Bytes that set A has no character for give values that the table does not have, or those of
+ *  other characters from 192 on. */
+constexpr std::size_t ValueInSetA(uint8 byte) {
+    return byte > ' ' && byte < 128 ? byte - 32u : (byte + 64u) % 256;
+}
+
+/** Writes one symbol, character by character. */
+class SymbolWriter {
+  public:
+    SymbolWriter(std::string_view symbolData, TextArea& symbolText)
+        : data(symbolData), symbol(symbolText) {}
+
+    int16 Write() {
+        WriteStart();
+        while (position < data.size()) WriteNext();
+        AppendLetters(sum % kCode128Modulus, symbol);
+        symbol.Append(kStopLetters);
+        return isComplete ? kEncoded : kInternalError;
+    }
+
+  private:
+    enum class Set { kNone, kA, kB, kC };
+
+    uint8 ByteAt(std::size_t place) const {
+        return place < data.size() ? static_cast<uint8>(data[place]) : 0;
+    }
+    /** How many digits there are from here on, at most so many. */
+    std::size_t CountDigits(std::size_t most = std::string_view::npos) const {
+        std::size_t count = 0;
+        while (count < most && IsDigit(static_cast<char>(ByteAt(position + count)))) ++count;
+        return count;
+    }
+
+    void WriteStart() {
+        const uint8 first = ByteAt(0);
+        if (CountDigits(4) == 4 || first == kFnc1Byte || first >= 212) {
+            Start(Set::kC, kCode128StartC);
+        } else if (first < ' ') {
+            Start(Set::kA, kCode128StartA);
+        } else if (first < kDelete || first == 197) {
+            Start(Set::kB, kCode128StartB);
+        }
+    }
+    void Start(Set startSet, std::size_t value) {
+        set = startSet;
+        sum = value;
+        AppendLetters(value, symbol);
+    }
+
+    void WriteNext() {
+        const uint8 byte = ByteAt(position);
+        if (IsSetBMarker(byte)) {
+            if (set == Set::kC) Switch(Set::kB, kCodeB);
+            Put(byte - 100u);
+            ++position;
+        } else if (IsMarkerByte(byte)) {
+            Put(kFnc1);
+            ++position;
+        } else if (CountDigits(4) == 4 || (set == Set::kC && CountDigits(2) == 2)) {
+            WritePair();
+        } else {
+            WriteCharacter(byte);
+            ++position;
+        }
+    }
+
+    void WritePair() {
+        if (set != Set::kC) {
+            if (CountDigits() % 2 == 1) Put(ByteAt(position++) - 32u);
+            Switch(Set::kC, kCodeC);
+        }
+        Put(10u * (ByteAt(position) - '0') + (ByteAt(position + 1) - '0'));
+        position += 2;
+    }
+
+    void WriteCharacter(uint8 byte) {
+        const bool isInSetA = set == Set::kA && byte > ' ' && byte < '`';
+        if (byte < ' ' || byte > kDelete || isInSetA) {
+            if (set != Set::kA) Switch(Set::kA, kCodeA);
+            Put(ValueInSetA(byte));
+        } else if (byte != kDelete) {
+            if (set != Set::kB) Switch(Set::kB, kCodeB);
+            Put(byte - 32u);
+        }
+    }
+
+    void Switch(Set newSet, std::size_t code) {
+        Put(code);
+        set = newSet;
+    }
+
+    void Put(std::size_t value) {
+        if (value >= kCode128Widths.size()) {
+            isComplete = false;
+            return;
+        }
+        sum += value * ++weight;
+        AppendLetters(value, symbol);
+    }
+
+    std::string_view data;
+    TextArea& symbol;
+    std::size_t position = 0;
+    Set set = Set::kNone;
+    std::size_t sum = 0;
+    std::size_t weight = 0;
+    bool isComplete = true;
+};
+
+}  // namespace
+
+int16 BuildCode128Auto(const char* data, bool replaceEscapes, TextArea& symbol) {
+    if (const int16 status = TextStatus(data)) return status;
+    const std::string_view text = data;
+    if (text.size() > kMaxBuilderText) return kInternalError;
+
+    FixedText<kMaxBuilderText> parsed;
+    if (replaceEscapes) Code128PreParse(text, parsed);
+    return SymbolWriter(replaceEscapes ? parsed.View() : text, symbol).Write();
+}
+
+int32 EncodeCode128Auto(const EncoderArguments& arguments) {
+    FixedText<kCode128AutoCapacity> symbol;
+    return EncodeByRule(kFront, arguments, symbol);
+}
+
+}  // namespace linewright

@@ -1,0 +1,43 @@
+#include "current/Ean8.h"
+
+#include "current/Front.h"
+#include "standards/CheckDigits.h"
+
+namespace linewright {
+
+namespace {
+
+constexpr std::size_t kMainLength = 7;
+constexpr std::string_view kTooFewDigits = "0005000";
+
+constexpr FrontRule kFront{.length = AtMostOrCheckDigit(kMainLength),
+                           .characters = kDigitsOnly,
+                           .padTo = kMainLength,
+                           .build = [](const char* text, const EncoderArguments&,
+                                       TextArea& symbol) { return BuildEan8(text, symbol); }};
+
+}  // namespace
+
+int16 BuildEan8(const char* data, TextArea& symbol) {
+    if (!data || !*data) return kNoDigits;
+    EanUpcDigits digits;
+    CollectDigits(data, digits);
+    const bool isComplete = digits.View().size() >= kMainLength;
+    const std::string_view number =
+        isComplete ? digits.View().substr(0, kMainLength) : kTooFewDigits;
+
+    symbol.Append(kGuard);
+    for (const char digit : number.substr(0, 4)) symbol.Append(InSet('A', digit));
+    symbol.Append(kCentreGuard);
+    for (const char digit : number.substr(4)) symbol.Append(InSet('C', digit));
+    symbol.Append(InSet('C', Modulo10CheckDigit(number)));
+    symbol.Append(kGuard);
+    return kEncoded;
+}
+
+int32 EncodeEan8(const EncoderArguments& arguments) {
+    FixedText<kEan8Capacity> symbol;
+    return EncodeByRule(kFront, arguments, symbol);
+}
+
+}  // namespace linewright

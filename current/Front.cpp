@@ -1,0 +1,90 @@
+#include "current/Front.h"
+
+#include <limits>
+
+#include "core/Formatting.h"
+#include "core/ReplaceMarkers.h"
+#include "core/Status.h"
+
+namespace linewright {
+
+namespace {
+
+constexpr const char* kLengthError = "** Barcode Length Error **";
+constexpr const char* kDataError = "** Barcode Data Error **";
+constexpr const char* kProcessError = "** Barcode Process Error **";
+
+/** The longest data, a "0" in front of it and the terminator. */
+using NormalisedText = FixedText<kMaxFrontLength + 2>;
+
+PMString TextOf(const Numbers& numbers) {
+    PMString text;
+    if (numbers.count == 1) {
+        text.AsNumber(numbers.values[0]);
+    } else {
+        FormatAlternatives(numbers.values.data(), numbers.count, text);
+    }
+    return text;
+}
+
+void SetHint(PMString* hint, const LengthRule& rule) {
+    if (!hint) return;
+    hint->SetKey(rule.hintKey);
+    const PMString first = TextOf(rule.first);
+    const PMString second = TextOf(rule.second);
+    ReplaceMarkers(*hint, &first, rule.second.count > 0 ? &second : nullptr);
+}
+
+void SetHint(PMString* hint, const CharacterRule& rule) {
+    if (hint) hint->SetKey(rule.hintKey);
+}
+
+bool AreAllowed(const CharacterRule& rule, DataBlock data) {
+    return !rule.hintKey ||
+           CheckCharClasses(data.bytes, static_cast<int32>(data.length), rule.classes, rule.extra);
+}
+
+/** How many "0" belong in front of `length` characters. */
+std::size_t PaddingFor(const FrontRule& rule, std::size_t length, bool addsCheckCharacter) {
+    if (rule.padToPairs) return (length + addsCheckCharacter) % 2;
+    return length < rule.padTo ? rule.padTo - length : 0;
+}
+
+void Normalise(const FrontRule& rule, const EncoderArguments& arguments, TextArea& text) {
+    std::string_view data = arguments.data.View();
+    if (rule.length.checkDigitAt.Contain(static_cast<int32>(data.size()))) data.remove_suffix(1);
+    text.Append(PaddingFor(rule, data.size(), arguments.checkCharacter != 0), '0');
+    text.Append(data);
+    text.Append('\0');
+}
+
+}  // namespace
+
+bool LengthRule::Allows(int32 length) const {
+    if (shortest == 0 && longest == 0) return first.Contain(length) || checkDigitAt.Contain(length);
+    return IsInRange(length, shortest, longest);
+}
+
+int16 EncodeByRule(const FrontRule& rule, const EncoderArguments& arguments, TextArea& symbol) {
+    if (arguments.hint) arguments.hint->Clear();
+
+    constexpr uint32 kMaxLength = std::numeric_limits<int32>::max();
+    if (!rule.length.Allows(static_cast<int32>(std::min(arguments.data.length, kMaxLength)))) {
+        SetHint(arguments.hint, rule.length);
+        return FinishWith(arguments.data, kLengthError, kBadLength);
+    }
+    if (!AreAllowed(rule.characters, arguments.data)) {
+        SetHint(arguments.hint, rule.characters);
+        return FinishWith(arguments.data, kDataError, kInvalidData);
+    }
+
+    NormalisedText normalised;
+    Normalise(rule, arguments, normalised);
+    const char* const text = normalised.View().data();
+    if (arguments.humanReadable) arguments.humanReadable->SetCString(text);
+
+    const int16 status = rule.build(text, arguments, symbol);
+    return FinishWith(arguments.data, status == kEncoded ? symbol.View() : kProcessError, status);
+}
+
+}  // namespace linewright

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <initializer_list>
+
+#include "BaseType.h"
+#include "core/CharClasses.h"
+#include "core/EncoderTable.h"
+#include "core/FixedText.h"
+
+namespace linewright {
+
+// What the symbologies of the current family do before their builders run: one front for all of
+// them, which a row of rules per symbology drives.
+
+/** The longest data that any front accepts. */
+constexpr int32 kMaxFrontLength = 255;
+
+/** Up to three numbers. */
+struct Numbers {
+    constexpr Numbers() = default;
+    constexpr Numbers(std::initializer_list<int32> list) : count(static_cast<int32>(list.size())) {
+        std::copy(list.begin(), list.end(), values.begin());
+    }
+    bool Contain(int32 number) const { return IsInList(number, values.data(), count); }
+
+    std::array<int32, 3> values{};
+    int32 count = 0;
+};
+
+/** Which lengths are allowed, and the hint for others: a key whose markers the numbers fill. */
+struct LengthRule {
+    const char* hintKey;
+    Numbers first{};
+    Numbers second{};
+    int32 shortest = 0;      // 0 for no bound, as for `longest`
+    int32 longest = 0;       // both 0: the lengths are those of `first` and of `checkDigitAt`
+    Numbers checkDigitAt{};  // lengths at which the last character is a check digit
+
+    bool Allows(int32 length) const;
+};
+
+constexpr LengthRule AtMost(int32 longest) {
+    return {
+        .hintKey = "0x122100kLWRBarCodeLengthLessThanHint", .first = {longest}, .longest = longest};
+}
+constexpr LengthRule Between(int32 shortest, int32 longest) {
+    return {.hintKey = "0x122100kLWRBarCodeLengthBetweenHint",
+            .first = {shortest},
+            .second = {longest},
+            .shortest = shortest,
+            .longest = longest};
+}
+/** At most so many digits, or one more with the check digit. */
+constexpr LengthRule AtMostOrCheckDigit(int32 longest) {
+    return {.hintKey = "0x122100kLWRBarCodeLengthLessThanOrCheckDigitHint",
+            .first = {longest},
+            .second = {longest + 1},
+            .longest = longest + 1,
+            .checkDigitAt = {longest + 1}};
+}
+/** One of these lengths, or one of those with the check digit. */
+constexpr LengthRule OneOf(Numbers lengths, Numbers withCheckDigit) {
+    return {.hintKey = "0x122100kLWRBarCodeLengthMustBeHint",
+            .first = lengths,
+            .second = withCheckDigit,
+            .checkDigitAt = withCheckDigit};
+}
+
+/** Which characters are allowed, as for CheckCharClasses, and the key of the hint for others. */
+struct CharacterRule {
+    int32 classes;
+    const char* extra;
+    const char* hintKey;  // nullptr: every byte is allowed
+};
+
+constexpr CharacterRule kDigitsOnly{kDigits, nullptr, "0x122100kLWRBarCodeDataDigitsOnlyHint"};
+constexpr CharacterRule kEveryByte{0, nullptr, nullptr};
+
+/** How a symbology's data is examined and normalised, and what makes the symbol of it. */
+struct FrontRule {
+    LengthRule length;
+    CharacterRule characters;
+    /** "0" in front of shorter data until it has this length. */
+    std::size_t padTo = 0;
+    /** "0" in front where the characters, with the check character asked for, would be odd. */
+    bool padToPairs = false;
+    /** Appends the font string of the normalised text; the result is the status. */
+    int16 (*build)(const char* text, const EncoderArguments& arguments, TextArea& symbol);
+};
+
+/**
+ * Replaces the data by the symbol's font string or, on failure, by an error text. The hint is
+ * cleared, and set where the data is refused; the human-readable text is set to the normalised
+ * data before the builder runs. A NUL ends the normalised data.
+ *
+ * @param symbol  empty, with room for the symbology's longest symbol
+ * @return kEncoded, kBadLength, kInvalidData, the builder's status, or kInternalError without
+ * memory for the result: then the data is as it was
+ */
+int16 EncodeByRule(const FrontRule& rule, const EncoderArguments& arguments, TextArea& symbol);
+
+}  // namespace linewright

@@ -1,0 +1,6 @@
+#include "PlugIn.h"
+
+PlugIn* GetPlugIn() {
+    static PlugIn plugIn;
+    return &plugIn;
+}

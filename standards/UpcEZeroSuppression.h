@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace linewright {
+
+/// ISO/IEC 15420:2009, UPC-E: the ten digits (manufacturer and product) behind the number system
+/// digit that six UPC-E digits stand for, by the sixth of them. "1" to "6" is the digit in that
+/// place of the six, "0" a suppressed zero.
+inline constexpr std::array<std::string_view, 10> kUpcEExpansion{
+    // 0
+    "1260000345", "1260000345", "1260000345", "1230000045", "1234000005",
+    "1234500006", "1234500006", "1234500006", "1234500006", "1234500006",
+};
+
+/// The ten manufacturer and product digits of a UPC-E number. `digits`: exactly six digits.
+constexpr std::array<char, 10> ExpandUpcE(std::string_view digits) {
+    std::array<char, 10> expanded{};
+    const std::string_view places = kUpcEExpansion[static_cast<std::size_t>(digits[5] - '0')];
+    for (std::size_t index = 0; index < expanded.size(); ++index) {
+        const char place = places[index];
+        expanded[index] = place == '0' ? '0' : digits[static_cast<std::size_t>(place - '1')];
+    }
+    return expanded;
+}
+
+constexpr bool UpcEExpandsTo(std::string_view digits, std::string_view expected) {
+    const std::array<char, 10> expanded = ExpandUpcE(digits);
+    return std::string_view(expanded.data(), expanded.size()) == expected;
+}
+
+// Worked out by hand from the rule of zero suppression, one for each case.
+static_assert(UpcEExpandsTo("987650", "9800000765"));
+static_assert(UpcEExpandsTo("425261", "4210000526"));
+static_assert(UpcEExpandsTo("987652", "9820000765"));
+static_assert(UpcEExpandsTo("987653", "9870000065"));
+static_assert(UpcEExpandsTo("987654", "9876000005"));
+static_assert(UpcEExpandsTo("123456", "1234500006"));
+static_assert(UpcEExpandsTo("987659", "9876500009"));
+
+}  // namespace linewright
