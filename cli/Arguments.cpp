@@ -15,7 +15,7 @@ void AddHostOptions(CLI::App& app, HostOptions& host) {
                             const char* help) {
         app.add_option(name, value, help)->type_name(kind)->take_last();
     };
-    add("--locale", host.locale, "NAME", "Language of messages: enUS, or qps for their keys");
+    add("--locale", host.locale, "NAME", "enUS, deDE, frFR or jaJP; qps shows keys");
     add("--config-dir", host.roamingFolder, "DIR", "Folder that holds the preferences");
     add("--app-dir", host.appFolder, "DIR", "Folder of the application");
     add("--plugin", host.plugin, "FILE", "The plug-in's library");
