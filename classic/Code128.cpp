@@ -117,8 +117,7 @@ int16 Encode(const CodeSet& set, DataBlock data) {
 int32 Translate(const CodeSet& set, PString& string) {
     FixedText<kMaxPStringLength + 1> translated;
     if (!AppendDataAndCheck(set, string.View(), translated)) return kBadData;
-    const std::string_view kept = translated.View().substr(0, kMaxPStringLength);
-    string.length = static_cast<uint8>(kept.copy(string.text, kMaxPStringLength));
+    SetPString(string, translated.View());
     return 0;
 }
 

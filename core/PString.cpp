@@ -33,9 +33,7 @@ int32 Compare(std::string_view a, std::string_view b) {
 }  // namespace
 
 void PStringFromCString(PString* dest, const char* src) {
-    if (!dest || !src) return;
-    dest->length = 0;
-    Append(*dest, CStringView(src));
+    if (dest && src) SetPString(*dest, CStringView(src));
 }
 
 void PStringFromCStringInPlace(char* text) {
@@ -48,6 +46,11 @@ void PStringToCStringInPlace(char* text) {
     const auto length = static_cast<uint8>(text[0]);
     std::memmove(text, text + 1, length);
     text[length] = 0;
+}
+
+void SetPString(PString& dest, std::string_view text) {
+    dest.length = 0;
+    Append(dest, text);
 }
 
 void CopyPString(PString& dest, const PString& src) {

@@ -26,6 +26,8 @@ void PStringFromCStringInPlace(char* text);
 /** Turns the PString in a 256-byte area into a C string. */
 void PStringToCStringInPlace(char* text);
 
+/** Replaces `dest` by the first 255 characters of a text that is no part of it. */
+void SetPString(PString& dest, std::string_view text);
 /** Copies the length and that many characters. */
 void CopyPString(PString& dest, const PString& src);
 void AppendPString(PString& dest, const PString& src);

@@ -1,5 +1,12 @@
+#include "classic/Codabar.h"
 #include "classic/Code128.h"
+#include "classic/Code39.h"
+#include "classic/EanUpc.h"
+#include "classic/InterleavedTwoOfFive.h"
+#include "classic/Msi.h"
+#include "classic/Postnet.h"
 #include "core/EncoderTable.h"
+#include "core/PreferencesRecord.h"
 #include "current/Codabar.h"
 #include "current/Code128Auto.h"
 #include "current/Code39.h"
@@ -10,6 +17,7 @@
 #include "current/Postnet.h"
 #include "current/UpcA.h"
 #include "current/UpcE.h"
+#include "imb/EncodeIntelligentMail.h"
 
 namespace linewright {
 
@@ -19,10 +27,30 @@ namespace {
 constexpr EncoderTable kEncoders = [] {
     using Arguments = const EncoderArguments&;
     EncoderTable table{};
+    table[1] = [](Arguments a) -> int32 { return EncodePostnetClassic(a.data); };
+    table[2] = [](Arguments a) -> int32 {
+        return EncodeIntelligentMail(a.data, a.hint, a.humanReadable);
+    };
+    table[3] = [](Arguments a) -> int32 { return EncodeCodabarClassic(a.data); };
     table[4] = [](Arguments a) -> int32 { return EncodeCode128A(a.data); };
     table[5] = [](Arguments a) -> int32 { return EncodeCode128B(a.data); };
     table[6] = [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
+    table[7] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, false); };
+    table[8] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, true); };
     table[9] = EncodeEan8;
+    table[10] = [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
+    table[11] = [](Arguments a) -> int32 {
+        return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, false);
+    };
+    table[12] = [](Arguments a) -> int32 {
+        return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
+    };
+    table[13] = [](Arguments a) -> int32 { return EncodeJan13Classic(a.data); };
+    table[14] = [](Arguments a) -> int32 {
+        return EncodeMsiClassic(a.data, preferences.msiFirstCheck, preferences.msiSecondCheck);
+    };
+    table[15] = [](Arguments a) -> int32 { return EncodeUpcAClassic(a.data); };
+    table[16] = [](Arguments a) -> int32 { return EncodeUpcEClassic(a.data); };
     table[20] = EncodeCodabarCurrent;
     table[21] = EncodeCode39Current;
     table[22] = EncodeCode128Auto;

@@ -101,7 +101,7 @@ TEST_F(ServiceTest, NamesTheClassicTypes) {
         EXPECT_EQ(Send(kClassicTypeNameRequest), 0);
         EXPECT_EQ(params.typeName.View(), names[i]);
     }
-    for (const int16 i : {15, 16, 29, 30, 32767, -1, -32768}) {
+    for (const int16 i : std::initializer_list<int16>{15, 16, 29, 30, 32767, -1, -32768}) {
         params.typeIndex = i;
         params.typeName = MakePString("before");
         EXPECT_EQ(Send(kClassicTypeNameRequest), 0);
@@ -131,7 +131,7 @@ TEST_F(ServiceTest, DescribesTheCurrentTypes) {
                   std::string("0x122100kLWRUtilityTypePopupItem") + type.text + "Key");
         for (int flag = 0; flag < 3; ++flag) EXPECT_EQ(flags[flag], type.flags[flag]) << i;
     }
-    for (const int16 i : {12, 14, 15, 32767, -1, -16}) {
+    for (const int16 i : std::initializer_list<int16>{12, 14, 15, 32767, -1, -16}) {
         params.typeIndex = i;
         first = HostString("before");
         for (uint16& flag : flags) flag = 7;

@@ -1,0 +1,189 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/cli/CommandRunner.h"
+
+namespace linewright {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+CommandRunner::Result Convert(const std::string& csv, std::vector<std::string> more = {}) {
+    more.insert(more.begin(), {"batch", "-"});
+    return CommandRunner().Run(more, csv);
+}
+
+// Classic Codabar is its data between the preferences' letters, "A" and "D".
+TEST(Batch, AddsItsColumns) {
+    const auto result = Convert("type,data\nclassic-codabar,12\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out,
+              "type,data,barcode,status,message,warning\n"
+              "classic-codabar,12,A12D,0,,\n");
+    EXPECT_EQ(result.err, "1 row: 1 encoded (0 with warnings), 0 refused\n");
+}
+
+TEST(Batch, RefusesRowsAndGoesOn) {
+    const auto result = Convert(
+        "type,data\nclassic-codabar,x\nean-13,1\nclassic-codabar,12\n,1\n"
+        "classic-code128b,10€\n");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.out,
+              "type,data,barcode,status,message,warning\n"
+              "classic-codabar,x,,-1,Bad Codabar,\n"
+              "ean-13,1,,,\"there is no type \"\"ean-13\"\"; nearest: ean13, jan13, ean8\",\n"
+              "classic-codabar,12,A12D,0,,\n"
+              ",1,,,\"there is no type \"\"\"\"; nearest: imb, msi, ean8\",\n"
+              "classic-code128b,10€,ˆ10€Š,0,,\"1 character above U+00FF dropped: \"\"€\"\"\"\n");
+    EXPECT_EQ(result.err, "5 rows: 2 encoded (1 with warnings), 3 refused\n");
+}
+
+TEST(Batch, PassesEverythingElseThroughByteForByte) {
+    const auto result = Convert(
+        "\xEF\xBB\xBF\"note\";type;data;\" x\"\r\n"
+        "\"a;\"\"b\"\"\r\nc\";classic-codabar;1; y \r\n"
+        "\r\n"
+        "5\" disk\xFF;\"classic-codabar\";\"2\";\"z\"");
+    EXPECT_EQ(result.out,
+              "\xEF\xBB\xBF\"note\";type;data;\" x\";barcode;status;message;warning\r\n"
+              "\"a;\"\"b\"\"\r\nc\";classic-codabar;1; y ;A1D;0;;\r\n"
+              "\r\n"
+              "5\" disk\xFF;\"classic-codabar\";\"2\";\"z\";A2D;0;;");
+    EXPECT_EQ(result.err, "2 rows: 2 encoded (0 with warnings), 0 refused\n");
+}
+
+TEST(Batch, ReplacesItsColumnsWhereTheyAre) {
+    const std::string once = Convert("type,data\nclassic-codabar,1\nclassic-codabar,x\n").out;
+    EXPECT_EQ(Convert(once).out, once);
+    EXPECT_EQ(Convert("status,type,barcode,data\nold,classic-codabar,\"o,ld\",1\n").out,
+              "status,type,barcode,data,message,warning\n0,classic-codabar,A1D,1,,\n");
+}
+
+TEST(Batch, KeepsAllFieldsOfRaggedRows) {
+    const auto result =
+        Convert("type,data,barcode,note\nclassic-codabar,1\nclassic-codabar,2,,a,b,\"c\"\n");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.out,
+              "type,data,barcode,note,status,message,warning\n"
+              "classic-codabar,1,,,,\"the row has 2 fields, the header 4\",\n"
+              "classic-codabar,2,,a,,\"the row has 6 fields, the header 4\",,b,\"c\"\n");
+}
+
+TEST(Batch, ReadsCheckAndRatio) {
+    const auto result = Convert(
+        "type,data,check,ratio\ncode39,A,,\ncode39,A,1,3\ncode39,A,yes,3.0\ncode39,A,No,2.5\n"
+        "code39,A,maybe,3\ncode39,A,256,3\ncode39,A,0,2.75\ncode39,A,0,\"2,5\"\n");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(
+        result.out,
+        "type,data,check,ratio,barcode,status,message,warning\n"
+        "code39,A,,,BAEEAEABAEBAEEA,0,,\n"
+        "code39,A,1,3,CAIIAIACAIIACAICAIIA,0,,\n"
+        "code39,A,yes,3.0,CAIIAIACAIIACAICAIIA,0,,\n"
+        "code39,A,No,2.5,XWYYWYWXWYXWYYW,0,,\n"
+        "code39,A,maybe,3,,,\"the check \"\"maybe\"\" is not yes, no or a whole number from 0 to "
+        "255\",\n"
+        "code39,A,256,3,,,\"the check \"\"256\"\" is not yes, no or a whole number from 0 to "
+        "255\",\n"
+        "code39,A,0,2.75,,,\"the ratio \"\"2.75\"\" is not 2, 2.5 or 3\",\n"
+        "code39,A,0,\"2,5\",,,\"the ratio \"\"2,5\"\" is not 2, 2.5 or 3\",\n");
+}
+
+TEST(Batch, TakesOptionsInPlaceOfColumns) {
+    EXPECT_EQ(Convert("data\nA\n", {"--type", "code39", "--ratio", "3", "--check"}).out,
+              "data,barcode,status,message,warning\nA,CAIIAIACAIIACAICAIIA,0,,\n");
+    EXPECT_EQ(Convert("my data\n1\n", {"--type", "classic-codabar", "--column", "my data"}).out,
+              "my data,barcode,status,message,warning\n1,A1D,0,,\n");
+    EXPECT_EQ(Convert("type,data,ratio\nimb,A,2\n", {"--type", "code39", "--ratio", "3"}).out,
+              "type,data,ratio,barcode,status,message,warning\nimb,A,2,CAIIAIACAICAIIA,0,,\n");
+}
+
+TEST(Batch, KnowsDelimiters) {
+    EXPECT_THAT(Convert("type\tdata\nclassic-codabar\t1\n").out, HasSubstr("1\tA1D\t0\t\t\n"));
+    EXPECT_THAT(Convert("a,b;type;data\nx,y;classic-codabar;1\n").out, HasSubstr("1;A1D;0;;\n"));
+    EXPECT_THAT(Convert("type|data\nclassic-codabar|1\n", {"--delimiter", "|"}).out,
+                HasSubstr("1|A1D|0||\n"));
+    EXPECT_THAT(Convert("type\tdata\nclassic-codabar\t1\n", {"--delimiter", "tab"}).out,
+                HasSubstr("1\tA1D"));
+}
+
+TEST(Batch, IsStrictWhenAsked) {
+    const auto result = Convert("type,data\nclassic-code128b,10€\n", {"--strict"});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_THAT(result.out,
+                HasSubstr("10€,,,refused because of a warning,\"1 character above U+00FF"));
+}
+
+TEST(Batch, SaysWhatIsWrongWithAFile) {
+    const std::vector<std::pair<std::string, std::string>> files{
+        {"", "linewright: -: there is no header row\n"},
+        {"\n\n", "linewright: -: there is no header row\n"},
+        {"type,number\n",
+         "linewright: -: there is no column \"data\"; the columns are \"type\", "
+         "\"number\"; --column names the one that holds the data\n"},
+        {"data\n",
+         "linewright: -: there is no column \"type\"; the columns are \"data\"; --type "
+         "names one type for all rows\n"},
+        {"type,data,data\n", "linewright: -: the column \"data\" stands twice in the header\n"},
+        {"type,data\nx,\"y\n",
+         "linewright: -: a quoted field of the row in line 2 is never closed\n"},
+        {"\xFF\xFEt", "linewright: -: the file is UTF-16; save it as CSV in UTF-8\n"},
+    };
+    for (const auto& [csv, message] : files) {
+        const auto result = Convert(csv);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err, message);
+    }
+    EXPECT_EQ(Convert("type,barcode\n", {"--column", "barcode"}).err,
+              "linewright: -: the column \"barcode\" receives results and cannot hold the data\n");
+}
+
+TEST(Batch, OfAHeaderAloneIsAHeader) {
+    const auto result = Convert("type,data");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "type,data,barcode,status,message,warning");
+}
+
+TEST(Batch, WritesItsFileWholeOrNotAtAll) {
+    const CommandRunner command;
+    const std::string in = command.Write("in ü.csv", "type,data\nclassic-codabar,1\n");
+    const std::string out = command.Place("out ü.csv");
+    EXPECT_EQ(command.Run({"batch", in, "-o", out}).status, 0);
+    const std::string expected =
+        "type,data,barcode,status,message,warning\nclassic-codabar,1,A1D,0,,\n";
+    EXPECT_EQ(command.Read("out ü.csv"), expected);
+
+    const std::string broken = command.Write("broken.csv", "type,data\nclassic-codabar,\"1\n");
+    EXPECT_EQ(command.Run({"batch", broken, "-o", out}).status, 2);
+    EXPECT_EQ(command.Read("out ü.csv"), expected);
+
+    EXPECT_EQ(command.Run({"batch", in, "-o", in}).status, 0) << "its own input";
+    EXPECT_EQ(command.Read("in ü.csv"), expected);
+
+    int files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(command.Folder())) {
+        files += entry.is_regular_file() ? 1 : 0;
+    }
+    EXPECT_EQ(files, 3) << "nothing is left over";
+}
+
+TEST(Batch, NamesFilesItCannotUse) {
+    const CommandRunner command;
+    const std::string in = command.Write("in.csv", "type,data\nclassic-codabar,1\n");
+    const auto missing = command.Run({"batch", command.Place("missing.csv")});
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_EQ(missing.err, "linewright: " + command.Place("missing.csv") +
+                               ": there is no such file, or it cannot be read\n");
+    EXPECT_EQ(command.Run({"batch", command.Place("config")}).status, 2) << "a folder";
+    const auto nowhere = command.Run({"batch", in, "-o", command.Place("no/such/out.csv")});
+    EXPECT_EQ(nowhere.status, 2);
+    EXPECT_THAT(nowhere.err, HasSubstr("out.csv"));
+    EXPECT_EQ(command.Run({"batch", in, "-o", command.Place("config")}).status, 2) << "a folder";
+}
+
+}  // namespace
+
+}  // namespace linewright

@@ -1,0 +1,243 @@
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "cli/Failure.h"
+#include "cli/Hex.h"
+#include "cli/LineReader.h"
+#include "cli/StreamRequest.h"
+#include "cli/Utf8.h"
+#include "tests/cli/CommandRunner.h"
+
+namespace linewright {
+
+namespace {
+
+using nlohmann::json;
+
+std::string WhyRefused(std::string_view line) {
+    try {
+        ParseStreamRequest(line);
+        return "";
+    } catch (const Failure& failure) {
+        return failure.what();
+    }
+}
+
+TEST(StreamRequest, TakesTextWithConversion) {
+    const EncodeRequest request = ParseStreamRequest(R"({"type":"_X_","data":"a\u0000é"})");
+    EXPECT_EQ(request.typeName, "_X_");
+    EXPECT_EQ(request.data, std::string("a\0\xC3\xA9", 4));
+    EXPECT_TRUE(request.isUtf8);
+    EXPECT_EQ(request.checkCharacter, 0);
+    EXPECT_EQ(request.ratio, 2.0);
+}
+
+TEST(StreamRequest, TakesBytesAsTheyAre) {
+    EncodeRequest request = ParseStreamRequest(R"({"typeHex":"00FF","hex":"c3A9"})");
+    EXPECT_EQ(request.typeName, std::string("\0\xFF", 2));
+    EXPECT_EQ(request.data, "\xC3\xA9");
+    EXPECT_FALSE(request.isUtf8);
+    request = ParseStreamRequest(R"({"type":"","hex":"","utf8":true,"check":255,"ratio":-1e300})");
+    EXPECT_TRUE(request.isUtf8);
+    EXPECT_EQ(request.checkCharacter, 255);
+    EXPECT_EQ(request.ratio, -1e300);
+    EXPECT_EQ(ParseStreamRequest(R"({"type":"","hex":"","check":true})").checkCharacter, 1);
+    EXPECT_EQ(ParseStreamRequest(R"({"type":"","hex":"","ratio":3})").ratio, 3.0);
+}
+
+TEST(StreamRequest, SaysWhatIsWrong) {
+    EXPECT_EQ(WhyRefused(""), "no valid JSON from byte 1 on");
+    EXPECT_EQ(WhyRefused(R"({"type":)"), "no valid JSON from byte 9 on");
+    EXPECT_EQ(WhyRefused("{} {}"), "no valid JSON from byte 4 on");
+    EXPECT_EQ(WhyRefused("\"\xFF\""), "no valid JSON from byte 2 on");
+    EXPECT_EQ(WhyRefused("1"), "no object stands here");
+    EXPECT_EQ(WhyRefused("[{}]"), "a list stands where an object is expected");
+    EXPECT_EQ(WhyRefused("{}"), R"(there is neither "type" nor "typeHex")");
+    EXPECT_EQ(WhyRefused(R"({"type":""})"), R"(there is neither "data" nor "hex")");
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":"","hex":""})"),
+              R"(both "data" and "hex" are there)");
+    EXPECT_EQ(WhyRefused(R"({"type":1,"data":""})"), R"("type" is not a text)");
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":{}})"),
+              "a member is a list or an object; none may be");
+    EXPECT_EQ(WhyRefused(R"({"type":"","hex":"0"})"),
+              R"("hex" is not pairs of hexadecimal digits)");
+    EXPECT_EQ(
+        WhyRefused(R"({"type":"","data":"","ratoi":3})"),
+        R"(there is no member "ratoi"; the members are type, typeHex, data, hex, utf8, check, )"
+        "ratio");
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":"3"})"), R"("ratio" is not a number)");
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":1e999})"), "a number is too large");
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":"","utf8":true})"),
+              R"("utf8" goes with "hex"; "data" is always converted)");
+    EXPECT_EQ(WhyRefused(R"({"type":"","hex":"","utf8":1})"), R"("utf8" is not a boolean)");
+    for (const char* const check : {"256", "-1", "1.5", "\"1\"", "null"}) {
+        EXPECT_EQ(WhyRefused(R"({"type":"","data":"","check":)" + std::string(check) + "}"),
+                  R"("check" is not a whole number from 0 to 255 or a boolean)");
+    }
+}
+
+TEST(StreamRequest, HasRoomForTheLongestName) {
+    const auto line = [](std::size_t length) {
+        return R"({"data":"","type":")" + std::string(length, 'x') + "\"}";
+    };
+    EXPECT_EQ(WhyRefused(line(255)), "");
+    EXPECT_EQ(WhyRefused(line(256)), "the type name has 256 bytes; 255 is the most");
+}
+
+TEST(StreamRequest, StandsDeepNesting) {
+    EXPECT_NE(WhyRefused(std::string(100'000, '[')), "");
+    EXPECT_NE(WhyRefused(R"({"data":)" + std::string(100'000, '[')), "");
+    std::string objects;
+    for (int i = 0; i < 100'000; ++i) objects += R"({"data":)";
+    EXPECT_NE(WhyRefused(objects), "");
+}
+
+TEST(LineReader, TakesLinesApart) {
+    std::istringstream in("a\n\nbc\r\nlong line\nd");
+    std::ostringstream out;
+    LineReader reader(in, out);
+    std::string line;
+    using Result = LineReader::Result;
+    for (const char* const expected : {"a", "", "bc\r"}) {
+        EXPECT_EQ(reader.Next(line, 5), Result::kLine);
+        EXPECT_EQ(line, expected);
+    }
+    EXPECT_EQ(reader.Next(line, 5), Result::kTooLong);
+    EXPECT_EQ(reader.Next(line, 5), Result::kLine);
+    EXPECT_EQ(line, "d");
+    EXPECT_EQ(reader.Next(line, 5), Result::kEnd);
+}
+
+/** A stream that hands out a piece at a time and counts how often answers were let out. */
+class Pieces : public std::streambuf {
+  public:
+    explicit Pieces(std::vector<std::string> texts) : pieces(std::move(texts)) {}
+
+  protected:
+    int_type underflow() override {
+        if (next == pieces.size()) return traits_type::eof();
+        std::string& piece = pieces[next++];
+        setg(piece.data(), piece.data(), piece.data() + piece.size());
+        return traits_type::to_int_type(piece[0]);
+    }
+
+  private:
+    std::vector<std::string> pieces;
+    std::size_t next = 0;
+};
+
+class FlushCounter : public std::stringbuf {
+  public:
+    int flushes = 0;
+
+  protected:
+    int sync() override {
+        ++flushes;
+        return 0;
+    }
+};
+
+TEST(LineReader, LetsAnswersOutBeforeItWaits) {
+    Pieces pieces({"a\nb\nc", "d\n", "e"});
+    FlushCounter counter;
+    std::istream in(&pieces);
+    std::ostream out(&counter);
+    LineReader reader(in, out);
+    std::string line;
+    const auto next = [&] {
+        return reader.Next(line, 99) == LineReader::Result::kLine ? line : ".";
+    };
+    EXPECT_EQ(next(), "a");
+    EXPECT_EQ(counter.flushes, 1) << "before the first piece";
+    EXPECT_EQ(next(), "b");
+    EXPECT_EQ(counter.flushes, 1) << "more was at hand";
+    EXPECT_EQ(next(), "cd");
+    EXPECT_EQ(counter.flushes, 2);
+    EXPECT_EQ(next(), "e");
+    EXPECT_EQ(next(), ".");
+}
+
+std::vector<json> Answers(const std::string& out) {
+    std::vector<json> answers;
+    std::istringstream lines(out);
+    for (std::string line; std::getline(lines, line);) answers.push_back(json::parse(line));
+    return answers;
+}
+
+TEST(Stream, AnswersInOrder) {
+    const CommandRunner command;
+    const auto result = command.Run({"stream"}, R"({"type":"_BARCODE_CODE128B_","data":"AB"}
+{"type":"_BARCODE_CODE128A_","hex":"4142"}
+{"type":"_BARCODE_CODE128A_","data":"ab"}
+{"type":"ean13","data":" x "}
+{"type":"_BARCODE_USPS_IM_","data":"1"}
+)");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "");
+    const std::vector<json> answers = Answers(result.out);
+    ASSERT_EQ(answers.size(), 5U);
+    // Set B: 104 + 33 + 2·34 = 205, check 102, which is byte 134. Set A: 204, check 101, byte 201.
+    EXPECT_EQ(answers[0]["status"], 0);
+    EXPECT_EQ(answers[0]["recognised"], true);
+    EXPECT_EQ(answers[0]["hex"], "884142868a");
+    EXPECT_EQ(answers[0]["text"], "ˆAB†Š");
+    EXPECT_EQ(answers[0]["hint"], "");
+    EXPECT_EQ(answers[1]["hex"], "874142c98a");
+    EXPECT_EQ(answers[2]["status"], -1);
+    EXPECT_EQ(answers[2]["text"], "***Bad Code 128 A***");
+    EXPECT_EQ(answers[3]["status"], 0) << "no short names here";
+    EXPECT_EQ(answers[3]["recognised"], false);
+    EXPECT_EQ(answers[3]["text"], "x") << "the data is trimmed all the same";
+    EXPECT_EQ(answers[4]["status"], -6300);
+    EXPECT_NE(answers[4]["hint"], "");
+    for (const json& answer : answers) EXPECT_EQ(answer.size(), 5U);
+}
+
+TEST(Stream, ShowsKeysInThePseudoLocale) {
+    const CommandRunner command;
+    const auto result =
+        command.Run({"stream", "--locale", "qps"}, R"({"type":"_BARCODE_USPS_IM_","data":"1"})");
+    EXPECT_EQ(Answers(result.out).at(0)["hint"], "0x122100kLWRBarCodeLengthBetweenHint|20|31");
+}
+
+TEST(Stream, GoesOnAfterLinesThatAreNoRequests) {
+    const CommandRunner command;
+    const auto result = command.Run(
+        {"stream"}, "\n[1]\n{\"type\":\"_BARCODE_CODE128B_\",\"data\":\"AB\"}\n\xFF\xFE\nnull");
+    EXPECT_EQ(result.status, 2);
+    const std::vector<json> answers = Answers(result.out);
+    ASSERT_EQ(answers.size(), 5U);
+    EXPECT_EQ(answers[0]["error"], "line 1: no valid JSON from byte 1 on");
+    EXPECT_EQ(answers[1]["error"], "line 2: a list stands where an object is expected");
+    EXPECT_EQ(answers[2]["status"], 0);
+    EXPECT_EQ(answers[3]["error"], "line 4: no valid JSON from byte 1 on");
+    EXPECT_EQ(answers[4]["error"], "line 5: no object stands here");
+}
+
+TEST(Stream, OfNothingIsNothing) {
+    const CommandRunner command;
+    const auto result = command.Run({"stream"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "");
+}
+
+TEST(Stream, StandsLongLines) {
+    const CommandRunner command;
+    const std::string digits(2'000'000, '1');
+    const auto result =
+        command.Run({"stream"}, R"({"type":"_QVT_BARCODE_MSI_","data":")" + digits + "\"}\n" +
+                                    R"({"type":"no such type","data":")" + digits + "\"}\n" +
+                                    std::string((64U << 20) + 1, ' ') + "\n1");
+    const std::vector<json> answers = Answers(result.out);
+    ASSERT_EQ(answers.size(), 4U);
+    EXPECT_EQ(answers[0]["status"], -6300);
+    EXPECT_EQ(answers[1]["text"], digits);
+    EXPECT_EQ(answers[2]["error"], "line 3: longer than 67108864 bytes");
+    EXPECT_EQ(answers[3]["error"], "line 4: no object stands here");
+}
+
+}  // namespace
+
+}  // namespace linewright

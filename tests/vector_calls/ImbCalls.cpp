@@ -1,0 +1,18 @@
+#include "imb/EncodeIntelligentMail.h"
+#include "tests/VectorCalls.h"
+
+namespace linewright {
+
+namespace {
+
+const bool registered = RegisterCalls({
+    {"ImbErrorMessage",
+     [](const Row& row) {
+         const auto result = static_cast<ImbResult>(row.fields.at("value").get<int>());
+         return Outcome{.result = ImbErrorMessage(result)};
+     }},
+});
+
+}  // namespace
+
+}  // namespace linewright
