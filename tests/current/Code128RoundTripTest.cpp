@@ -26,7 +26,7 @@ TEST(Code128RoundTrip, EveryCharacterBelowDel) {
     for (char c = 1; c < 127; ++c) ascii += c;
     const std::string alphabets[] = {
         ascii, "0123456789", "0123456789012345678901234567890123456789A\ta", "\x01\x1f !_`az09"};
-    for (int round = 0; round < 8000; ++round) {
+    for (int round = 0; round < 4000; ++round) {
         const std::string data =
             RandomText(random, alphabets[round % 4], 1, round < 100 ? 512 : 60);
         ASSERT_EQ(Decoded(data), data);
@@ -71,8 +71,8 @@ TEST(Code128RoundTrip, ElementStrings) {
               "<FNC1>01095011015300031725123110AB-123");
     EXPECT_EQ(Decoded("(01)0950110153000~m13(21)4711(17)251231", true),
               "<FNC1>0109501101530003214711<FNC1>17251231");
-    EXPECT_EQ(Decoded("~2020034012345123456789~m17~20210AB-123~20221X", true),
-              "<FNC1>00340123451234567894<FNC1>10AB-123<FNC1>21X");
+    EXPECT_EQ(Decoded("~20210AB-123~20221X", true), "<FNC1>10AB-123<FNC1>21X");
+    EXPECT_EQ(Decoded("(00)34012345123456789~m17", true), "<FNC1>00340123451234567895");
 }
 
 }  // namespace

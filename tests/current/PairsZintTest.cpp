@@ -26,7 +26,9 @@ std::string Pattern(const TextArea& symbol, double ratio) {
 }
 
 std::string ZintPattern(int symbology, const std::string& data, double wide, bool check = false) {
-    return NarrowAndWide(RunsOf(ZintModules(symbology, data, check)), wide);
+    std::string modules = ZintModules(symbology, data, check);
+    modules.resize(modules.rfind('1') + 1);  // for Codabar there is a gap behind the last bar
+    return NarrowAndWide(RunsOf(modules), wide);
 }
 
 TEST(PairsZint, Code39) {
