@@ -21,9 +21,8 @@ void AddHostOptions(CLI::App& app, HostOptions& host) {
     add("--plugin", host.plugin, "FILE", "The plug-in's library");
 }
 
-CLI::Option* AddRatio(CLI::App& command, const CLI::callback_t& store) {
-    return command
-        .add_option("--ratio", store, "Wide bars to narrow ones: 2 (unless stated), 2.5 or 3")
+void AddRatio(CLI::App& command, const CLI::callback_t& store) {
+    command.add_option("--ratio", store, "Wide bars to narrow ones: 2 (unless stated), 2.5 or 3")
         ->type_name("N")
         ->check(CLI::IsMember({"2", "2.0", "2.5", "3", "3.0"}).description(""));
 }
