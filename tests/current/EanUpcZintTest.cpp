@@ -54,8 +54,14 @@ std::string RandomAddOn(std::mt19937& random) {
     return RandomText(random, kDigitCharacters, length, length);
 }
 
+std::string Joined(std::initializer_list<std::string_view> pieces) {
+    std::string text;
+    for (const std::string_view piece : pieces) text += piece;
+    return text;
+}
+
 std::string WithAddOn(const std::string& main, const std::string& addOn) {
-    return addOn.empty() ? main : main + "+" + addOn;
+    return addOn.empty() ? main : Joined({main, "+", addOn});
 }
 
 template <std::size_t Capacity>
@@ -71,7 +77,7 @@ TEST(EanUpcZint, Ean13) {
         const std::string main = RandomText(random, kDigitCharacters, 12, 12);
         const std::string addOn = RandomAddOn(random);
         const std::string checkDigit = round % 2 == 0 ? "" : "0";  // not looked at
-        ASSERT_EQ(Built<kEan13Capacity>(BuildEan13, main + checkDigit + addOn),
+        ASSERT_EQ(Built<kEan13Capacity>(BuildEan13, Joined({main, checkDigit, addOn})),
                   ZintSymbol(BARCODE_EANX, WithAddOn(main, addOn), 95))
             << main << '+' << addOn;
     }
@@ -92,7 +98,7 @@ TEST(EanUpcZint, UpcA) {
         const std::string main = RandomText(random, kDigitCharacters, 11, 11);
         const std::string addOn = RandomAddOn(random);
         const std::string checkDigit = round % 2 == 0 ? "" : "0";
-        ASSERT_EQ(Built<kUpcACapacity>(BuildUpcA, main + checkDigit + addOn),
+        ASSERT_EQ(Built<kUpcACapacity>(BuildUpcA, Joined({main, checkDigit, addOn})),
                   ZintSymbol(BARCODE_UPCA, WithAddOn(main, addOn), 95))
             << main << '+' << addOn;
     }

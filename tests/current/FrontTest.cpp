@@ -235,14 +235,14 @@ TEST_F(FrontTest, BytesFrom128To191AreWhatCode128CannotDraw) {
 }
 
 TEST_F(FrontTest, ARatioThatIsNoneCountsAsTwo) {
-    constexpr double kNone[] = {std::numeric_limits<double>::quiet_NaN(),
-                                std::numeric_limits<double>::infinity(),
-                                -std::numeric_limits<double>::infinity(), std::nextafter(3.0, 4.0),
-                                std::nextafter(2.5, 2.0)};
+    const double none[] = {std::numeric_limits<double>::quiet_NaN(),
+                           std::numeric_limits<double>::infinity(),
+                           -std::numeric_limits<double>::infinity(), std::nextafter(3.0, 4.0),
+                           std::nextafter(2.5, 2.0)};
     for (const uint16 code : std::initializer_list<uint16>{20, 21, 24, 27}) {
         const Result expected = Encode(code, "12345", 1, 2.0);
         EXPECT_EQ(expected.status, kEncoded);
-        for (const double ratio : kNone) EXPECT_EQ(Encode(code, "12345", 1, ratio), expected);
+        for (const double ratio : none) EXPECT_EQ(Encode(code, "12345", 1, ratio), expected);
     }
 }
 

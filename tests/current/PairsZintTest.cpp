@@ -52,12 +52,14 @@ TEST(PairsZint, Codabar) {
         const std::string data = RandomText(random, "0123456789-$:/.+", 1, 55);
         const std::string start = RandomText(random, "ABCD", 1, 1);
         const std::string stop = RandomText(random, "ABCD", 1, 1);
-        const std::string expected = ZintPattern(BARCODE_CODABAR, start + data + stop, 2);
+        std::string whole = start;
+        whole.append(data).append(stop);
+        const std::string expected = ZintPattern(BARCODE_CODABAR, whole, 2);
         for (const double ratio : kRatios) {
             FixedText<kCodabarCapacity> symbol;
             ASSERT_EQ(BuildCodabarCurrent(data.c_str(), ratio, start.c_str(), stop.c_str(), symbol),
                       kEncoded);
-            ASSERT_EQ(Pattern(symbol, ratio), expected) << start << data << stop << ratio;
+            ASSERT_EQ(Pattern(symbol, ratio), expected) << whole << " at " << ratio;
         }
     }
 }
