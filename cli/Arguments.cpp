@@ -122,6 +122,22 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright prefs set msiFirstCheck=mod10");
 }
 
+/** An option that adds a step, in its place among the others. CLI11 hands options over one by one
+ *  and not in the order of the command line, so `words` says which step an occurrence stands for.
+ */
+void AddDialog(CLI::App& app, Arguments& arguments) {
+    DialogOptions& dialog = arguments.dialog;
+    CLI::App& command = *app.add_subcommand("dialog", "Use a dialog of the plug-in, step by step");
+    command.add_option("ID", dialog.resource, "250, the preferences, or 251, the utility")
+        ->required()
+        ->check(CLI::IsMember({250, 251}).description(""));
+    const auto addStep = [&](const char* name, const char* help, DialogStep (*parse)(const std::string&)) {
+        return command.add_option_function<std::string>(
+            name, [&dialog, parse](const std::string& text) { dialog.steps.push_back(parse(text)); }, help);
+    };
+    static_cast<void>(addStep);
+}
+
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
