@@ -6,6 +6,7 @@
 
 #include "cli/BatchCommand.h"
 #include "cli/Console.h"
+#include "cli/DialogCommand.h"
 #include "cli/EncodeCommand.h"
 #include "cli/Service.h"
 
@@ -13,7 +14,7 @@ namespace linewright {
 
 /** What the command line asks for. */
 struct Arguments {
-    enum class Command { kTypes, kEncode, kStream, kBatch, kPrefs, kPrefsSet };
+    enum class Command { kTypes, kEncode, kStream, kBatch, kPrefs, kPrefsSet, kDialog };
 
     Command command = Command::kTypes;
     HostOptions host;
@@ -22,6 +23,7 @@ struct Arguments {
     BatchFiles batchFiles;
     BatchOptions batch;
     std::vector<std::string> assignments;
+    DialogOptions dialog;
 };
 
 /** Reads a command line (UTF-8, without the program's name). Answers --help, --version and mistakes

@@ -73,7 +73,7 @@ bool Widget::Type(const PMString& text) {
     const std::u32string typed = FromUtf8(ToUtf8(text));
     const std::u32string accepted = Accepted(typed);
     if (accepted != typed) SysBeep();
-    Store(PlainText(ToUtf8(accepted)), true);
+    Store(PlainText(ToUtf8(std::u32string_view(accepted))), true);
     return true;
 }
 

@@ -189,7 +189,7 @@ TEST_F(UtilityDialogTest, AChangeOfTypeResetsTheRatio) {
     Start(WithLast(IndexOfCode(21), "1"));
     const ShownDialog& dialog = OpenUtility();
     for (const int code : {24, 27, 1, 20, 21}) {
-        if (At(dialog, kRatio).IsEnabled()) EXPECT_TRUE(At(dialog, kRatio).Choose(2));
+        EXPECT_EQ(At(dialog, kRatio).Choose(2), At(dialog, kRatio).IsEnabled());
         At(dialog, kCheckDigit).Tick(false);
         EXPECT_TRUE(At(dialog, kType).Choose(IndexOfCode(code)));
         ExpectTypeIsShown(dialog, IndexOfCode(code));
@@ -204,9 +204,10 @@ TEST_F(UtilityDialogTest, CodesWithoutATypeHaveLabelsOrNothing) {
     const TestHost running;
     const std::string labels =
         Key("UsageLabel") + Key("DataLabel") + Key("SampleLabel") + Key("NotesLabel");
-    for (const uint16 code : {0, 31, 32, 255, 65535})
+    for (const uint16 code : std::initializer_list<uint16>{0, 31, 32, 255, 65535})
         EXPECT_EQ(Latin1(DescribeType(code)), labels) << code;
-    for (const uint16 code : {17, 18, 19}) EXPECT_EQ(Latin1(DescribeType(code)), "") << code;
+    for (const uint16 code : std::initializer_list<uint16>{17, 18, 19})
+        EXPECT_EQ(Latin1(DescribeType(code)), "") << code;
     for (const int code : kCodes)
         EXPECT_EQ(Latin1(DescribeType(static_cast<uint16>(code))), DescriptionOf(code)) << code;
 }
@@ -232,11 +233,13 @@ TEST_F(UtilityDialogTest, ConvertsAndStaysOpen) {
 TEST_F(UtilityDialogTest, TheHumanReadableTextComesBackIntoTheDataField) {
     Start(WithLast(IndexOfCode(23), ""));
     const ShownDialog& dialog = OpenUtility();
-    Convert(dialog, "400638133393");
-    // 4+0*3+0+6*3+3+8*3+1+3*3+3+3*3+9+3*3 = 89, check digit 1.
-    EXPECT_EQ(TextAt(dialog, kData), "4006381333931");
+    // The digits without the check digit, and filled up to twelve.
+    Convert(dialog, "4006381333931");
+    EXPECT_EQ(TextAt(dialog, kData), "400638133393");
+    Convert(dialog, "12");
+    EXPECT_EQ(TextAt(dialog, kData), "000000000012");
     // What was typed is what is offered again, not what came back.
-    EXPECT_EQ(TextAt(OpenUtility(), kData), "400638133393");
+    EXPECT_EQ(TextAt(OpenUtility(), kData), "12");
 }
 
 TEST_F(UtilityDialogTest, HasCheckDigitAndRatioAsChosen) {
@@ -514,7 +517,7 @@ TEST_F(UtilityDialogTest, ItsResultIsThatOfARequest) {
         EXPECT_TRUE(At(dialog, kType).Choose(IndexOfCode(code)));
         const int32 item = OffersRatio(code) ? static_cast<int32>(random() % 3) : 0;
         bool check = HasCheckDigitOn(code);
-        if (OffersRatio(code)) EXPECT_TRUE(At(dialog, kRatio).Choose(item));
+        EXPECT_EQ(At(dialog, kRatio).Choose(item), OffersRatio(code));
         if (OffersCheckDigit(code)) {
             check = random() % 2 == 0;
             EXPECT_TRUE(At(dialog, kCheckDigit).Tick(check));
@@ -613,7 +616,7 @@ TEST_P(LocaleTest, TypesAreFoundByTheirTexts) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, LocaleTest, testing::Values("enUS", "deDE", "frFR", "jaJP"),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& tested) { return std::string(tested.param); });
 
 }  // namespace
 
