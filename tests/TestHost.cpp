@@ -20,7 +20,7 @@ std::string Utf8(const std::filesystem::path& path) {
 std::filesystem::path MakeTestFolder() {
     std::random_device random;
     auto folder = std::filesystem::temp_directory_path() /
-                        ("linewright-test-" + std::to_string(random()) + std::to_string(random()));
+                  ("linewright-test-" + std::to_string(random()) + std::to_string(random()));
     std::filesystem::create_directories(folder);
     return folder;
 }
