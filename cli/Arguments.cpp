@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace linewright {
 
@@ -122,27 +123,76 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright prefs set msiFirstCheck=mod10");
 }
 
+<<<<<<< HEAD
 /** An option that adds a step, in its place among the others. CLI11 hands options over one by one
  *  and not in the order of the command line, so `words` says which step an occurrence stands for.
  */
+=======
+>>>>>>> dialogs
 void AddDialog(CLI::App& app, Arguments& arguments) {
     DialogOptions& dialog = arguments.dialog;
     CLI::App& command = *app.add_subcommand("dialog", "Use a dialog of the plug-in, step by step");
     command.add_option("ID", dialog.resource, "250, the preferences, or 251, the utility")
         ->required()
+<<<<<<< HEAD
         ->check(CLI::IsMember({250, 251}).description(""));
     const auto addStep = [&](const char* name, const char* help, DialogStep (*parse)(const std::string&)) {
         return command.add_option_function<std::string>(
             name, [&dialog, parse](const std::string& text) { dialog.steps.push_back(parse(text)); }, help);
     };
     static_cast<void>(addStep);
+=======
+        ->check(CLI::IsMember(std::set<uint32>{250, 251}).description(""));
+    // Steps are taken down as they are read, so that they keep their order.
+    const auto addStep = [&](const char* name, const char* type, const char* help, auto parse) {
+        return command
+            .add_option_function<std::string>(
+                name,
+                [&dialog, parse](const std::string& text) { dialog.steps.push_back(parse(text)); },
+                help)
+            ->type_name(type)
+            ->trigger_on_parse();
+    };
+    const auto addPress = [&](const char* name, DialogStep::Kind kind, const char* help) {
+        return command
+            .add_flag_callback(
+                name,
+                [&dialog, kind] {
+                    dialog.steps.push_back({kind, 0, ""});
+                },
+                help)
+            ->trigger_on_parse();
+    };
+    const std::vector<CLI::Option*> steps{
+        addStep("--set", "ID=VALUE", "Type, choose (text or number) or tick (on, off)",
+                ParseSetStep),
+        addStep("--press", "ID", "Press a button", ParsePressStep),
+        addPress("--ok", DialogStep::Kind::kOK, "Press OK"),
+        addPress("--cancel", DialogStep::Kind::kCancel, "Press Cancel"),
+    };
+    CLI::Option* const json = command.add_flag("--json", dialog.isJson, "Print a JSON object");
+    CLI::Option* const script =
+        command
+            .add_option_function<std::string>(
+                "--script", [&dialog](const std::string&) { dialog.isScript = true; },
+                "Steps from standard input, a JSON object a line, each answered by one")
+            ->type_name("-")
+            ->check(CLI::IsMember({"-"}).description(""))
+            ->excludes(json);
+    for (CLI::Option* const step : steps) script->excludes(step);
+    command.footer(
+        "Steps are done in their order. In a script: {\"set\":ID,\"value\":VALUE}, "
+        "{\"press\":ID},\n"
+        "{\"open\":250}, {\"ok\":true}, {\"cancel\":true}, {\"show\":true}\n"
+        "Example:  linewright dialog 251 --set 0x12211D=EAN-13 --set 0x122119=400638133393 --ok");
+>>>>>>> dialogs
 }
 
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
         {"types", Command::kTypes}, {"encode", Command::kEncode}, {"stream", Command::kStream},
-        {"batch", Command::kBatch}, {"prefs", Command::kPrefs},
+        {"batch", Command::kBatch}, {"prefs", Command::kPrefs},   {"dialog", Command::kDialog},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
     if (!chosen.get_subcommands().empty()) return Command::kPrefsSet;
@@ -165,6 +215,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddStream(app);
     AddBatch(app, *result);
     AddPrefs(app, *result);
+    AddDialog(app, *result);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
         "Each command has its own --help. Options for the host may stand anywhere.\n"

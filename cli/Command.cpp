@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "cli/Arguments.h"
+#include "cli/DialogCommand.h"
 #include "cli/Failure.h"
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
@@ -27,7 +28,8 @@ std::string PlugInBeside(const std::filesystem::path& programFolder) {
     return Utf8FromPath(path.lexically_normal());
 }
 
-ExitStatus RunOne(Service& service, const Arguments& arguments, Console& console) {
+ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments,
+                  Console& console) {
     switch (arguments.command) {
         case Arguments::Command::kTypes: return RunTypes(service, arguments.isTypesJson, console);
         case Arguments::Command::kEncode: return RunEncode(service, arguments.encode, console);
@@ -36,6 +38,7 @@ ExitStatus RunOne(Service& service, const Arguments& arguments, Console& console
             return RunBatch(service, arguments.batchFiles, arguments.batch, console);
         case Arguments::Command::kPrefs: return RunPrefs(console);
         case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
+        case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }
     return kTrouble;
 }
@@ -52,8 +55,10 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
     if (!arguments) return exitStatus;
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
+    DialogUser user;
+    if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
-    exitStatus = RunOne(service, *arguments, console);
+    exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
     if (!console.out.flush()) throw Failure("standard output could not be written to its end");
     return exitStatus;

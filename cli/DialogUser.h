@@ -54,13 +54,17 @@ class DialogUser final : public host::FrontEnd {
   private:
     /** A dialog, and what it looked like when it was closed. */
     struct Seen final : host::DialogListener {
-        explicit Seen(host::ShownDialog& shown) : dialog(&shown) { shown.SetListener(this); }
+        Seen(host::ShownDialog& shown, nlohmann::ordered_json& lastClosedState)
+            : dialog(&shown), lastClosed(lastClosedState) {
+            shown.SetListener(this);
+        }
         void WidgetChanged(host::ShownWidget& /*widget*/) override {}
         void DialogClosed() override;
         nlohmann::ordered_json State() const;
 
         host::ShownDialog* dialog;  // nullptr when it is closed
         nlohmann::ordered_json last;
+        nlohmann::ordered_json& lastClosed;
     };
 
     /** Takes steps as long as `goOn`. */
@@ -76,6 +80,7 @@ class DialogUser final : public host::FrontEnd {
     StepAnswer tell;
     bool isAnswerDue = false;
     std::exception_ptr trouble;
+    nlohmann::ordered_json lastClosed{{"dialog", nullptr}};
     std::list<Seen> dialogs;  // the first, and those that are open, in the order of their opening
 };
 

@@ -15,7 +15,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 const std::vector<std::vector<std::string>> kCommands{
-    {}, {"types"}, {"encode"}, {"stream"}, {"batch"}, {"prefs"}, {"prefs", "set"}};
+    {}, {"types"}, {"encode"}, {"stream"}, {"batch"}, {"prefs"}, {"prefs", "set"}, {"dialog"}};
 
 TEST(Help, FitsAScreenAndHasAnExample) {
     const CommandRunner command;
