@@ -123,25 +123,11 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright prefs set msiFirstCheck=mod10");
 }
 
-<<<<<<< HEAD
-/** An option that adds a step, in its place among the others. CLI11 hands options over one by one
- *  and not in the order of the command line, so `words` says which step an occurrence stands for.
- */
-=======
->>>>>>> dialogs
 void AddDialog(CLI::App& app, Arguments& arguments) {
     DialogOptions& dialog = arguments.dialog;
     CLI::App& command = *app.add_subcommand("dialog", "Use a dialog of the plug-in, step by step");
     command.add_option("ID", dialog.resource, "250, the preferences, or 251, the utility")
         ->required()
-<<<<<<< HEAD
-        ->check(CLI::IsMember({250, 251}).description(""));
-    const auto addStep = [&](const char* name, const char* help, DialogStep (*parse)(const std::string&)) {
-        return command.add_option_function<std::string>(
-            name, [&dialog, parse](const std::string& text) { dialog.steps.push_back(parse(text)); }, help);
-    };
-    static_cast<void>(addStep);
-=======
         ->check(CLI::IsMember(std::set<uint32>{250, 251}).description(""));
     // Steps are taken down as they are read, so that they keep their order.
     const auto addStep = [&](const char* name, const char* type, const char* help, auto parse) {
@@ -185,7 +171,6 @@ void AddDialog(CLI::App& app, Arguments& arguments) {
         "{\"press\":ID},\n"
         "{\"open\":250}, {\"ok\":true}, {\"cancel\":true}, {\"show\":true}\n"
         "Example:  linewright dialog 251 --set 0x12211D=EAN-13 --set 0x122119=400638133393 --ok");
->>>>>>> dialogs
 }
 
 Arguments::Command CommandOf(const CLI::App& app) {

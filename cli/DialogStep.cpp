@@ -58,13 +58,8 @@ DialogStep SetStepOf(const json& object) {
 
 DialogStep FlagStepOf(const std::string& name, const json& value) {
     using Kind = DialogStep::Kind;
-<<<<<<< HEAD
-    for (const auto& [flag, kind] : {std::pair{"ok", Kind::kOK}, {"cancel", Kind::kCancel},
-                                     {"show", Kind::kShow}}) {
-=======
     for (const auto& [flag, kind] :
          {std::pair{"ok", Kind::kOK}, {"cancel", Kind::kCancel}, {"show", Kind::kShow}}) {
->>>>>>> dialogs
         if (name != flag) continue;
         if (value != true) throw Failure(fmt::format("\"{}\" is not true", name));
         return {kind, 0, ""};
@@ -103,12 +98,8 @@ DialogStep ParseScriptStep(std::string_view line) {
     if (!object.is_object() || object.empty()) throw Failure("no object with a step stands here");
     if (object.contains("set")) return SetStepOf(object);
     if (object.size() != 1) throw Failure("a line has one step");
-<<<<<<< HEAD
-    const auto& [name, value] = *object.items().begin();
-=======
     const std::string& name = object.begin().key();
     const json& value = object.begin().value();
->>>>>>> dialogs
     if (name == "press") return {DialogStep::Kind::kPress, IDOf(value), ""};
     if (name == "open") return {DialogStep::Kind::kOpen, IDOf(value), ""};
     return FlagStepOf(name, value);

@@ -51,13 +51,7 @@ PMString HostTextFrom(const std::string& utf8) {
     for (std::size_t i = 0; i < utf8.size();) {
         const std::size_t length = Utf8CharacterLength(utf8, i);
         if (length == 0) throw Failure(fmt::format("byte {} of the text is not UTF-8", i + 1));
-<<<<<<< HEAD
-        const auto byte = [&](std::size_t at) {
-            return static_cast<unsigned char>(utf8[i + at]);
-        };
-=======
         const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(utf8[i + at]); };
->>>>>>> dialogs
         UTF32TextChar character = byte(0);
         if (length > 1) {
             character &= 0x7FU >> length;
@@ -149,11 +143,7 @@ void Open(uint32 resource) {
 }  // namespace
 
 void DialogUser::Seen::DialogClosed() {
-<<<<<<< HEAD
-    last = StateOf(*dialog, false);
-=======
     last = lastClosed = StateOf(*dialog, false);
->>>>>>> dialogs
     dialog = nullptr;
 }
 
@@ -171,20 +161,11 @@ void DialogUser::TakeSteps(StepSource source, StepAnswer answer) {
 ordered_json DialogUser::State() const {
     const auto open = std::find_if(dialogs.rbegin(), dialogs.rend(),
                                    [](const Seen& seen) { return seen.dialog != nullptr; });
-<<<<<<< HEAD
-    if (open != dialogs.rend()) return open->State();
-    return dialogs.empty() ? ordered_json{{"dialog", nullptr}} : dialogs.back().State();
-}
-
-ordered_json DialogUser::FirstState() const {
-    return dialogs.empty() ? ordered_json{{"dialog", nullptr}} : dialogs.front().State();
-=======
     return open == dialogs.rend() ? lastClosed : open->State();
 }
 
 ordered_json DialogUser::FirstState() const {
     return dialogs.empty() ? lastClosed : dialogs.front().State();
->>>>>>> dialogs
 }
 
 void DialogUser::ShowAlert(host::AlertKind kind, const char* text) {
@@ -196,11 +177,7 @@ void DialogUser::ShowDialog(host::ShownDialog& dialog) {
         for (auto seen = std::next(dialogs.begin()); seen != dialogs.end();)
             seen = seen->dialog ? std::next(seen) : dialogs.erase(seen);
     }
-<<<<<<< HEAD
-    const Seen& seen = dialogs.emplace_back(dialog);
-=======
     const Seen& seen = dialogs.emplace_back(dialog, lastClosed);
->>>>>>> dialogs
     if (dialog.GetType() != IDialog::kMovableModal) return;
     Go([this, &seen] {
         if (isAnswerDue) Answer(std::nullopt);
@@ -254,12 +231,7 @@ void DialogUser::Perform(const DialogStep& step) {
         case Kind::kOK: isDone = press(Find(id = kOKButtonWidgetID)); break;
         case Kind::kCancel: isDone = press(Find(id = kCancelButton_WidgetID)); break;
     }
-<<<<<<< HEAD
-    if (!isDone)
-        throw Failure(fmt::format("{} is hidden or disabled, or its item is", HexID(id)));
-=======
     if (!isDone) throw Failure(fmt::format("{} is hidden or disabled, or its item is", HexID(id)));
->>>>>>> dialogs
 }
 
 host::ShownDialog& DialogUser::Top() {
