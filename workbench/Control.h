@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "host/runtime/ShownDialog.h"
+
+namespace linewright {
+
+/** One widget of a dialog on the screen: shows the host's widget, and passes on what the user does
+ *  to it. Neither the Qt widget nor the host's is touched once the host has closed the dialog. */
+class Control {
+  public:
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    /** What stands in the dialog; belongs to its parent. */
+    QWidget* View() const { return fView; }
+    /** Takes over what the host's widget holds now. */
+    void Show();
+
+  protected:
+    Control(host::ShownWidget& shown, QWidget* view) : fShown(shown), fView(view) {}
+
+    virtual void ShowContent() = 0;
+
+    host::ShownWidget& fShown;
+
+  private:
+    QWidget* fView;
+};
+
+/** The control for a widget; its view gets `parent`. */
+std::unique_ptr<Control> MakeControl(host::ShownWidget& shown, QWidget* parent);
+
+}  // namespace linewright

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+namespace linewright {
+
+/** What the window says of its own; the plug-in's words come from the plug-in. */
+enum class Phrase { kFileMenu, kQuit, kLanguageMenu, kWelcome, kNoPlugIn, kCount };
+
+/** The phrase in a locale such as "deDE"; in English where there is no translation. */
+QString Say(Phrase phrase, const QString& locale);
+
+/** A language in its own words: "Deutsch" for "deDE". */
+QString LanguageName(const QString& locale);
+
+/** The locale of the user's system in the host's way of writing, such as "frFR". */
+QString SystemLocale();
+
+/** Has Qt's own texts (buttons, context menus) appear in a locale, where it has them. */
+void TranslateQt(const QString& locale);
+
+}  // namespace linewright

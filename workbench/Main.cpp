@@ -1,0 +1,41 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <cstdio>
+
+#include "workbench/Workbench.h"
+
+namespace {
+
+linewright::WorkbenchOptions ParseOptions(const QApplication& program) {
+    const QCommandLineOption locale("locale", "enUS, deDE, frFR or jaJP.", "NAME");
+    const QCommandLineOption config("config-dir", "Folder that holds the preferences.", "DIR");
+    const QCommandLineOption app("app-dir", "Folder of the application.", "DIR");
+    const QCommandLineOption plugIn("plugin", "The plug-in's library.", "FILE");
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Turns data into text for barcode fonts, in a window.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({locale, config, app, plugIn});
+    parser.process(program);
+    return {.plugIn = parser.value(plugIn),
+            .roamingFolder = parser.value(config),
+            .appFolder = parser.value(app),
+            .locale = parser.value(locale),
+            .beep = {}};
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+    QApplication program(count, values);
+    QApplication::setApplicationName("linewright-workbench");
+    QApplication::setApplicationDisplayName("Linewright");
+    QApplication::setApplicationVersion(LINEWRIGHT_VERSION);
+    linewright::Workbench workbench(ParseOptions(program));
+    if (!workbench.Start()) {
+        std::fprintf(stderr, "linewright-workbench: %s\n", qUtf8Printable(workbench.Error()));
+        return 1;
+    }
+    workbench.Window().show();
+    return QApplication::exec();
+}

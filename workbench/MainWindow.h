@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QSettings>
+#include <functional>
+
+namespace linewright {
+
+/** The window: the menus of the plug-in among its own, and a page. */
+class MainWindow final : public QMainWindow {
+  public:
+    /** `settings` keep the window's place and outlive it; `chooseLanguage` hears of a locale that
+     *  the user picks. */
+    MainWindow(QSettings& settings, std::function<void(const QString&)> chooseLanguage);
+
+    /** Shows the menus of the plug-in that runs now, in its locale. */
+    void ShowPlugIn();
+    void HidePlugIn();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void AddFileMenu(const QString& locale);
+    void AddPlugInMenus();
+    void AddLanguageMenu(const QString& locale);
+    QWidget* MakePage(const QString& locale);
+
+    QSettings& fSettings;
+    std::function<void(const QString&)> fChooseLanguage;
+};
+
+}  // namespace linewright
