@@ -2,12 +2,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
+#include <algorithm>
 
 #include "workbench/Text.h"
 
@@ -34,13 +36,18 @@ class Label final : public ControlOf<QLabel> {
     void ShowContent() override { fWidget->setText(TextFromHost(fShown.GetText())); }
 };
 
+/** In data every character counts: a zero is not to be taken for a letter. */
+QFont DataFont() {
+    return QFontDatabase::systemFont(QFontDatabase::FixedFont);
+}
+
 class EditBox final : public ControlOf<QLineEdit> {
   public:
     EditBox(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
+        fWidget->setFont(DataFont());
         // What the box takes is for the host to say, and to beep about.
-        QObject::connect(fWidget, &QLineEdit::textEdited, fWidget, [this](const QString& text) {
-            fShown.Type(TextForHost(text));
-        });
+        QObject::connect(fWidget, &QLineEdit::textEdited, fWidget,
+                         [this](const QString& text) { fShown.Type(TextForHost(text)); });
     }
 
   private:
@@ -57,6 +64,7 @@ class EditBox final : public ControlOf<QLineEdit> {
 class ResultBox final : public ControlOf<QLineEdit> {
   public:
     ResultBox(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
+        fWidget->setFont(DataFont());
         fWidget->setReadOnly(true);
     }
 
@@ -70,13 +78,16 @@ class ResultBox final : public ControlOf<QLineEdit> {
 class Description final : public ControlOf<QPlainTextEdit> {
   public:
     Description(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
-        constexpr int kColumns = 68;
-        constexpr int kLines = 14;
+        constexpr int kColumns = 80;
+        constexpr int kLines = 18;
+        constexpr int kMargin = 8;
         fWidget->setReadOnly(true);
         fWidget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         fWidget->setTabChangesFocus(true);
+        fWidget->document()->setDocumentMargin(kMargin);
         const QFontMetrics metrics = fWidget->fontMetrics();
-        fWidget->setMinimumSize(kColumns * metrics.averageCharWidth(), kLines * metrics.lineSpacing());
+        fWidget->setMinimumSize(kColumns * metrics.averageCharWidth(),
+                                kLines * metrics.lineSpacing());
     }
 
   private:
@@ -86,7 +97,8 @@ class Description final : public ControlOf<QPlainTextEdit> {
 class CheckBox final : public ControlOf<QCheckBox> {
   public:
     CheckBox(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
-        QObject::connect(fWidget, &QCheckBox::clicked, fWidget, [this](bool on) { fShown.Tick(on); });
+        QObject::connect(fWidget, &QCheckBox::clicked, fWidget,
+                         [this](bool on) { fShown.Tick(on); });
     }
 
   private:
@@ -109,12 +121,19 @@ class PopUp final : public ControlOf<QComboBox> {
 
   private:
     void ShowContent() override {
+        int overhang = 0;
         fWidget->clear();
         const auto* const items = static_cast<QStandardItemModel*>(fWidget->model());
         for (int32 i = 0; i < fShown.CountItems(); ++i) {
-            fWidget->addItem(TextFromHost(fShown.GetItem(i)));
+            const QString text = TextFromHost(fShown.GetItem(i));
+            fWidget->addItem(text);
             items->item(i)->setEnabled(fShown.IsItemEnabled(i));
+            const QFontMetrics metrics = fWidget->fontMetrics();
+            overhang = std::max(
+                overhang, metrics.horizontalAdvance(text) - metrics.boundingRect(text).width());
         }
+        // The size hint goes by the ink, the text is cut by its advance.
+        fWidget->setMinimumWidth(fWidget->sizeHint().width() + overhang);
         fWidget->setCurrentIndex(fShown.GetSelected());
     }
 };
@@ -126,7 +145,11 @@ class Button final : public ControlOf<QPushButton> {
     }
 
   private:
-    void ShowContent() override { fWidget->setText(TextFromHost(fShown.GetText())); }
+    void ShowContent() override {
+        constexpr int kPadding = 10;
+        fWidget->setText(TextFromHost(fShown.GetText()));
+        fWidget->setMinimumWidth(fWidget->sizeHint().width() + 2 * kPadding);
+    }
 };
 
 }  // namespace

@@ -16,6 +16,12 @@ using host::WidgetPlace;
 
 namespace {
 
+// In pixels
+constexpr int kMargin = 16;
+constexpr int kGroupSpacing = 16;
+constexpr int kColumnSpacing = 12;
+constexpr int kRowSpacing = 8;
+
 bool TakesRoom(const ShownWidget& widget) {
     return widget.GetKind() == WidgetKind::kDescription;
 }
@@ -109,9 +115,10 @@ void DialogWindow::NameControls() {
 
 void DialogWindow::Arrange() {
     auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kGroupSpacing);
     for (int32 group = 0; group < fDialog->CountGroups(); ++group)
         column->addLayout(ArrangeGroup(group));
-    column->addSpacing(column->spacing());
     column->addLayout(ArrangeButtons());
     AlignColumns();
     const bool isSizable = std::any_of(fControls.begin(), fControls.end(),
@@ -124,6 +131,8 @@ QLayout* DialogWindow::ArrangeGroup(int32 group) {
     auto* const grid = new QGridLayout;
     fGrids.push_back(grid);
     grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(kColumnSpacing);
+    grid->setVerticalSpacing(kRowSpacing);
     for (const auto& [shown, control] : fControls) {
         const WidgetPlace place = shown->GetPlace();
         if (place.group != group) continue;
@@ -137,6 +146,7 @@ QLayout* DialogWindow::ArrangeGroup(int32 group) {
     if (title.isEmpty()) return grid;
     auto* const frame = new QGroupBox(title, this);
     frame->setLayout(grid);
+    grid->setContentsMargins(kColumnSpacing, kRowSpacing, kColumnSpacing, kColumnSpacing);
     auto* const framed = new QVBoxLayout;
     framed->addWidget(frame);
     return framed;
@@ -144,6 +154,7 @@ QLayout* DialogWindow::ArrangeGroup(int32 group) {
 
 QLayout* DialogWindow::ArrangeButtons() {
     auto* const row = new QHBoxLayout;
+    row->setSpacing(kRowSpacing);
     bool isStretched = false;
     for (const auto& [shown, control] : fControls) {
         if (shown->GetPlace().group != WidgetPlace::kButtonRow) continue;

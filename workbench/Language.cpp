@@ -20,17 +20,16 @@ constexpr std::array kLanguages{
              {"&File", "&Quit", "L&anguage", "Turn data into text for a barcode font.",
               "The plug-in could not be started"}},
     Language{"deDE",
-             {"&Datei", "&Beenden", "&Sprache",
-              "Aus Daten wird Text für eine Barcode-Schrift.",
+             {"&Datei", "&Beenden", "&Sprache", "Aus Daten wird Text für eine Barcode-Schrift.",
               "Das Zusatzmodul konnte nicht gestartet werden"}},
     Language{"frFR",
              {"&Fichier", "&Quitter", "L&angue",
               "Transformez des données en texte pour une police de codes-barres.",
               "Le module n’a pas pu démarrer"}},
-    Language{"jaJP",
-             {"ファイル(&F)", "終了(&Q)", "言語(&A)",
-              "データをバーコードフォント用の文字列に変換します。",
-              "プラグインを起動できませんでした"}},
+    Language{
+        "jaJP",
+        {"ファイル(&F)", "終了(&Q)", "言語(&A)",
+         "データをバーコードフォント用の文字列に変換します。", "プラグインを起動できませんでした"}},
 };
 
 QLocale QtLocale(const QString& locale) {

@@ -106,13 +106,21 @@ QWidget* MainWindow::MakePage(const QString& locale) {
     column->addWidget(title, 0, Qt::AlignHCenter);
     column->addWidget(text, 0, Qt::AlignHCenter);
     column->addSpacing(2 * column->spacing());
+    auto* const buttons = new QVBoxLayout;
     for (int32 i = 0; i < host::CountMenuItems(); ++i) {
         const host::MenuItem item = host::GetMenuItem(i);
         auto* const button = new QPushButton(TextFromHost(item.text));
+        button->setMinimumHeight(2 * button->fontMetrics().height());
+        button->setMinimumWidth(2 * button->sizeHint().width());
         connect(button, &QPushButton::clicked, this,
                 [action = item.action] { host::DoAction(action); });
-        column->addWidget(button, 0, Qt::AlignHCenter);
+        buttons->addWidget(button);
     }
+    auto* const row = new QHBoxLayout;
+    row->addStretch();
+    row->addLayout(buttons);
+    row->addStretch();
+    column->addLayout(row);
     column->addStretch();
     return page;
 }

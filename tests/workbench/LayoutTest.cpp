@@ -40,6 +40,8 @@ QChar MnemonicOf(const QString& text) {
 }
 
 int WidthOf(const QWidget& view, const QString& text) {
+    // A frame's title ends with its ink, such as before the blank half of a wide bracket.
+    if (qobject_cast<const QGroupBox*>(&view)) return view.fontMetrics().boundingRect(text).width();
     return view.fontMetrics().size(Qt::TextShowMnemonic, text).width();
 }
 
@@ -75,15 +77,17 @@ std::vector<Shown> TextsOf(const QWidget& view) {
     }
     if (const auto* frame = qobject_cast<const QGroupBox*>(&view)) {
         const auto option = Styled<QGroupBox, QStyleOptionGroupBox>::OptionOf(*frame);
-        const QRect room = style.subControlRect(QStyle::CC_GroupBox, &option,
-                                                QStyle::SC_GroupBoxLabel, frame);
+        const QRect room =
+            style.subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, frame);
         return {{frame->title(), room.intersected(frame->rect()).size()}};
     }
     if (const auto* popUp = qobject_cast<const QComboBox*>(&view)) {
         const auto option = Styled<QComboBox, QStyleOptionComboBox>::OptionOf(*popUp);
-        const QSize room = style.subControlRect(QStyle::CC_ComboBox, &option,
-                                                QStyle::SC_ComboBoxEditField, popUp).size();
+        const QSize room =
+            style.subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, popUp)
+                .size();
         std::vector<Shown> texts;
+        texts.reserve(static_cast<std::size_t>(popUp->count()));
         for (int i = 0; i < popUp->count(); ++i) texts.push_back({popUp->itemText(i), room});
         return texts;
     }
@@ -117,8 +121,8 @@ class LayoutTest : public WorkbenchTest, public testing::WithParamInterface<cons
         for (const QWidget* const view : dialog.findChildren<QWidget*>()) {
             if (!view->isVisible()) continue;
             ExpectReadable(*view);
-            EXPECT_TRUE(dialog.rect().contains(
-                QRect(view->mapTo(&dialog, QPoint()), view->size()))) << view->metaObject()->className();
+            EXPECT_TRUE(dialog.rect().contains(QRect(view->mapTo(&dialog, QPoint()), view->size())))
+                << view->metaObject()->className();
         }
         const std::vector<QWidget*> views = dialog.Views();
         for (std::size_t i = 0; i < views.size(); ++i) {
@@ -144,8 +148,9 @@ class LayoutTest : public WorkbenchTest, public testing::WithParamInterface<cons
         for (const QWidget* const view : dialog.Views()) {
             const auto* const label = qobject_cast<const QLabel*>(view);
             const auto* const button = qobject_cast<const QAbstractButton*>(view);
-            const QChar mnemonic =
-                MnemonicOf(label ? label->text() : button ? button->text() : QString());
+            const QChar mnemonic = MnemonicOf(label    ? label->text()
+                                              : button ? button->text()
+                                                       : QString());
             const bool isPlain = view == dialog.FindView(kOKButton) ||
                                  view == dialog.FindView(kCancelButton) || (!label && !button);
             EXPECT_TRUE(isPlain || !mnemonic.isNull());

@@ -114,8 +114,8 @@ TEST_F(PrefsWindowTest, TheSecondMsiCheckDigitFollowsTheFirst) {
 TEST_F(PrefsWindowTest, TheKeyboardAloneReachesEverything) {
     Start();
     UsePreferences([](DialogWindow& dialog) {
-        const WidgetID order[]{kCode39Asterisk, kI2of5CheckDigit, kMsiFirstCheck, kMsiSecondCheck,
-                               kShowErrorAlerts, kOKButton, kCancelButton, kCode39Check};
+        const WidgetID order[]{kCode39Asterisk,  kI2of5CheckDigit, kMsiFirstCheck, kMsiSecondCheck,
+                               kShowErrorAlerts, kOKButton,        kCancelButton,  kCode39Check};
         EXPECT_EQ(dialog.focusWidget(), dialog.FindView(kCode39Check));
         for (const WidgetID id : order) {
             QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);

@@ -18,6 +18,13 @@ namespace linewright {
 
 namespace {
 
+/** Types characters that need not be on an English keyboard. */
+void TypeCharacters(QLineEdit& box, const QString& text) {
+    for (const QChar character : text)
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(character),
+                            Qt::NoModifier);
+}
+
 class UtilityWindowTest : public WorkbenchTest {};
 
 TEST_F(UtilityWindowTest, EveryTypeShowsItsDescriptionAndWhatItOffers) {
@@ -136,9 +143,7 @@ TEST_F(UtilityWindowTest, ThePreferencesHoldAlertsBack) {
     Start();
     const DialogWindow& dialog = OpenUtility();
     DuringModal<DialogWindow>(
-        [&] {
-            QTest::mouseClick(&At<QPushButton>(dialog, kPreferencesButton), Qt::LeftButton);
-        },
+        [&] { QTest::mouseClick(&At<QPushButton>(dialog, kPreferencesButton), Qt::LeftButton); },
         [](DialogWindow& preferences) {
             EXPECT_TRUE(preferences.isModal());
             QTest::keyClick(&At<QCheckBox>(preferences, kShowErrorAlerts), Qt::Key_Space);
@@ -155,15 +160,16 @@ TEST_F(UtilityWindowTest, TheDataFieldTakes255CharactersUpTo255AndBeepsAtOthers)
     Start();
     const DialogWindow& dialog = OpenUtility();
     auto& data = At<QLineEdit>(dialog, kData);
-    TypeData(dialog, QString::fromUtf8("aé\u00FF"));
+    TypeData(dialog, "a");
+    TypeCharacters(data, QString::fromUtf8("é\u00FF"));
     EXPECT_EQ(beeps, 0);
-    QTest::keyClicks(&data, QString(QChar(0x100)));
+    TypeCharacters(data, QString(QChar(0x100)));
     EXPECT_EQ(beeps, 1);
     EXPECT_EQ(data.text(), QString::fromUtf8("aé\u00FF"));
 
     // In the middle, the cursor stays where it was.
     data.setCursorPosition(1);
-    QTest::keyClicks(&data, QString::fromUtf8("漢"));
+    TypeCharacters(data, QString::fromUtf8("漢"));
     EXPECT_EQ(beeps, 2);
     EXPECT_EQ(data.cursorPosition(), 1);
     QTest::keyClicks(&data, "b");
@@ -229,7 +235,7 @@ TEST_F(UtilityWindowTest, TheKeyboardAloneReachesEverything) {
     DialogWindow& dialog = OpenUtility();
     ChooseType(dialog, "Code 39");
     At<QComboBox>(dialog, kType).setFocus();
-    const WidgetID order[]{kDescription, kData,     kCheckDigit,  kRatio, kResult,
+    const WidgetID order[]{kDescription,       kData,     kCheckDigit,   kRatio, kResult,
                            kPreferencesButton, kOKButton, kCancelButton, kType};
     for (const WidgetID id : order) {
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);

@@ -10,7 +10,17 @@
 
 namespace linewright {
 
-WorkbenchTest::WorkbenchTest() = default;
+namespace {
+
+/** Whichever window became active when a menu or a list closed: keys go to this one now. */
+void Activate(QWidget& window) {
+    if (!QTest::qWaitForWindowActive(&window)) ADD_FAILURE() << "the window is not shown";
+    QTest::qWait(0);
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }));
+}
+
+}  // namespace
 
 WorkbenchTest::~WorkbenchTest() {
     workbench.reset();
@@ -43,8 +53,7 @@ DialogWindow& WorkbenchTest::OpenUtility() {
     ClickMenu(1, 0);
     const auto dialogs = workbench->Window().findChildren<DialogWindow*>();
     if (dialogs.isEmpty()) throw std::logic_error("the dialog does not open");
-    if (!QTest::qWaitForWindowActive(dialogs.last()))
-        throw std::logic_error("the dialog does not become active");
+    Activate(*dialogs.last());
     return *dialogs.last();
 }
 
@@ -56,7 +65,7 @@ void WorkbenchTest::UseNextModal(const std::function<void(QWidget&)>& use) {
     QTimer::singleShot(0, [use] {
         QWidget* const modal = QApplication::activeModalWidget();
         ASSERT_NE(modal, nullptr);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(modal));
+        Activate(*modal);
         use(*modal);
         if (!modal->isVisible()) return;
         ADD_FAILURE() << "the modal window is open still";

@@ -47,7 +47,6 @@ View& At(const DialogWindow& dialog, WidgetID id) {
  *  that the user's go. */
 class WorkbenchTest : public testing::Test {
   protected:
-    WorkbenchTest();
     ~WorkbenchTest() override;
 
     /** Starts the program, or starts it again. */
