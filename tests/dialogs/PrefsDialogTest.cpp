@@ -69,6 +69,7 @@ TEST_F(PrefsDialogTest, ItsPopUpsListTheirValuesInOrder) {
     UsePreferences([](ShownDialog& dialog) {
         const auto itemsOf = [&](WidgetID id) {
             std::vector<std::string> items;
+            items.reserve(3);
             for (int32 i = 0; i < At(dialog, id).CountItems(); ++i)
                 items.push_back(Latin1(At(dialog, id).GetItem(i)));
             return items;
