@@ -67,6 +67,6 @@ class Panel final : public CPMUnknown<IPanelControlData> {
 };
 
 /** Closes a dialog that is open still, and forgets it: for the host's end. */
-void Discard(Boss* dialog);
+void Discard(Boss* boss);
 
 }  // namespace host

@@ -5,17 +5,25 @@
 
 namespace host {
 
+namespace {
+
+/** A new dialog, which the running host owns. */
+IDialog* Make(Running& running, const DialogResource& resource, IDialog::DialogType type) {
+    Boss* const boss = new Boss(*running.classes.Find(resource.classID));
+    running.dialogs.push_back(boss);
+    const InterfacePtr<IDialog> dialog(boss, UseDefaultIID());
+    static_cast<Dialog*>(dialog.get())->Build(resource, type);
+    return dialog;  // outlives this reference by the host's own
+}
+
+}  // namespace
+
 IDialog* DialogManager::CreateNewDialog(const RsrcSpec& resource, IDialog::DialogType type,
                                         bool16 /*visible*/) noexcept {
     if (resource.type != FourCharCode('V', 'I', 'E', 'W')) return nullptr;
     Running& running = *GetRunning();
-    const DialogResource* const description = running.views.Find(resource.plugin, resource.id);
-    if (!description) return nullptr;
-    Boss* const boss = new Boss(*running.classes.Find(description->classID));
-    running.dialogs.push_back(boss);
-    const InterfacePtr<IDialog> dialog(boss, UseDefaultIID());
-    static_cast<Dialog*>(dialog.get())->Build(*description, type);
-    return dialog;  // outlives this reference by the host's own
+    const DialogResource* const found = running.views.Find(resource.plugin, resource.id);
+    return found ? Make(running, *found, type) : nullptr;
 }
 
 }  // namespace host

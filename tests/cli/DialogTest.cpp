@@ -97,9 +97,7 @@ TEST(Dialog, SavesPreferencesOnOKOnly) {
 TEST(Dialog, ShowsAlertsAndBeeps) {
     const auto result =
         CommandRunner().Run({"--locale", "qps", "dialog", "251", "--set", "0x12211D=19", "--set",
-                             "0x122119=1\xE2\x82\xAC"
-                             "x",
-                             "--ok", "--json"});
+                             "0x122119=1\u20ACx", "--ok", "--json"});
     ASSERT_EQ(result.status, 0) << result.err;
     const json state = json::parse(result.out);
     EXPECT_EQ(state.at("beeps"), 1);

@@ -69,6 +69,7 @@ TEST_F(PrefsDialogTest, ItsPopUpsListTheirValuesInOrder) {
     UsePreferences([](ShownDialog& dialog) {
         const auto itemsOf = [&](WidgetID id) {
             std::vector<std::string> items;
+            items.reserve(3);
             for (int32 i = 0; i < At(dialog, id).CountItems(); ++i)
                 items.push_back(Latin1(At(dialog, id).GetItem(i)));
             return items;
@@ -246,7 +247,7 @@ TEST_F(PrefsDialogTest, AValueThatAPopUpCannotShowStaysUnlessTheUserChooses) {
     record.code39CheckMode = 65535;
     Start(record);
     UsePreferences([](ShownDialog& dialog) {
-        for (const WidgetID id : {0x122107, 0x12210F, 0x122111}) {
+        for (const WidgetID id : std::initializer_list<WidgetID>{0x122107, 0x12210F, 0x122111}) {
             EXPECT_EQ(At(dialog, id).GetSelected(), -1);
             EXPECT_EQ(TextAt(dialog, id), "");
             EXPECT_TRUE(At(dialog, id).IsEnabled());

@@ -360,7 +360,8 @@ TEST_F(UtilityDialogTest, TheDataFieldTakes255CharactersUpTo255) {
     Type(dialog, "a\xFF\x80z");
     EXPECT_EQ(host->recorder.beeps, 3);
     PMString text = HostString("ab");
-    for (const UTF32TextChar refused : {0x100, 0x20AC, 0x1F600}) text.AppendW(refused);
+    for (const UTF32TextChar refused : std::initializer_list<UTF32TextChar>{0x100, 0x20AC, 0x1F600})
+        text.AppendW(refused);
     text.Append("c");
     EXPECT_TRUE(At(dialog, kData).Type(text));
     EXPECT_EQ(host->recorder.beeps, 4);

@@ -129,7 +129,7 @@ TEST_F(ViewTest, ThePlugInReachesAWidgetByTheInterfacesOfItsKind) {
         const InterfacePtr<IPMUnknown> found(panel->FindWidget(id), interfaceID);
         return found.get() != nullptr;
     };
-    for (const WidgetID id : {0x99001, 0x99002, 0x99003, 0x0F01}) {
+    for (const WidgetID id : std::initializer_list<WidgetID>{0x99001, 0x99002, 0x99003, 0x0F01}) {
         EXPECT_EQ(panel->FindWidget(id)->GetWidgetID(), id);
         EXPECT_TRUE(offers(id, IID_ISUBJECT));
         EXPECT_EQ(offers(id, IID_IDROPDOWNLISTCONTROLLER), id == 0x99001);
