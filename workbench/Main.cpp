@@ -6,7 +6,7 @@
 
 namespace {
 
-linewright::WorkbenchOptions ParseOptions(const QApplication& program) {
+linewright::WorkbenchOptions ParseOptions(const QStringList& arguments) {
     const QCommandLineOption locale("locale", "enUS, deDE, frFR or jaJP.", "NAME");
     const QCommandLineOption config("config-dir", "Folder that holds the preferences.", "DIR");
     const QCommandLineOption app("app-dir", "Folder of the application.", "DIR");
@@ -16,7 +16,7 @@ linewright::WorkbenchOptions ParseOptions(const QApplication& program) {
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({locale, config, app, plugIn});
-    parser.process(program);
+    parser.process(arguments);
     return {.plugIn = parser.value(plugIn),
             .roamingFolder = parser.value(config),
             .appFolder = parser.value(app),
@@ -27,11 +27,15 @@ linewright::WorkbenchOptions ParseOptions(const QApplication& program) {
 }  // namespace
 
 int main(int count, char** values) {
-    QApplication program(count, values);
+    QStringList arguments;
+    for (int i = 0; i < count; ++i) arguments << QString::fromLocal8Bit(values[i]);
+    // The options are ours alone; Qt has one of its own that is called --plugin.
+    int countForQt = 1;
+    const QApplication program(countForQt, values);
     QApplication::setApplicationName("linewright-workbench");
     QApplication::setApplicationDisplayName("Linewright");
     QApplication::setApplicationVersion(LINEWRIGHT_VERSION);
-    linewright::Workbench workbench(ParseOptions(program));
+    linewright::Workbench workbench(ParseOptions(arguments));
     if (!workbench.Start()) {
         std::fprintf(stderr, "linewright-workbench: %s\n", qUtf8Printable(workbench.Error()));
         return 1;
