@@ -119,7 +119,7 @@ TEST_F(BossTest, RefusesADamagedDataBaseAndLeavesIt) {
     ASSERT_EQ(content, std::string("LWDB\x05\x90\x09\0\x03\x90\x09\0\4\0\0\0\5\0\0\0", 20));
     for (const std::string& damaged :
          {content.substr(0, 19), content.substr(0, 6), content.substr(0, 3), content + "x",
-          "X" + content.substr(1), std::string(),
+          std::string("X") + content.substr(1), std::string(),
           content.substr(0, 12) + "\xFF\xFF\xFF\xFF"
                                   "5"}) {
         WriteFile(file, damaged);
