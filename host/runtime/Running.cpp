@@ -21,6 +21,7 @@ namespace {
 Running* current = nullptr;
 
 constexpr const char* kFolderName = "Linewright Host";
+constexpr const char* kDataBaseName = "Application Database";
 
 std::optional<fs::path> ChosenFolder(const char* setting) {
     if (!setting) return std::nullopt;
@@ -66,6 +67,7 @@ void Running::Start(const Settings& settings) {
     if (settings.frontEnd) frontEnd = settings.frontEnd;
     SetFolders(settings);
     SetLocale(resources, settings.locale);
+    if (roamingFolder) dataBase.UseFile(*roamingFolder / kDataBaseName);
     session = new Boss(kSessionClass);
     application = new Boss(kApplicationClass);
     library.Load(plugIn);
