@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cairo/cairo.h>
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "render/BarcodeFace.h"
+
+namespace linewright {
+
+/** What a font's axes are set to; the defaults draw the static font. */
+struct FontShape {
+    /** Height of the bars in per cent, 25 to 400. */
+    double heightPercent = 100;
+    /** Narrower bars in per cent of the narrowest one, 0 to 25. */
+    double reductionPercent = 0;
+
+    bool IsStatic() const { return heightPercent == 100 && reductionPercent == 0; }
+};
+
+/** Everything of a glyph in modules, y upwards from the baseline. */
+struct GlyphBox {
+    unsigned long index;
+    double advance;
+    double left, bottom, right, top;
+};
+
+/** A barcode font from its file, in one shape. */
+class BarcodeFont {
+  public:
+    /** None, with a sentence in `problem`, when the file is not there or is no font. */
+    static std::unique_ptr<const BarcodeFont> Load(const std::filesystem::path& folder,
+                                                   const BarcodeFace& face, const FontShape& shape,
+                                                   std::string& problem);
+    BarcodeFont(const BarcodeFont&) = delete;
+    BarcodeFont& operator=(const BarcodeFont&) = delete;
+    ~BarcodeFont();
+
+    /** The glyph of a byte of a font string; `isLarge` prefers the larger outer digit. */
+    GlyphBox GlyphOf(unsigned char byte, bool isLarge) const;
+
+    /** Sets the font for a context of which a unit is a module. */
+    void Select(cairo_t* context) const;
+
+  private:
+    BarcodeFont(FT_Face file, const BarcodeFace& face, const FontShape& shape);
+
+    FT_Face file;
+    cairo_font_face_t* cairoFace;
+    const BarcodeFace& face;
+    FontShape shape;
+};
+
+}  // namespace linewright
