@@ -11,17 +11,18 @@ namespace {
 constexpr int kNameColumn = 26;
 
 void AddHostOptions(CLI::App& app, HostOptions& host) {
-    app.add_option("--locale", host.locale, "Language of messages: enUS, or qps for their keys")
-        ->type_name("NAME");
-    app.add_option("--config-dir", host.roamingFolder, "Folder that holds the preferences")
-        ->type_name("DIR");
-    app.add_option("--app-dir", host.appFolder, "Folder of the application")->type_name("DIR");
-    app.add_option("--plugin", host.plugin, "The plug-in's library")->type_name("FILE");
+    const auto add = [&app](const char* name, std::string& value, const char* kind,
+                            const char* help) {
+        app.add_option(name, value, help)->type_name(kind)->take_last();
+    };
+    add("--locale", host.locale, "NAME", "enUS, deDE, frFR or jaJP; qps shows keys");
+    add("--config-dir", host.roamingFolder, "DIR", "Folder that holds the preferences");
+    add("--app-dir", host.appFolder, "DIR", "Folder of the application");
+    add("--plugin", host.plugin, "FILE", "The plug-in's library");
 }
 
-CLI::Option* AddRatio(CLI::App& command, const CLI::callback_t& store) {
-    return command
-        .add_option("--ratio", store, "Wide bars to narrow ones: 2 (unless stated), 2.5 or 3")
+void AddRatio(CLI::App& command, const CLI::callback_t& store) {
+    command.add_option("--ratio", store, "Wide bars to narrow ones: 2 (unless stated), 2.5 or 3")
         ->type_name("N")
         ->check(CLI::IsMember({"2", "2.0", "2.5", "3", "3.0"}).description(""));
 }

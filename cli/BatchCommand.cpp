@@ -5,22 +5,18 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "cli/Encoding.h"
 #include "cli/Failure.h"
 #include "cli/FontText.h"
 #include "cli/OutputFile.h"
+#include "cli/ReadAll.h"
 #include "cli/Utf8.h"
 
 namespace linewright {
 
 namespace {
-
-std::string ReadAll(std::istream& input) {
-    return {std::istreambuf_iterator<char>(input), std::istreambuf_iterator<char>()};
-}
 
 std::string ReadInput(const std::string& name, std::istream& standardInput) {
     if (name == "-") return ReadAll(standardInput);

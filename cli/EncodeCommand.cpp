@@ -2,21 +2,17 @@
 
 #include <fmt/format.h>
 
-#include <iterator>
 #include <nlohmann/json.hpp>
 
 #include "cli/Encoding.h"
 #include "cli/FontText.h"
 #include "cli/Hex.h"
+#include "cli/ReadAll.h"
 #include "cli/TypeNames.h"
 
 namespace linewright {
 
 namespace {
-
-std::string ReadAll(std::istream& input) {
-    return {std::istreambuf_iterator<char>(input), std::istreambuf_iterator<char>()};
-}
 
 /** Text from a pipe commonly ends with a line break that is no data. */
 void RemoveLastLineBreak(std::string& text) {

@@ -55,7 +55,7 @@ BarcodeOutcome MakeBarcode(Service& service, EncodeRequest request, bool isStric
     outcome.warnings = Warnings(request.typeName, request.data, request.isUtf8);
     if (isStrict && !outcome.warnings.empty()) {
         outcome.status.reset();
-        outcome.message = "refused because of a warning";
+        outcome.message = "a warning, and --strict is on";
         return outcome;
     }
     outcome.isMade = true;

@@ -41,15 +41,24 @@ std::vector<PreferenceField> MakeFields() {
     };
 }
 
+/** One member of each row, one after the other. */
+template <class Row>
+std::string Listed(const std::vector<Row>& rows, std::string_view Row::*member) {
+    std::string list;
+    for (const Row& row : rows) {
+        if (!list.empty()) list += ", ";
+        list += row.*member;
+    }
+    return list;
+}
+
 const PreferenceField& FieldOf(std::string_view name) {
     const std::vector<PreferenceField>& fields = PreferenceFields();
     const auto found = std::find_if(fields.begin(), fields.end(),
                                     [name](const auto& field) { return field.name == name; });
     if (found != fields.end()) return *found;
-    std::vector<std::string_view> names;
-    for (const PreferenceField& field : fields) names.push_back(field.name);
     throw Failure(fmt::format("there is no preference \"{}\"; there are {}", Readable(name),
-                              fmt::join(names, ", ")));
+                              Listed(fields, &PreferenceField::name)));
 }
 
 void SetOne(Record& record, std::string_view assignment) {
@@ -85,9 +94,7 @@ std::optional<int32> PreferenceField::Number(std::string_view text) const {
 }
 
 std::string PreferenceField::Choice() const {
-    std::vector<std::string_view> words;
-    for (const PreferenceValue& value : values) words.push_back(value.word);
-    return fmt::format("{}", fmt::join(words, ", "));
+    return Listed(values, &PreferenceValue::word);
 }
 
 const std::vector<PreferenceField>& PreferenceFields() {

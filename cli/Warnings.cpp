@@ -83,9 +83,9 @@ std::string DigitsBeyondUpcE(std::string_view data) {
 /** The check digit of the EAN and UPC numbers: weight 3 on the last digit, then 1 and 3 in turn. */
 char CheckDigit(std::string_view digits) {
     int sum = 0;
-    int weight = 3;
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-        sum += weight * (*digit - '0');
+    int weight = digits.size() % 2 == 0 ? 1 : 3;
+    for (const char digit : digits) {
+        sum += weight * (digit - '0');
         weight = 4 - weight;
     }
     return static_cast<char>('0' + (10 - sum % 10) % 10);

@@ -29,7 +29,8 @@ constexpr char LetterOf(char barWidth, char spaceWidth) {
 
 /** The stop character, whose last bar has four modules of the quiet zone with it. */
 constexpr std::string_view kStopLetters = "GIAH";
-static_assert(LetterOf('2', '3') == 'G' && LetterOf('3', '1') == 'I' && LetterOf('2', '4') == 'H');
+static_assert(kCode128StopWidths == "2331112" && LetterOf('2', '3') == 'G' &&
+              LetterOf('3', '1') == 'I' && LetterOf('1', '1') == 'A' && LetterOf('2', '4') == 'H');
 
 void AppendLetters(std::size_t value, TextArea& symbol) {
     const std::string_view widths = kCode128Widths[value];

@@ -1,6 +1,6 @@
 #include "current/Code128PreParse.h"
 
-#include <algorithm>
+#include <iterator>
 
 #include "core/CharClasses.h"
 #include "standards/CheckDigits.h"

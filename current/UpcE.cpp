@@ -1,6 +1,5 @@
 #include "current/UpcE.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 

@@ -115,7 +115,7 @@ bool SavePreferences() {
     LinewrightPrefsRecord record = preferences;
     stream->XferByte(reinterpret_cast<uchar*>(&record), kRecordSize);
     stream->Close();
-    return stream->GetStreamState() == kStreamStateGood;
+    return stream->GetStreamState() != kStreamStateFailure;
 }
 
 }  // namespace linewright

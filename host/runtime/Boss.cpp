@@ -1,5 +1,6 @@
 #include "host/runtime/Boss.h"
 
+#include "InterfacePtr.h"
 #include "host/runtime/DataBase.h"
 #include "host/runtime/Faults.h"
 #include "host/runtime/MemoryStream.h"
@@ -8,7 +9,7 @@ namespace host {
 
 Boss::Boss(const BossClass& bossClass, DataBase* dataBase)
     : fClass(bossClass), fDataBase(dataBase) {
-    if (dataBase) fPersist.emplace(this, dataBase);
+    if (dataBase) fPersist.emplace(*this, *dataBase);
 }
 
 Boss::~Boss() {
@@ -65,11 +66,11 @@ void Boss::Store() {
 }
 
 void Boss::Persist::PreDirty() noexcept {
-    fDataBase->MarkDirty(*fBoss);
+    fDataBase.MarkDirty(fBoss);
 }
 
 IDataBase* Boss::Persist::GetDataBase() const noexcept {
-    return fDataBase;
+    return &fDataBase;
 }
 
 }  // namespace host

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "CPMUnknown.h"
+#include "IPMPersist.h"
 #include "host/runtime/BossClass.h"
 #include "host/runtime/Counted.h"
 
@@ -27,16 +27,20 @@ class Boss final : public IPMUnknown, public Counted {
 
   private:
     /** What makes the object persistent. */
-    class Persist final : public CPMUnknown<IPMPersist> {
+    class Persist final : public IPMPersist {
       public:
-        Persist(Boss* boss, DataBase* dataBase)
-            : CPMUnknown(boss), fBoss(boss), fDataBase(dataBase) {}
+        Persist(Boss& boss, DataBase& dataBase) : fBoss(boss), fDataBase(dataBase) {}
+        IPMUnknown* QueryInterface(PMIID interfaceID) const noexcept override {
+            return fBoss.QueryInterface(interfaceID);
+        }
+        void AddRef() const noexcept override { fBoss.AddRef(); }
+        void Release() const noexcept override { fBoss.Release(); }
         void PreDirty() noexcept override;
         IDataBase* GetDataBase() const noexcept override;
 
       private:
-        Boss* fBoss;
-        DataBase* fDataBase;
+        Boss& fBoss;
+        DataBase& fDataBase;
     };
     struct Implementation {
         const Binding* binding;

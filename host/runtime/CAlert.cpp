@@ -5,7 +5,7 @@
 
 namespace {
 
-int16 Show(host::AlertKind kind, const PMString& message) {
+int16 Show(host::AlertKind kind, const PMString& message) noexcept {
     constexpr int16 kOnlyButton = 1;
     const host::Running* const running = host::GetRunning();
     if (!running || !running->showsAlerts) return kOnlyButton;

@@ -6,7 +6,7 @@ namespace host {
 
 namespace {
 
-typedef std::unordered_set<Counted*> Objects;
+using Objects = std::unordered_set<Counted*>;
 
 // Both are never destroyed: objects may be left when the process ends.
 Objects& LiveObjects() {
@@ -45,7 +45,9 @@ void Counted::CountUp() const {
 }
 
 void Counted::CountDown() const {
-    if (--fReferences == 0 && !fAbandoned) delete this;
+    if (--fReferences != 0 || fAbandoned) return;
+    fReferences = 1;  // lest a reference that is taken and released meanwhile deletes it again
+    delete this;
 }
 
 }  // namespace host

@@ -1,5 +1,6 @@
 #include "CreateObject.h"
 
+#include "InterfacePtr.h"
 #include "host/runtime/Boss.h"
 #include "host/runtime/Running.h"
 

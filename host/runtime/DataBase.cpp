@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "InterfacePtr.h"
 #include "host/runtime/Boss.h"
 #include "host/runtime/Halt.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <utility>
 #include <vector>
 
 #include "IDataBase.h"
@@ -12,11 +13,7 @@ namespace host {
 class Boss;
 
 /** What a stored record belongs to. */
-struct StorageKey {
-    ClassID classID;
-    ImplementationID implementationID;
-    auto operator<=>(const StorageKey&) const = default;
-};
+using StorageKey = std::pair<ClassID, ImplementationID>;
 
 /** The application's database: one object of each persistent class, kept as the bytes that its
  *  implementations wrote at the end of the last transaction that changed it. The bytes live as

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/runtime/Halt.h"
+#include "host/runtime/Make.h"
 #include "host/runtime/Running.h"
 
 namespace host {
@@ -13,7 +14,7 @@ struct Host::State {
     std::unique_ptr<Running> running;
     std::string error;
 
-    Leaks Stop() {
+    Leaks Stop() noexcept {
         const Leaks leaks = running->Stop();
         SetRunning(nullptr);
         running.reset();
@@ -21,7 +22,7 @@ struct Host::State {
     }
 };
 
-Host::Host() : fState(new State) {}
+Host::Host() : fState(Make<State>()) {}
 
 Host::~Host() {
     Stop();

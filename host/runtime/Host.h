@@ -7,13 +7,15 @@ namespace host {
 
 /** What a host is started with. Texts are UTF-8, copied by Start; nullptr takes the default. */
 struct Settings {
-    /** The plug-in's library; its resources lie in the folder `resources` beside it. */
+    /** The plug-in's library. Its resources lie in the folder `resources` beside it: definitions of
+     *  classes in every .toml there, and below in `strings` a table for each locale. */
     const char* plugin = nullptr;
     /** The roaming folder; by default `Linewright Host` below the user's application data. */
     const char* roamingFolder = nullptr;
     /** The application folder; by default the folder of the running program. */
     const char* appFolder = nullptr;
-    /** A locale such as "enUS", or "qps" for the pseudo-locale; "enUS" by default. */
+    /** A locale such as "enUS", the default, or "qps", the pseudo-locale in which a key shows as
+     *  itself and the markers of its text in enUS, such as "kKey|^0|^1". */
     const char* locale = nullptr;
     /** Shows alerts and sounds beeps; the console front end by default. Outlives the host. */
     FrontEnd* frontEnd = nullptr;

@@ -1,6 +1,7 @@
 #include "IDFile.h"
 
 #include "host/runtime/FilePath.h"
+#include "host/runtime/Make.h"
 #include "host/runtime/Platform.h"
 #include "host/runtime/Utf8.h"
 
@@ -8,12 +9,14 @@ struct IDFile::Path {
     PMString text;
 };
 
-IDFile::IDFile() : fPath(new Path) {}
+IDFile::IDFile() : fPath(host::Make<Path>()) {}
 
-IDFile::IDFile(const IDFile& other) : fPath(new Path(*other.fPath)) {}
+IDFile::IDFile(const IDFile& other) : IDFile() {
+    *this = other;
+}
 
 IDFile& IDFile::operator=(const IDFile& other) {
-    *fPath = *other.fPath;
+    if (this != &other) *fPath = *other.fPath;
     return *this;
 }
 

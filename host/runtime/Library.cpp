@@ -16,24 +16,18 @@ namespace host {
 
 namespace {
 
-// A path without a folder would be searched for along the system's own.
-fs::path FullPath(const fs::path& path) {
-    if (!fs::is_regular_file(path)) {
-        throw std::runtime_error("plug-in library missing: " + ToUtf8(path));
-    }
-    return fs::absolute(path);
-}
-
 std::runtime_error LoadError(const fs::path& path, const std::string& reason) {
     return std::runtime_error("plug-in library cannot be loaded: " + ToUtf8(path) + ": " + reason);
 }
 
 }  // namespace
 
+// A path without a folder would be searched for along the system's own: hence the full one.
+
 #ifdef _WIN32
 
 void Library::Load(const fs::path& path) {
-    fHandle = LoadLibraryExW(FullPath(path).make_preferred().c_str(), nullptr,
+    fHandle = LoadLibraryExW(fs::absolute(path).make_preferred().c_str(), nullptr,
                              LOAD_WITH_ALTERED_SEARCH_PATH);
     if (!fHandle) throw LoadError(path, "Windows error " + std::to_string(GetLastError()));
 }
@@ -50,7 +44,7 @@ void (*Library::Find(const char* name) const)() {
 #else
 
 void Library::Load(const fs::path& path) {
-    fHandle = dlopen(FullPath(path).c_str(), RTLD_NOW | RTLD_LOCAL);
+    fHandle = dlopen(fs::absolute(path).c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!fHandle) throw LoadError(path, dlerror());
 }
 

@@ -28,7 +28,7 @@ class Memory {
         uint32 size;
         uint32 capacity;
     };
-    typedef std::unordered_map<const void*, Extent> Blocks;
+    using Blocks = std::unordered_map<const void*, Extent>;
 
     /** The block's entry; none, after a halt where rules are checked, if it is not alive. */
     Blocks::iterator Find(const void* block);

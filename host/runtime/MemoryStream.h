@@ -6,7 +6,7 @@
 
 namespace host {
 
-typedef std::vector<uchar> Bytes;
+using Bytes = std::vector<uchar>;
 
 /** A stream over bytes in memory. */
 class MemoryStream final : public Stream {

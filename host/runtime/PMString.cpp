@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/runtime/Make.h"
 #include "host/runtime/Running.h"
 
 struct PMString::Text {
@@ -54,15 +55,18 @@ std::u32string Decimal(int32 number) noexcept {
 
 }  // namespace
 
-PMString::PMString() : fText(new Text) {}
+PMString::PMString() : fText(host::Make<Text>()) {}
 
 PMString::PMString(const char* key, TranslateAction action) : PMString() {
     SetKey(key, action);
 }
 
-PMString::PMString(const PMString& other) : fText(new Text(*other.fText)) {}
+PMString::PMString(const PMString& other) : PMString() {
+    *this = other;
+}
 
 PMString& PMString::operator=(const PMString& other) {
+    if (this == &other) return *this;
     Assign(fText->characters, other.fText->characters);
     fText->isTranslatable = other.fText->isTranslatable;
     return *this;

@@ -59,6 +59,9 @@ void Running::Start(const Settings& settings) {
     if (!settings.plugin) throw std::runtime_error("no plug-in library is named");
     const fs::path plugIn = PathFromUtf8(settings.plugin);
     const fs::path resources = plugIn.parent_path() / "resources";
+    if (!fs::is_regular_file(plugIn)) {
+        throw std::runtime_error("plug-in library missing: " + ToUtf8(plugIn));
+    }
     if (settings.frontEnd) frontEnd = settings.frontEnd;
     SetFolders(settings);
     SetLocale(resources, settings.locale);

@@ -15,12 +15,15 @@ int32 Stream::XferByte(uchar* buffer, int32 count) noexcept {
 
 int32 Stream::XferInt32(int32& value) noexcept {
     uchar bytes[4];
-    for (int i = 0; i < 4; ++i) bytes[i] = static_cast<uchar>(static_cast<uint32>(value) >> 8 * i);
-    const int32 moved = XferByte(bytes, 4);
-    if (moved == 4 && IsReading()) {
-        value = static_cast<int32>(bytes[0] | bytes[1] << 8 | bytes[2] << 16 |
-                                   static_cast<uint32>(bytes[3]) << 24);
+    auto bits = static_cast<uint32>(value);
+    for (uchar& byte : bytes) {
+        byte = static_cast<uchar>(bits);
+        bits >>= 8;
     }
+    const int32 moved = XferByte(bytes, 4);
+    if (moved < 4 || !IsReading()) return moved;
+    for (int i = 3; i >= 0; --i) bits = bits << 8 | bytes[i];
+    value = static_cast<int32>(bits);
     return moved;
 }
 

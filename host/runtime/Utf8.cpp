@@ -84,7 +84,7 @@ std::string ToUtf8(std::u32string_view text) {
 
 std::string ToUtf8(const PMString& text) {
     std::u32string characters;
-    for (int32 i = 0; i < text.CharCount(); ++i) characters += text.GetWChar(i);
+    for (int32 i = 0; i < text.CharCount(); ++i) characters += char32_t{text.GetWChar(i)};
     return ToUtf8(characters);
 }
 

@@ -4,28 +4,28 @@
 
 // The host's basic types. `long` is avoided throughout: it has 32 bits on Windows and 64 elsewhere.
 
-typedef std::int8_t int8;
-typedef std::int16_t int16;
-typedef std::int32_t int32;
-typedef std::int64_t int64;
-typedef std::uint8_t uint8;
-typedef std::uint16_t uint16;
-typedef std::uint32_t uint32;
-typedef std::uint64_t uint64;
+using int8 = std::int8_t;
+using int16 = std::int16_t;
+using int32 = std::int32_t;
+using int64 = std::int64_t;
+using uint8 = std::uint8_t;
+using uint16 = std::uint16_t;
+using uint32 = std::uint32_t;
+using uint64 = std::uint64_t;
 
-typedef int16 bool16;
+using bool16 = int16;
 constexpr bool16 kFalse = 0;
 constexpr bool16 kTrue = 1;
 
-typedef int32 ErrorCode;
+using ErrorCode = int32;
 constexpr ErrorCode kSuccess = 0;
 constexpr ErrorCode kFailure = 1;
 
-typedef uint32 UTF32TextChar;
+using UTF32TextChar = uint32;
 
-typedef uint32 OSType;
-typedef OSType RsrcType;
-typedef int32 RsrcID;
+using OSType = uint32;
+using RsrcType = OSType;
+using RsrcID = int32;
 
 /** A four-character code such as 'VIEW', made without a multi-character literal. */
 constexpr OSType FourCharCode(char a, char b, char c, char d) {

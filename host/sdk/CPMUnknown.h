@@ -32,6 +32,8 @@ class CPMUnknown : public IFace {
     IPMUnknown* fBoss;
 };
 
+// NOLINTBEGIN(bugprone-macro-parentheses): a class name cannot stand in parentheses.
+
 /** Registers CLASS under an implementation id when the plug-in's file is loaded, behind those
  *  registered before. CLASS has a constructor from the owning boss. */
 #define CREATE_PMINTERFACE(CLASS, IMPLEMENTATION_ID)                     \
@@ -49,3 +51,5 @@ class CPMUnknown : public IFace {
         [](IPMUnknown* object, IPMStream* stream, ImplementationID implementation) { \
             static_cast<CLASS*>(object)->ReadWrite(stream, implementation);          \
         })
+
+// NOLINTEND(bugprone-macro-parentheses)

@@ -2,7 +2,7 @@
 
 #include "IPMUnknown.h"
 
-typedef unsigned char uchar;
+using uchar = unsigned char;
 
 enum StreamState { kStreamStateGood, kStreamStateEOF, kStreamStateFailure };
 

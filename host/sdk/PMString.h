@@ -4,7 +4,8 @@
 
 /**
  * The host's string: Unicode text, and whether it is a key that the current locale's string table
- * translates. Positions and counts are code points. A key without an entry stays as it is.
+ * translates. Positions and counts are code points. A key without an entry stays as it is, and
+ * stays a key; a translated one is plain text from then on, as an empty string is from the start.
  */
 class PUBLIC_DECL PMString {
   public:

@@ -4,11 +4,11 @@
 
 // Identifiers of the object model. A plug-in's own begin with its plug-in id, 0x122100 here.
 
-typedef uint32 ClassID;
-typedef uint32 PMIID;
-typedef uint32 ImplementationID;
-typedef uint32 PluginID;
-typedef uint32 ActionID;
-typedef uint32 WidgetID;
+using ClassID = uint32;
+using PMIID = uint32;
+using ImplementationID = uint32;
+using PluginID = uint32;
+using ActionID = uint32;
+using WidgetID = uint32;
 
 constexpr PMIID IID_IPMUNKNOWN = 0;

@@ -7,9 +7,9 @@ class IPMStream;
 /** One implementation class of a plug-in: its id and how its objects are made, destroyed and kept
  *  in a database. Records are static objects that join the plug-in's list as they are built. */
 struct ImplementationRecord {
-    typedef IPMUnknown* (*CreateProc)(IPMUnknown* boss);
-    typedef void (*DestroyProc)(IPMUnknown* object);
-    typedef void (*ReadWriteProc)(IPMUnknown* object, IPMStream* stream, ImplementationID id);
+    using CreateProc = IPMUnknown* (*)(IPMUnknown* boss);
+    using DestroyProc = void (*)(IPMUnknown* object);
+    using ReadWriteProc = void (*)(IPMUnknown* object, IPMStream* stream, ImplementationID id);
 
     inline ImplementationRecord(ImplementationID recordID, const char* name, CreateProc createProc,
                                 DestroyProc destroyProc, ReadWriteProc readWriteProc);

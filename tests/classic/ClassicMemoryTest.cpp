@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/EncodeBarcodeData.h"
 #include "host/runtime/Host.h"
 #include "tests/TestBlock.h"
 #include "tests/TestHost.h"
@@ -62,6 +63,28 @@ TEST_F(ClassicMemory, ASecondAllocationIsNotMade) {
         host::Faults::FailAllocation(2);
         EXPECT_EQ(EncodeClassic(type, block.Data()), kEncoded) << type.name;
         host::Faults::FailAllocation(0);
+    }
+}
+
+// Converted, trimmed, encoded: one allocation each.
+TEST_F(ClassicMemory, WithoutMemoryTheDataIsAtMostConvertedAndTrimmed) {
+    for (const ClassicType& type : ClassicTypes()) {
+        const std::string padded = "  " + type.goodData + " ";
+        for (const uint32 failing : {1u, 2u, 3u, 4u}) {
+            TestBlock block(padded);
+            const uint32 live = host::CountMemory().liveBlocks;
+            host::Faults::FailAllocation(failing);
+            const int16 status =
+                EncodeBarcodeData(&block.bytes, MakePString(type.name), &block.length, 1, nullptr,
+                                  0, 2.0, 0, nullptr, nullptr);
+            host::Faults::FailAllocation(0);
+            EXPECT_EQ(status, failing == 4 ? kEncoded : kInternalError) << type.name << failing;
+            if (failing < 4) {
+                EXPECT_EQ(block.Text(), failing == 3 ? type.goodData : padded)
+                    << type.name << failing;
+            }
+            EXPECT_EQ(host::CountMemory().liveBlocks, live) << type.name << failing;
+        }
     }
 }
 

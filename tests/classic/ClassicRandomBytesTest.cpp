@@ -12,14 +12,19 @@ namespace linewright {
 
 namespace {
 
-/** Bytes of any value, or such that often make a symbol, of any length up to 300. */
+/** Any length up to 300, or one that a symbology of fixed length takes. */
+std::size_t RandomLength(std::mt19937& random) {
+    constexpr std::size_t kFixed[] = {5, 7, 9, 11, 12, 13, 14, 16, 17, 20, 25, 29, 31};
+    return random() % 2 ? random() % 300 : kFixed[random() % std::size(kFixed)];
+}
+
+/** Bytes of any value, or such that often make a symbol. */
 std::string RandomData(std::mt19937& random) {
     static const std::string alphabets[] = {"0123456789", "0123456789", "0123456789ABCDEF $/+%-.",
                                             "0123456789abc:'~ \t\x80"};
     const std::size_t kind = random() % (std::size(alphabets) + 1);
-    const std::size_t length = random() % (random() % 2 ? 300 : 32);
     std::string data;
-    while (data.size() < length) {
+    for (std::size_t length = RandomLength(random); length > 0; --length) {
         const std::size_t number = random();
         data += kind == std::size(alphabets) ? static_cast<char>(number % 256)
                                              : alphabets[kind][number % alphabets[kind].size()];

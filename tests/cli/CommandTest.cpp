@@ -38,7 +38,8 @@ TEST(Help, FitsAScreenAndHasAnExample) {
 TEST(Help, VersionIsPrinted) {
     const auto result = CommandRunner().Run({"--version"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_THAT(result.out, testing::MatchesRegex("linewright [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+    EXPECT_THAT(result.out, StartsWith("linewright "));
+    EXPECT_EQ(std::count(result.out.begin(), result.out.end(), '.'), 2) << result.out;
 }
 
 TEST(Usage, MistakesEndWithTwo) {
@@ -175,7 +176,7 @@ TEST(Encode, TakesTypeNamesToo) {
 TEST(Encode, TakesAnyData) {
     const CommandRunner command;
     // Words of the command line's own, and what looks like an option behind "--".
-    for (const char* const data : {"types", "stream", "set", "a=b", "[a,b]", "'a'", "%%"}) {
+    for (const char* const data : {"types", "stream", "set", "a=b", "[a,b]", "\"a\"", "%%"}) {
         const auto result = command.Run({"encode", "classic-code128b", data});
         EXPECT_EQ(result.status, 0) << data << result.err;
         EXPECT_THAT(result.out, HasSubstr(data));
@@ -202,9 +203,8 @@ TEST(Encode, ReadsStandardInput) {
 
 TEST(Encode, ConvertsUnlessToldNotTo) {
     const CommandRunner command;
-    EXPECT_EQ(command.Run({"encode", "classic-code39ascii", "a\u0080"}).out, "*+AA*\n")
-        << "a is 41 + 10, 51 modulo 43 is 8"
-        << command.Run({"encode", "classic-code39ascii", "a"}).out;
+    EXPECT_EQ(command.Run({"encode", "classic-code39ascii", "a\u0080"}).out, "*+A8*\n")
+        << "U+0080 becomes byte 128, which goes; + is 41, A is 10, 51 modulo 43 is 8";
     const auto bytes = command.Run({"encode", "classic-code39ascii", "a\u0080", "--bytes"});
     EXPECT_EQ(bytes.status, 1) << "byte 0xC2 has no pair";
 }
@@ -249,7 +249,7 @@ TEST(Encode, WarnsAndIsStrictWhenAsked) {
     const auto strict = command.Run(words);
     EXPECT_EQ(strict.status, 1);
     EXPECT_EQ(strict.out, "");
-    EXPECT_EQ(strict.err, lenient.err + "linewright: refused: refused because of a warning\n");
+    EXPECT_EQ(strict.err, lenient.err + "linewright: refused: a warning, and --strict is on\n");
 }
 
 TEST(Encode, ListsWarningsInJson) {

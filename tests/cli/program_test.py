@@ -12,7 +12,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-PROGRAM, CMAKE, BUILD = sys.argv[1:4]
+PROGRAM, CMAKE, BUILD = os.path.abspath(sys.argv[1]), sys.argv[2], os.path.abspath(sys.argv[3])
 REQUEST = b'{"type":"_BARCODE_CODE128B_","data":"AB"}\n'
 PREFERENCES = "Corvane/Config/QVT Linewright.prf"
 

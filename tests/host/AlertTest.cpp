@@ -4,7 +4,7 @@
 
 namespace {
 
-typedef host::RecordingFrontEnd::Alert Alert;
+using Alert = host::RecordingFrontEnd::Alert;
 
 }  // namespace
 
@@ -70,22 +70,23 @@ TEST_F(AlertTest, Beeps) {
     EXPECT_EQ(frontEnd.beeps, 2);
 }
 
-typedef HostTest ConsoleTest;
+using ConsoleTest = HostTest;
 
 TEST_F(ConsoleTest, IsTheDefaultAndWritesToStandardError) {
     settings.frontEnd = nullptr;
-    ASSERT_TRUE(Start()) << Error();
     testing::internal::CaptureStderr();
+    ASSERT_TRUE(Start()) << Error();
     CAlert::InformationAlert(PMString("kA"));
     CAlert::WarningAlert(PMString("kGreeting"));
     CAlert::ErrorAlert(PMString("kC"));
     SysBeep();  // unheard, since this is no terminal
+    host.Stop();
     std::string written = testing::internal::GetCapturedStderr();
     std::erase(written, '\r');
-    EXPECT_EQ(written, "note: kA\nwarning: Grüße, €, 😀\nerror: kC\n");
-    testing::internal::CaptureStderr();
-    host.Stop();
-    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(written,
+              "note: kStarted\nnote: kSecondStarted\n"
+              "note: kA\nwarning: Grüße, €, 😀\nerror: kC\n"
+              "note: kSecondStopped\nnote: kStopped\n");
 }
 
 TEST(AlertWithoutHostTest, DoesNothing) {

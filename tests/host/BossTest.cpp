@@ -26,7 +26,7 @@ void Store(INote* note, int32 number) {
 
 }  // namespace
 
-typedef StartedHostTest BossTest;
+using BossTest = StartedHostTest;
 
 TEST_F(BossTest, IsMadeByClassAndInterface) {
     EXPECT_TRUE(Create<IEcho>(kEchoBoss));
@@ -134,7 +134,7 @@ TEST_F(BossTest, ReachesTheHostsOwnObjectsFromTheSession) {
 }
 
 TEST_F(BossTest, CanTakeTheHostsOwnObjectsAway) {
-    typedef host::Faults::Missing Missing;
+    using Missing = host::Faults::Missing;
     ISession* const session = GetExecutionContextSession();
     const InterfacePtr<IApplication> application(session->QueryApplication());
 
@@ -153,7 +153,7 @@ TEST_F(BossTest, CanTakeTheHostsOwnObjectsAway) {
     EXPECT_TRUE(InterfacePtr<IDialogMgr>(application->QueryDialogMgr()));
 }
 
-typedef HostTest ReferenceTest;
+using ReferenceTest = HostTest;
 
 TEST_F(ReferenceTest, ReportsThoseLeft) {
     ASSERT_TRUE(Start()) << Error();

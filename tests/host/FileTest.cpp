@@ -6,7 +6,7 @@
 
 namespace fs = std::filesystem;
 
-typedef host::Faults::Io Io;
+using Io = host::Faults::Io;
 
 namespace {
 
@@ -252,7 +252,7 @@ TEST_P(FailingWriteTest, LeavesTheOldFileAndNoLitter) {
 INSTANTIATE_TEST_SUITE_P(Files, FailingWriteTest,
                          testing::Values(Io::kWrite, Io::kFlush, Io::kRename));
 
-typedef HostTest FolderTest;
+using FolderTest = HostTest;
 
 TEST_F(FolderTest, IsMadeWithItsParents) {
     roamingText = ToUtf8(folder / "a" / "b" / "c");

@@ -6,8 +6,7 @@
 
 namespace fs = std::filesystem;
 
-using testing::Test;
-typedef HostTest StartTest;
+using StartTest = HostTest;
 
 namespace {
 
@@ -24,7 +23,7 @@ std::string Replaced(std::string_view text, std::string_view from, std::string_v
     return result.replace(at, from.size(), to);
 }
 
-typedef std::vector<std::string> Texts;
+using Texts = std::vector<std::string>;
 
 }  // namespace
 
@@ -79,8 +78,10 @@ TEST_F(StartTest, FailsWithoutTheLibrary) {
     EXPECT_EQ(Error(), "no plug-in library is named");
     const std::string missing = ToUtf8(folder / "none.so");
     settings.plugin = missing.c_str();
+    settings.locale = "xxXX";
     EXPECT_FALSE(Start());
     EXPECT_EQ(Error(), "plug-in library missing: " + missing);
+    settings.locale = nullptr;
     settings.plugin = pluginText.c_str();
     EXPECT_TRUE(Start());
     EXPECT_EQ(Error(), "");

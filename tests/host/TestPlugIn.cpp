@@ -58,10 +58,14 @@ class SecondStarter : public CPMUnknown<IStartupShutdownService> {
     void Shutdown() override { CAlert::InformationAlert(PMString("kSecondStopped")); }
 };
 
+/** Takes a reference once more while it is destroyed. */
 class Echo : public CPMUnknown<IEcho> {
   public:
     explicit Echo(IPMUnknown* boss) : CPMUnknown(boss) { ++fObjects; }
-    ~Echo() override { --fObjects; }
+    ~Echo() override {
+        const InterfacePtr<IPMUnknown> last(this, IID_IPMUNKNOWN);
+        --fObjects;
+    }
 
     int32 CountStarts() const override { return starts; }
     int32 CountObjects() const override { return fObjects; }

@@ -7,7 +7,7 @@
 
 namespace fs = std::filesystem;
 
-typedef HostTest RoamingFolderTest;
+using RoamingFolderTest = HostTest;
 
 TEST_F(RoamingFolderTest, LiesBelowTheUsersApplicationData) {
     const fs::path data = folder / u8"données 日本";

@@ -26,7 +26,7 @@ Outcome CheckDigitOf(const Row& row, Compute compute) {
     return {.status = status, .result = std::string(check == kUntouched ? 0 : 1, check)};
 }
 
-const bool registered = RegisterCalls({
+const bool kRegistered = RegisterCalls({
     {"TranslateCode128A", [](const Row& row) { return Translated(row, TranslateCode128A); }},
     {"TranslateCode128B", [](const Row& row) { return Translated(row, TranslateCode128B); }},
     {"TranslateCode128C", [](const Row& row) { return Translated(row, TranslateCode128C); }},

@@ -5,7 +5,7 @@ namespace linewright {
 
 namespace {
 
-const bool registered = RegisterCalls({
+const bool kRegistered = RegisterCalls({
     {"ImbErrorMessage",
      [](const Row& row) {
          const auto result = static_cast<ImbResult>(row.fields.at("value").get<int>());

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace host {
+
+/** Makes an object. Without memory the process ends here: nothing may be thrown to a plug-in. */
+template <class Object>
+Object* Make() noexcept {
+    return new Object;
+}
+
+}  // namespace host
