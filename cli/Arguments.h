@@ -6,6 +6,7 @@
 
 #include "cli/BatchCommand.h"
 #include "cli/Console.h"
+#include "cli/DrawCommand.h"
 #include "cli/EncodeCommand.h"
 #include "cli/Service.h"
 
@@ -13,7 +14,19 @@ namespace linewright {
 
 /** What the command line asks for. */
 struct Arguments {
-    enum class Command { kTypes, kEncode, kStream, kBatch, kPrefs, kPrefsSet };
+    enum class Command {
+        kTypes,
+        kEncode,
+        kStream,
+        kBatch,
+        kPrefs,
+        kPrefsSet,
+        kDraw,
+        kVerify,
+        kProof,
+        kFontsList,
+        kFontsInstall,
+    };
 
     Command command = Command::kTypes;
     HostOptions host;
@@ -22,6 +35,9 @@ struct Arguments {
     BatchFiles batchFiles;
     BatchOptions batch;
     std::vector<std::string> assignments;
+    DrawOptions draw;
+    /** The folder of the fonts' files; where it is not stated it is found from the program. */
+    std::string fonts;
 };
 
 /** Reads a command line (UTF-8, without the program's name). Answers --help, --version and mistakes

@@ -100,7 +100,7 @@ constexpr TypeDrawing kRows[]{
 
 const TypeDrawing* TypeDrawingOf(std::string_view typeName) {
     const auto row = std::find_if(std::begin(kRows), std::end(kRows), [&](const TypeDrawing& type) {
-        return type.typeName == typeName;
+        return typeName.starts_with(type.typeName);
     });
     return row == std::end(kRows) ? nullptr : row;
 }

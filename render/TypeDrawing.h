@@ -32,7 +32,8 @@ struct TypeDrawing {
     bool HasFixedHeight() const { return modulesPerX > 1; }
 };
 
-/** The row of a type name; none for a name that is no type. */
+/** The row of a type name, of which characters behind a known name do not matter; none for a name
+ *  that is no type. */
 const TypeDrawing* TypeDrawingOf(std::string_view typeName);
 
 /** All types in the plug-in's order. */
