@@ -28,7 +28,7 @@ std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
     for (const TypeDrawing& type : TypeDrawings()) {
         if (type.face != face) continue;
         names += (names.empty() ? "" : ", ") + std::string(ShortNameOf(type.typeName));
-        size = type.Module() * type.face->modulesPerEm;
+        if (face != nullptr) size = type.Module() * face->modulesPerEm;
     }
     return {names, size};
 }

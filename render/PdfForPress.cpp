@@ -18,7 +18,8 @@ namespace {
 constexpr std::string_view kStream = "\nstream\n";
 constexpr std::string_view kEndOfStream = "\nendstream";
 constexpr std::string_view kLength = "/Length ";
-constexpr std::string_view kWidths = "/Widths [ ";
+/** How lists of widths begin, of simple fonts and of those with more than 256 characters. */
+constexpr std::string_view kWidths[]{"/Widths [ ", "/W [0 [ "};
 /** Our glyphs' widths are multiples of this in thousandths of the size: half of 1/128. */
 constexpr double kWidthStep = 1000.0 / 256;
 
@@ -101,14 +102,17 @@ std::string ExactWidth(double width) {
 void MakeWidthsExact(std::string& object) {
     const bool isOurs = object.find("+Linewright") != std::string::npos ||
                         object.find("+CairoFont") != std::string::npos;
-    const std::size_t widths = object.find(kWidths);
-    if (!isOurs || widths == std::string::npos) return;
-    const std::size_t first = widths + kWidths.size();
-    const std::size_t end = object.find(']', first);
-    std::istringstream numbers(object.substr(first, end - first));
-    std::string exact;
-    for (double width = 0; numbers >> width;) exact += ExactWidth(width) + ' ';
-    object.replace(first, end - first, exact);
+    if (!isOurs) return;
+    for (const std::string_view begin : kWidths) {
+        const std::size_t widths = object.find(begin);
+        if (widths == std::string::npos) continue;
+        const std::size_t first = widths + begin.size();
+        const std::size_t end = object.find(']', first);
+        std::istringstream numbers(object.substr(first, end - first));
+        std::string exact;
+        for (double width = 0; numbers >> width;) exact += ExactWidth(width) + ' ';
+        object.replace(first, end - first, exact);
+    }
 }
 
 void ReplaceAll(std::string& text, std::string_view from, std::string_view to) {

@@ -17,6 +17,8 @@ struct Reading {
     /** The characters, in the forms that Meaning describes. */
     std::string data;
     std::string addOn;
+    /** The main symbol's characters as the scanner gives them, UPC-A with 12 digits. */
+    std::string said;
     bool isGs1 = false;
     /** Whether the scanner translated full ASCII itself. */
     bool isTranslated = false;

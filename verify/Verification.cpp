@@ -46,7 +46,7 @@ bool IsMeant(const Reading& reading, const Meaning& meaning) {
 
 std::string ShownData(const Reading& reading) {
     std::string text;
-    for (const char byte : reading.data) AppendShown(text, static_cast<unsigned char>(byte));
+    for (const char byte : reading.said) AppendShown(text, static_cast<unsigned char>(byte));
     return reading.addOn.empty() ? text : text + " +" + reading.addOn;
 }
 

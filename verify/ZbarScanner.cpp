@@ -78,6 +78,7 @@ void Take(const zbar::zbar_symbol_t* symbol, Reading& reading) {
         return;
     }
     reading.isFound = true;
+    reading.said = data;
     reading.symbology = zbar::zbar_get_symbol_name(type);
     const bool isEanUpc = type == zbar::ZBAR_EAN13 || type == zbar::ZBAR_EAN8 ||
                           type == zbar::ZBAR_UPCA || type == zbar::ZBAR_UPCE;

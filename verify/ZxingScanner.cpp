@@ -52,13 +52,14 @@ Reading ReadWithZxing(const GreyRaster& picture, const ScannerTask& task) {
     reading.isFound = true;
     reading.symbology = ToString(result.format());
     reading.data = result.bytes().asString();
+    reading.said = reading.data;
     reading.isGs1 = result.symbologyIdentifier() == "]C1";
     reading.isTranslated = task.isFullAscii;
     if (task.symbology == Symbology::kEanUpc) {
         const std::size_t space = reading.data.find(' ');
         if (space != std::string::npos) reading.addOn = reading.data.substr(space + 1);
-        reading.data = verify::EanUpcNumber(reading.data.substr(0, space),
-                                            result.format() == BarcodeFormat::UPCE);
+        reading.said = reading.data.substr(0, space);
+        reading.data = verify::EanUpcNumber(reading.said, result.format() == BarcodeFormat::UPCE);
     }
     return reading;
 }

@@ -94,11 +94,11 @@ std::string ClassicUpcEData(RandomData& random, const Turn&) {
     return '0' + random.Text("123456789", 5) + random.Text("56789", 1);
 }
 
-// Interleaved 2 of 5 has no shortest length, but scanners read six digits and more.
+// ZBar reads four digits of Interleaved 2 of 5 and more.
 constexpr ScanCase kCases[]{
     {"_BARCODE_CODABAR_",
      [](RandomData& random, const Turn&) {
-         return random.Text(kCodabarCharacters, random.Number(2, 250));
+         return random.Text(kCodabarCharacters, random.Number(1, 250));
      }},
     {"_BARCODE_CODE128A_",
      [](RandomData& random, const Turn&) { return Code128Data(random, 0, 95); }},
@@ -115,7 +115,7 @@ constexpr ScanCase kCases[]{
      }},
     {"_BARCODE_EAN13_", WithAddOn<12>},
     {"_BARCODE_I2OF5_",
-     [](RandomData& random, const Turn&) { return random.Digits(random.Number(5, 255)); }},
+     [](RandomData& random, const Turn&) { return random.Digits(random.Number(3, 255)); }},
     {"_BARCODE_JAN13_", WithAddOn<12>},
     {"_BARCODE_UPCA_", WithAddOn<11>},
     {"_BARCODE_UPCE_", ClassicUpcEData},
@@ -133,7 +133,7 @@ constexpr ScanCase kCases[]{
     {"_QVT_BARCODE_EAN13_",
      [](RandomData& random, const Turn&) { return random.Digits(random.Number(1, 13)); }},
     {"_QVT_BARCODE_I2OF5_",
-     [](RandomData& random, const Turn&) { return random.Digits(random.Number(5, 255)); }},
+     [](RandomData& random, const Turn&) { return random.Digits(random.Number(3, 255)); }},
     {"_QVT_BARCODE_JAN13_",
      [](RandomData& random, const Turn&) { return random.Digits(random.Number(1, 13)); }},
     {"_QVT_BARCODE_UPCA_",
@@ -142,6 +142,35 @@ constexpr ScanCase kCases[]{
      }},
     {"_QVT_BARCODE_UPCE_", UpcEData},
 };
+
+constexpr std::size_t kNarrowSymbols = LINEWRIGHT_SYMBOLS / 10;
+constexpr double kMostReduction = 25;
+/** So little that nothing changes, but the variable font is what draws. */
+constexpr double kLeastReduction = 0.001;
+
+/** Whether a symbol lies within what a scanner reads. What does not was found by trying:
+ *  - ZXing-C++ wants six digits of Interleaved 2 of 5 and two of Codabar, ZBar takes up to 255
+ * characters of it and of Codabar, loses digits of set C in Code 128 of more than 200 characters,
+ * and has only number system 0 of UPC-E.
+ *  - With narrower bars ZXing-C++ compares Code 39's bars and spaces, of which "$", "/", "+" and
+ * "%" then have too different ones, and looks for an add-on no further than 10 modules. */
+bool IsWithin(std::string_view scanner, std::string_view type, const Meaning& meaning,
+              double reduction) {
+    const Symbology symbology = meaning.task.symbology;
+    const std::size_t length = meaning.carried.size();
+    if (scanner == "ZXing-C++") {
+        if (symbology == Symbology::kInterleaved2of5) return length >= 6;
+        if (symbology == Symbology::kCodabar && length < 4) return false;
+        if (reduction != kMostReduction) return true;
+        if (symbology == Symbology::kCode39) {
+            return meaning.carried.find_first_of("$/+%") == std::string::npos;
+        }
+        return type != "_BARCODE_UPCA_" || meaning.addOn.empty();
+    }
+    if (symbology == Symbology::kCode128) return length <= 200;
+    if (type == "_QVT_BARCODE_UPCE_") return meaning.carried[1] == '0';
+    return length <= 255;
+}
 
 /** Settings of the classic types, for the encoders and for the judge. */
 EncoderSettings SetPreferences(const Turn& turn) {
@@ -175,6 +204,8 @@ class ScanTest : public testing::TestWithParam<ScanCase> {
         const Verification found = Verify(drawing, meaning, pixelsPerModule);
         ASSERT_EQ(found.readings.size(), 2U);
         for (const Reading& reading : found.readings) {
+            if (!IsWithin(reading.scanner, type, meaning, reduction)) continue;
+            ++readings;
             EXPECT_TRUE(reading.isMeant)
                 << reading.scanner << " at " << pixelsPerModule << " pixels and ratio "
                 << turn.Ratio() << " of " << testing::PrintToString(data) << " (" << fontString
@@ -186,6 +217,8 @@ class ScanTest : public testing::TestWithParam<ScanCase> {
 
     TestHost host;
     RandomData random{20};
+    /** How many readings counted. */
+    std::size_t readings = 0;
 
   private:
     LinewrightPrefsRecord saved = preferences;
@@ -198,15 +231,20 @@ TEST_P(ScanTest, BothScannersReadWhatIsMeant) {
         const bool isOddHalf = turn.Ratio() == 2.5 && pixels % 2 != 0;
         ExpectScans(GetParam().data(random, turn), turn, isOddHalf ? pixels + 1 : pixels);
     }
+    EXPECT_GE(readings, LINEWRIGHT_SYMBOLS * 5 / 4U);
 }
 
 /** Both ends of the axis; the printer's ink makes up for the narrower bars. */
 TEST_P(ScanTest, NarrowerBarsAreReadToo) {
-    for (std::size_t number = 0; number < LINEWRIGHT_SYMBOLS / 10; ++number) {
+    for (std::size_t number = 0; number < kNarrowSymbols; ++number) {
         const Turn turn{number};
-        const std::string data = GetParam().data(random, turn);
-        ExpectScans(data, turn, 8, number % 2 == 0 ? 25 : 0.001);
+        std::string data = GetParam().data(random, turn);
+        // Digits alone, where other characters are more than ZXing-C++ can do.
+        const bool isCode39 = GetParam().typeName.find("CODE39") != std::string_view::npos;
+        if (isCode39 && turn.IsCheckWanted()) data = random.Digits(data.size());
+        ExpectScans(data, turn, 8, number % 2 == 0 ? kMostReduction : kLeastReduction);
     }
+    EXPECT_GE(readings, kNarrowSymbols * 5 / 4U);
 }
 
 std::string NameOf(const testing::TestParamInfo<ScanCase>& info) {
