@@ -106,9 +106,10 @@ EncodeRequest ParseStreamRequest(std::string_view line) {
     }
     std::tie(request.data, request.isUtf8) = TextOrHex(object, "data", "hex");
     if (const auto utf8 = object.find("utf8"); utf8 != object.end()) {
-        if (request.isUtf8)
-            throw Failure("\"utf8\" goes with \"hex\"; \"data\" is always converted");
-        request.isUtf8 = Utf8FlagOf(*utf8);
+        const bool isWanted = Utf8FlagOf(*utf8);
+        if (request.isUtf8 && !isWanted)
+            throw Failure("\"data\" is always converted; send \"hex\" for data that is not");
+        request.isUtf8 = isWanted;
     }
     if (const auto check = object.find("check"); check != object.end()) {
         request.checkCharacter = CheckOf(*check);

@@ -70,9 +70,9 @@ std::uint64_t RoutingValue(std::string_view routing) {
 
 void MultiplyAdd(ImbBinaryValue& value, std::uint32_t factor, std::uint64_t summand) {
     std::uint64_t carry = summand;
-    for (auto byte = value.rbegin(); byte != value.rend(); ++byte) {
-        carry += std::uint64_t{*byte} * factor;
-        *byte = static_cast<std::uint8_t>(carry & 0xFF);
+    for (std::size_t place = value.size(); place-- > 0;) {
+        carry += std::uint64_t{value[place]} * factor;
+        value[place] = static_cast<std::uint8_t>(carry & 0xFF);
         carry >>= 8;
     }
 }

@@ -11,7 +11,7 @@
 namespace linewright {
 namespace {
 
-__extension__ typedef unsigned __int128 BinaryValue;
+__extension__ typedef unsigned __int128 BinaryValue;  // NOLINT(modernize-use-using)
 
 using Character = std::bitset<kImbBitsPerCharacter>;
 using Characters = std::array<Character, kImbCharacterCount>;

@@ -19,8 +19,8 @@ std::string Utf8(const std::filesystem::path& path) {
 
 std::filesystem::path MakeTestFolder() {
     std::random_device random;
-    const auto folder = std::filesystem::temp_directory_path() /
-                        ("linewright-test-" + std::to_string(random()) + std::to_string(random()));
+    auto folder = std::filesystem::temp_directory_path() /
+                  ("linewright-test-" + std::to_string(random()) + std::to_string(random()));
     std::filesystem::create_directories(folder);
     return folder;
 }

@@ -8,7 +8,6 @@ namespace linewright {
 namespace {
 
 using testing::HasSubstr;
-using testing::StartsWith;
 
 CommandRunner::Result Convert(const std::string& csv, std::vector<std::string> more = {}) {
     more.insert(more.begin(), {"batch", "-"});

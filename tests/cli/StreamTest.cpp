@@ -69,8 +69,9 @@ TEST(StreamRequest, SaysWhatIsWrong) {
         "ratio");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":"3"})"), R"("ratio" is not a number)");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":1e999})"), "a number is too large");
-    EXPECT_EQ(WhyRefused(R"({"type":"","data":"","utf8":true})"),
-              R"("utf8" goes with "hex"; "data" is always converted)");
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":"","utf8":false})"),
+              R"("data" is always converted; send "hex" for data that is not)");
+    EXPECT_TRUE(ParseStreamRequest(R"({"type":"","data":"","utf8":true})").isUtf8);
     EXPECT_EQ(WhyRefused(R"({"type":"","hex":"","utf8":1})"), R"("utf8" is not a boolean)");
     for (const char* const check : {"256", "-1", "1.5", "\"1\"", "null"}) {
         EXPECT_EQ(WhyRefused(R"({"type":"","data":"","check":)" + std::string(check) + "}"),

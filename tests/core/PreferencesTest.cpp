@@ -111,6 +111,7 @@ TEST_F(PreferencesTest, WhatAShortFileLacksIsZero) {
     EXPECT_EQ(ContentOf(file), BytesOf(Changed()).substr(0, 309) + std::string(15, '\0'));
 }
 
+constexpr std::size_t kMegabyte = 1'000'000;
 constexpr const char* kResetKey = "0x122100kLWRPrefsResetMessageKey";
 
 TEST_F(PreferencesTest, AFileTooShortForItsVersionIsReset) {
@@ -141,10 +142,10 @@ TEST_F(PreferencesTest, AnotherSignatureIsReset) {
 }
 
 TEST_F(PreferencesTest, OfALongFileOnlyTheRecordCounts) {
-    Write(BytesOf(Changed()) + std::string(10'000'000, 'x'));
+    Write(BytesOf(Changed()) + std::string(10 * kMegabyte, 'x'));
     EXPECT_THAT(Run(), IsEmpty());
     EXPECT_EQ(ContentOf(file), BytesOf(Changed()));
-    Write(std::string(10'000'000, 'x'));
+    Write(std::string(10 * kMegabyte, 'x'));
     EXPECT_THAT(Run(), ElementsAre(kResetKey));
     EXPECT_EQ(ContentOf(file), defaults);
 }
@@ -255,7 +256,7 @@ std::string Stored(const ILWRAppPrefs& object) {
     uint32 size = 77;
     uint8* const copy = object.CopyBlock(&size);
     EXPECT_EQ(copy == nullptr && size != 0, false);
-    const std::string text(reinterpret_cast<char*>(copy), size);
+    std::string text(reinterpret_cast<char*>(copy), size);
     FreeBlock(copy);
     return text;
 }

@@ -49,7 +49,7 @@ TEST_F(ServiceTest, EncodesThroughTheFourthSlotOfTheVirtualTable) {
     IORTALinewright* const object = service.get();
     using ProcessRequest = void (*)(IORTALinewright*, LinewrightRequest*);
     ProcessRequest const* table = nullptr;
-    std::memcpy(&table, object, sizeof table);
+    std::memcpy(&table, static_cast<const void*>(object), sizeof table);
     table[3](object, &request);
     block.length = params.dataLength;
     EXPECT_EQ(request.result, 0);

@@ -2,6 +2,7 @@
 // the bell of a terminal.
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -67,11 +68,12 @@ TEST_F(RoamingFolderTest, LiesBelowTheUsersConfiguration) {
 
 TEST_F(RoamingFolderTest, IgnoresAConfigurationFolderThatIsNotAbsolute) {
     const std::string home = ToUtf8(folder / "home");
-    for (const char* ignored : {"relative", "", static_cast<const char*>(nullptr)}) {
+    const std::string relative = ToUtf8(folder.filename());
+    for (const char* ignored : {relative.c_str(), "", static_cast<const char*>(nullptr)}) {
         EXPECT_EQ(Find(ignored, home.c_str()), home + "/.config/Linewright Host");
     }
     EXPECT_TRUE(fs::is_directory(folder / "home" / ".config" / "Linewright Host"));
-    EXPECT_FALSE(fs::exists("relative"));
+    EXPECT_FALSE(fs::exists(relative));
 }
 
 TEST_F(RoamingFolderTest, IsUnknownToAUserWithoutAHome) {
@@ -99,6 +101,20 @@ TEST_F(LinkTest, ToADeviceIsNoFileToReplace) {
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+namespace {
+
+/** Whether a byte arrives within five seconds. */
+bool Hears(int handle, char expected) {
+    pollfd input{handle, POLLIN, 0};
+    char byte = 0;
+    while (poll(&input, 1, 5000) == 1 && read(handle, &byte, 1) == 1) {
+        if (byte == expected) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
 using TerminalTest = HostTest;
 
 TEST_F(TerminalTest, Beeps) {
@@ -118,10 +134,6 @@ TEST_F(TerminalTest, Beeps) {
     dup2(before, STDERR_FILENO);
     EXPECT_TRUE(started) << Error();
 
-    char written[200];
-    const ssize_t length = read(master, written, sizeof written);
-    ASSERT_GT(length, 0);
-    EXPECT_NE(std::string_view(written, static_cast<std::size_t>(length)).find('\a'),
-              std::string_view::npos);
+    EXPECT_TRUE(Hears(master, '\a'));
     for (const int handle : {before, terminal, master}) close(handle);
 }

@@ -56,7 +56,7 @@ Outcome CallReplaceMarkers(const Row& row) {
     return {.result = Latin1(message)};
 }
 
-const bool registered = RegisterCalls({
+const bool kRegistered = RegisterCalls({
     {"IsInRange",
      [](const Row& row) {
          return Outcome{

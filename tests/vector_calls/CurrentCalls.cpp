@@ -31,7 +31,7 @@ Call Build(int16 (*build)(const Row& row, TextArea& symbol)) {
     };
 }
 
-const bool registered = RegisterCalls({
+const bool kRegistered = RegisterCalls({
     {"BuildEan13", Build<kEan13Capacity>([](const Row& row, TextArea& symbol) {
          return BuildEan13(Data(row), symbol);
      })},
