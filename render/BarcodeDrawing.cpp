@@ -81,7 +81,7 @@ std::optional<BarcodeDrawing> BarcodeDrawing::Make(const std::filesystem::path& 
     if (!problem.empty()) return std::nullopt;
     drawing.font = BarcodeFont::Load(fonts, *type.face, shape, problem);
     if (!drawing.font) return std::nullopt;
-    if (shape.reductionPercent != 0) drawing.form = Form::kPaths;
+    if (drawing.font->IsVariable()) drawing.form = Form::kPaths;
     drawing.hasHalfModules =
         type.face == &kBarsFace && fontString.find_first_of("XYZ") != std::string_view::npos;
     drawing.PlaceGlyphs(type, fontString, options);

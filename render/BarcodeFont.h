@@ -12,14 +12,12 @@
 
 namespace linewright {
 
-/** What a font's axes are set to; the defaults draw the static font. */
+/** How a font's bars depart from the static font's. */
 struct FontShape {
     /** Height of the bars in per cent, 25 to 400. */
     double heightPercent = 100;
     /** Narrower bars in per cent of the narrowest one, 0 to 25. */
     double reductionPercent = 0;
-
-    bool IsStatic() const { return heightPercent == 100 && reductionPercent == 0; }
 };
 
 /** Everything of a glyph in modules, y upwards from the baseline. */
@@ -43,16 +41,22 @@ class BarcodeFont {
     /** The glyph of a byte of a font string; `isLarge` prefers the larger outer digit. */
     GlyphBox GlyphOf(unsigned char byte, bool isLarge) const;
 
+    /** Whether the bars come from the variable font, which Cairo draws right as paths only. */
+    bool IsVariable() const { return shape.heightPercent != 100 || shape.reductionPercent != 0; }
+
     /** Sets the font for a context of which a unit is a module. */
     void Select(cairo_t* context) const;
 
   private:
-    BarcodeFont(FT_Face file, const BarcodeFace& face, const FontShape& shape);
+    BarcodeFont(FT_Face file, const BarcodeFace& face, const FontShape& axes, double stretch);
 
     FT_Face file;
     cairo_font_face_t* cairoFace;
     const BarcodeFace& face;
+    /** What the axes are set to. */
     FontShape shape;
+    /** A font without text is set as much higher as its bars are to be. */
+    double stretch;
 };
 
 }  // namespace linewright

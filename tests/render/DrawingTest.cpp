@@ -105,6 +105,13 @@ TEST(DrawingTest, HeightIsThatOfTheBars) {
     constexpr double kHeight = 20 * kMillimetre;
     const BarcodeDrawing drawing = Drawn(kCode39, kCode39String, {.height = kHeight});
     EXPECT_NEAR(drawing.Height() * drawing.Module(), kHeight, drawing.Module());
+    const GreyRaster picture = drawing.Raster(4);
+    EXPECT_GT(RunsAt(picture, 5).size(), 1U);
+    EXPECT_EQ(RunsAt(picture, 5), RunsAt(picture, picture.height - 5));
+    // EAN-13 at 10 mm has shorter bars above text of the usual size.
+    const BarcodeDrawing low = Drawn(kEan13, kEan13String, {.height = 10 * kMillimetre});
+    EXPECT_NEAR(low.Height() * low.Module(), 10 * kMillimetre + 9 * low.Module(), low.Module());
+    EXPECT_EQ(RunsAt(low.Raster(2), 4), RunsAt(Drawn(kEan13, kEan13String).Raster(2), 4));
     // 0.254 mm wide modules: 32 of them a quarter to four times as high.
     EXPECT_THAT(ProblemWith(kCode39, kCode39String, {.height = 33 * kMillimetre}),
                 HasSubstr("2.03 mm to 32.51 mm"));
