@@ -134,7 +134,9 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright prefs set msiFirstCheck=mod10");
 }
 
+/** The options of these commands fill a screen: --help is not among those that it lists. */
 void AddDrawing(CLI::App& command, DrawingWish& wish) {
+    command.get_help_ptr()->group("");
     const auto add = [&command](const char* name, std::optional<std::string>& value,
                                 const char* kind, const char* help) {
         command.add_option(name, value, help)->type_name(kind);
@@ -142,28 +144,23 @@ void AddDrawing(CLI::App& command, DrawingWish& wish) {
     add("--x-dimension", wish.xDimension, "LENGTH", "Narrowest bar: 0.33mm, 10mil, 0.7pt");
     add("--height", wish.height, "LENGTH", "Bars: 15mm, or 50x of the narrowest bar");
     add("--quiet-zone", wish.quietZone, "LENGTH", "White on both sides");
-    add("--bar-width-reduction", wish.barWidthReduction, "AMOUNT",
-        "Narrower bars: 10% of the narrowest, or 0.03mm");
+    add("--bar-width-reduction", wish.barWidthReduction, "A",
+        "Narrower bars: by 10% of the narrowest, or 0.03mm");
 }
 
 void AddResolution(CLI::App& command, DrawOptions& draw) {
-    CLI::Option* const dots =
-        command.add_option("--dpi", draw.dotsPerInch, "Resolution of a picture")
-            ->type_name("N")
-            ->check(CLI::Range(1, 100000).description(""));
+    command.add_option("--dpi", draw.dotsPerInch, "Resolution of a picture, or:")
+        ->type_name("N")
+        ->check(CLI::Range(1, 100000).description(""));
     command.add_option("--pixels-per-module", draw.pixelsPerModule, "The same by pixels")
         ->type_name("N")
-        ->check(CLI::Range(1, 100).description(""))
-        ->excludes(dots);
+        ->check(CLI::Range(1, 100).description(""));
 }
 
 void AddText(CLI::App& command, DrawingWish& wish) {
-    CLI::Option* const with = command.add_flag_callback(
-        "--text", [&wish] { wish.isTextWanted = true; }, "Print the data below the bars");
-    command
-        .add_flag_callback(
-            "--no-text", [&wish] { wish.isTextWanted = false; }, "Print no data below the bars")
-        ->excludes(with);
+    command.add_flag(
+        "--text,!--no-text", [&wish](std::int64_t count) { wish.isTextWanted = count > 0; },
+        "The data below the bars, or not");
 }
 
 void AddDraw(CLI::App& app, Arguments& arguments) {
@@ -171,7 +168,7 @@ void AddDraw(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("draw", "Draw one barcode into a file (Linux)");
     AddBarcode(command, draw.encode);
     command.add_option("-o,--output", draw.output, ".pdf, .eps, .svg or .png")
-        ->type_name("FILE")
+        ->type_name("F")
         ->required();
     AddDrawing(command, draw.drawing);
     AddText(command, draw.drawing);
@@ -195,7 +192,7 @@ void AddProof(CLI::App& app, Arguments& arguments) {
         *app.add_subcommand("proof", "Draw the rows of a CSV file on a sheet (Linux)");
     AddRows(command, arguments);
     command.add_option("-o,--output", arguments.batchFiles.output, "PDF file to write")
-        ->type_name("OUT.pdf")
+        ->type_name("F")
         ->required();
     AddDrawing(command, arguments.draw.drawing);
     AddText(command, arguments.draw.drawing);
@@ -257,8 +254,8 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddFonts(app);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
-        "Each command has its own --help. Options for the host may stand anywhere.\n"
-        "Example:  linewright encode ean13 4006381333931");
+        "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");
+    app.get_help_ptr()->group("");
 
     try {
         std::reverse(arguments.begin(), arguments.end());

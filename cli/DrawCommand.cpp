@@ -51,6 +51,9 @@ int PixelsOf(const BarcodeDrawing& drawing, const DrawOptions& options) {
     constexpr double kUsualResolution = 300;
     constexpr double kTolerance = 0.001;
     const int step = drawing.HasHalfModules() ? 2 : 1;
+    if (options.pixelsPerModule && options.dotsPerInch) {
+        throw Failure("--dpi and --pixels-per-module say the same: give one of them");
+    }
     if (options.pixelsPerModule) {
         if (*options.pixelsPerModule % step == 0) return *options.pixelsPerModule;
         throw Failure(

@@ -147,12 +147,11 @@ void BarcodeDrawing::Paint(cairo_t* context, Form paintedForm) const {
     cairo_save(context);
     cairo_set_source_rgb(context, 0, 0, 0);
     if (font && !glyphs.empty()) {
-        font->Select(context);
-        const int count = static_cast<int>(glyphs.size());
         if (paintedForm == Form::kText) {
-            cairo_show_glyphs(context, glyphs.data(), count);
+            font->Select(context);
+            cairo_show_glyphs(context, glyphs.data(), static_cast<int>(glyphs.size()));
         } else {
-            cairo_glyph_path(context, glyphs.data(), count);
+            for (const cairo_glyph_t& glyph : glyphs) font->AddPath(context, glyph);
             cairo_fill(context);
         }
     }

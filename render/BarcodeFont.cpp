@@ -41,6 +41,10 @@ bool SetShape(FT_Face file, const FontShape& shape) {
     return FT_Set_Var_Design_Coordinates(file, axes.size(), axes.data()) == 0;
 }
 
+double Number(FT_Pos position) {
+    return static_cast<double>(position);
+}
+
 /** A character at which every byte's glyph is found, see docs/fonts.md. */
 FT_ULong CharacterOf(unsigned char byte) {
     return byte >= 32 && byte <= 126 ? byte : 0xF000U + byte;
@@ -97,16 +101,18 @@ GlyphBox BarcodeFont::GlyphOf(unsigned char byte, bool isLarge) const {
     FT_Load_Glyph(file, index, FT_LOAD_NO_SCALE);
     FT_BBox box{};
     FT_Outline_Get_CBox(&file->glyph->outline, &box);
-    const double unitsPerModule = static_cast<double>(file->units_per_EM) / face.modulesPerEm;
-    const auto modules = [&](FT_Pos units) { return static_cast<double>(units) / unitsPerModule; };
     return {
         .index = index,
-        .advance = modules(file->glyph->metrics.horiAdvance),
-        .left = modules(box.xMin),
-        .bottom = modules(box.yMin) * stretch,
-        .right = modules(box.xMax),
-        .top = modules(box.yMax) * stretch,
+        .advance = ModulesOf(file->glyph->metrics.horiAdvance),
+        .left = ModulesOf(box.xMin),
+        .bottom = ModulesOf(box.yMin) * stretch,
+        .right = ModulesOf(box.xMax),
+        .top = ModulesOf(box.yMax) * stretch,
     };
+}
+
+double BarcodeFont::ModulesOf(FT_Pos units) const {
+    return static_cast<double>(units) * face.modulesPerEm / file->units_per_EM;
 }
 
 void BarcodeFont::Select(cairo_t* context) const {
@@ -114,17 +120,43 @@ void BarcodeFont::Select(cairo_t* context) const {
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
     cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
     cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
-    if (IsVariable()) {
-        const std::string axes = "BHGT=" + std::to_string(shape.heightPercent) +
-                                 ",BWRD=" + std::to_string(shape.reductionPercent);
-        cairo_font_options_set_variations(options, axes.c_str());
-    }
     cairo_set_font_options(context, options);
     cairo_font_options_destroy(options);
     cairo_set_font_face(context, cairoFace);
     cairo_matrix_t size;
     cairo_matrix_init_scale(&size, face.modulesPerEm, face.modulesPerEm * stretch);
     cairo_set_font_matrix(context, &size);
+}
+
+void BarcodeFont::AddPath(cairo_t* context, const cairo_glyph_t& glyph) const {
+    FT_Load_Glyph(file, static_cast<FT_UInt>(glyph.index), FT_LOAD_NO_SCALE);
+    FT_Outline_Funcs pen{};
+    pen.move_to = [](const FT_Vector* to, void* path) {
+        cairo_close_path(static_cast<cairo_t*>(path));
+        cairo_move_to(static_cast<cairo_t*>(path), Number(to->x), Number(to->y));
+        return 0;
+    };
+    pen.line_to = [](const FT_Vector* to, void* path) {
+        cairo_line_to(static_cast<cairo_t*>(path), Number(to->x), Number(to->y));
+        return 0;
+    };
+    // A curve of the second degree as one of the third.
+    pen.conic_to = [](const FT_Vector* control, const FT_Vector* to, void* path) {
+        double x = 0;
+        double y = 0;
+        cairo_get_current_point(static_cast<cairo_t*>(path), &x, &y);
+        cairo_curve_to(static_cast<cairo_t*>(path), (x + 2 * Number(control->x)) / 3,
+                       (y + 2 * Number(control->y)) / 3,
+                       (Number(to->x) + 2 * Number(control->x)) / 3,
+                       (Number(to->y) + 2 * Number(control->y)) / 3, Number(to->x), Number(to->y));
+        return 0;
+    };
+    cairo_save(context);
+    cairo_translate(context, glyph.x, glyph.y);
+    cairo_scale(context, ModulesOf(1), -ModulesOf(1) * stretch);
+    FT_Outline_Decompose(&file->glyph->outline, &pen, context);
+    cairo_close_path(context);
+    cairo_restore(context);
 }
 
 }  // namespace linewright

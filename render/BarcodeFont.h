@@ -41,13 +41,17 @@ class BarcodeFont {
     /** The glyph of a byte of a font string; `isLarge` prefers the larger outer digit. */
     GlyphBox GlyphOf(unsigned char byte, bool isLarge) const;
 
-    /** Whether the bars come from the variable font, which Cairo draws right as paths only. */
+    /** Whether the bars come from the variable font, which are drawn as paths. */
     bool IsVariable() const { return shape.heightPercent != 100 || shape.reductionPercent != 0; }
 
-    /** Sets the font for a context of which a unit is a module. */
+    /** Sets the font for a context of which a unit is a module. For fonts that are not variable. */
     void Select(cairo_t* context) const;
+    /** Adds the outline of a placed glyph to the path of such a context. */
+    void AddPath(cairo_t* context, const cairo_glyph_t& glyph) const;
 
   private:
+    /** Modules for a font's unit. */
+    double ModulesOf(FT_Pos units) const;
     BarcodeFont(FT_Face file, const BarcodeFace& face, const FontShape& axes, double stretch);
 
     FT_Face file;
