@@ -128,8 +128,8 @@ void BarcodeDrawing::PlaceGlyphs(const TypeDrawing& type, std::string_view fontS
     }
 }
 
-void BarcodeDrawing::PlaceText(const TypeDrawing& type, const std::string& shown) {
-    text = shown;
+void BarcodeDrawing::PlaceText(const TypeDrawing& type, const std::string& shownText) {
+    text = shownText;
     textSize = (type.HasFixedHeight() ? kPostalTextSize : kTextSize) * type.modulesPerX;
     double wide = TextWidth(text, textSize);
     if (type.face == nullptr) {

@@ -73,7 +73,7 @@ class BarcodeDrawing {
     BarcodeDrawing() = default;
     void PlaceGlyphs(const TypeDrawing& type, std::string_view fontString,
                      const DrawingOptions& options);
-    void PlaceText(const TypeDrawing& type, const std::string& text);
+    void PlaceText(const TypeDrawing& type, const std::string& shownText);
 
     std::shared_ptr<const BarcodeFont> font;
     const BarcodeFace* face = nullptr;

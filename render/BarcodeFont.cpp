@@ -1,12 +1,12 @@
 #include "render/BarcodeFont.h"
 
 #include <cairo/cairo-ft.h>
+#include <freetype/ftmm.h>
+#include <freetype/ftoutln.h>
 
 #include <array>
 #include <cmath>
 #include <utility>
-#include FT_MULTIPLE_MASTERS_H
-#include FT_OUTLINE_H
 
 namespace linewright {
 
@@ -76,18 +76,21 @@ std::unique_ptr<const BarcodeFont> BarcodeFont::Load(const std::filesystem::path
 
 BarcodeFont::BarcodeFont(FT_Face fontFile, const BarcodeFace& barcodeFace, const FontShape& axes,
                          double verticalStretch)
-    : file(fontFile),
-      cairoFace(cairo_ft_font_face_create_for_ft_face(fontFile, FT_LOAD_NO_HINTING)),
-      face(barcodeFace),
-      shape(axes),
-      stretch(verticalStretch) {
+    : file(fontFile), face(barcodeFace), shape(axes), stretch(verticalStretch) {
+    if (IsVariable()) return;
+    // Cairo's caches may keep the face for longer than we do; the file goes with it.
     static constexpr cairo_user_data_key_t kFile{};
+    cairoFace = cairo_ft_font_face_create_for_ft_face(file, FT_LOAD_NO_HINTING);
     cairo_font_face_set_user_data(cairoFace, &kFile, file,
                                   [](void* done) { FT_Done_Face(static_cast<FT_Face>(done)); });
 }
 
 BarcodeFont::~BarcodeFont() {
-    cairo_font_face_destroy(cairoFace);
+    if (cairoFace != nullptr) {
+        cairo_font_face_destroy(cairoFace);
+    } else {
+        FT_Done_Face(file);
+    }
 }
 
 GlyphBox BarcodeFont::GlyphOf(unsigned char byte, bool isLarge) const {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <cairo/cairo.h>
-#include <ft2build.h>
-#include FT_FREETYPE_H
+#include <freetype/freetype.h>
 
 #include <filesystem>
 #include <memory>
@@ -55,7 +54,8 @@ class BarcodeFont {
     BarcodeFont(FT_Face file, const BarcodeFace& face, const FontShape& axes, double stretch);
 
     FT_Face file;
-    cairo_font_face_t* cairoFace;
+    /** None of a variable font. */
+    cairo_font_face_t* cairoFace = nullptr;
     const BarcodeFace& face;
     /** What the axes are set to. */
     FontShape shape;

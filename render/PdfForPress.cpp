@@ -64,7 +64,7 @@ std::string GreyContent(const std::string& content) {
         if (operation != "rg" && operation != "RG") continue;
         if (red != green || green != blue) continue;
         const std::size_t end = line.find(operation) + operation.size();
-        line = red + (operation == "rg" ? " g" : " G") + line.substr(end);
+        line.replace(0, end, red + (operation == "rg" ? " g" : " G"));
     }
     return result;
 }
@@ -158,7 +158,7 @@ std::string PdfForPress(const std::string& pdf) {
         objects[number] =
             std::to_string(number) + " 0 obj\n   " + std::to_string(length) + "\nendobj\n";
     }
-    std::string result = pdf.substr(0, pdf.find("\n", pdf.find('\n') + 1) + 1);
+    std::string result = pdf.substr(0, pdf.find('\n', pdf.find('\n') + 1) + 1);
     std::string entries = "0000000000 65535 f \n";
     for (const auto& [number, object] : objects) {
         std::array<char, 32> entry{};

@@ -101,18 +101,18 @@ void TakeAll(const zbar::zbar_symbol_t* symbol, Reading& reading) {
 
 }  // namespace
 
-Reading ReadWithZbar(const GreyRaster& original, const ScannerTask& task, bool isEnlarged) {
+Reading ReadWithZbar(const GreyRaster& picture, const ScannerTask& task, bool isEnlarged) {
     Reading reading;
     reading.scanner = "ZBar";
-    if (!HasScanner(task.symbology) || original.pixels.empty()) return reading;
-    const GreyRaster picture = isEnlarged ? Enlarged(original) : original;
+    if (!HasScanner(task.symbology) || picture.pixels.empty()) return reading;
+    const GreyRaster shown = isEnlarged ? Enlarged(picture) : picture;
     const Scanner scanner = ScannerFor(task);
     const Image image(zbar::zbar_image_create(), zbar::zbar_image_destroy);
     constexpr unsigned long kGrey = 'Y' | '8' << 8 | '0' << 16 | '0' << 24;
     zbar::zbar_image_set_format(image.get(), kGrey);
-    zbar::zbar_image_set_size(image.get(), static_cast<unsigned>(picture.width),
-                              static_cast<unsigned>(picture.height));
-    zbar::zbar_image_set_data(image.get(), picture.pixels.data(), picture.pixels.size(), nullptr);
+    zbar::zbar_image_set_size(image.get(), static_cast<unsigned>(shown.width),
+                              static_cast<unsigned>(shown.height));
+    zbar::zbar_image_set_data(image.get(), shown.pixels.data(), shown.pixels.size(), nullptr);
     zbar::zbar_scan_image(scanner.get(), image.get());
     for (const zbar::zbar_symbol_t* symbol = zbar::zbar_image_first_symbol(image.get());
          symbol != nullptr; symbol = zbar::zbar_symbol_next(symbol)) {

@@ -20,7 +20,8 @@ GreyRaster ReadPgm(const char* name) {
     file >> magic >> picture.width >> picture.height >> most;
     file.get();
     picture.pixels.assign(std::istreambuf_iterator<char>(file), {});
-    const auto size = static_cast<std::size_t>(picture.width * picture.height);
+    const auto size =
+        static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
     if (magic != "P5" || most != 255 || picture.pixels.size() != size) return {};
     return picture;
 }

@@ -149,7 +149,8 @@ TEST(DrawingTest, PaintsIntoAPictureOfTheCallers) {
     constexpr std::uint32_t kWhite = 0xFFFFFFFF;
     const int width = raster.width + 10;
     const int height = raster.height + 6;
-    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width * height), kWhite);
+    std::vector<std::uint32_t> pixels(
+        static_cast<std::size_t>(width) * static_cast<std::size_t>(height), kWhite);
     drawing.PaintArgb(pixels.data(), width, height, 4 * width, 2, 5, 3);
     for (int y = 0; y < raster.height; ++y) {
         for (int x = 0; x < raster.width; ++x) {

@@ -26,6 +26,7 @@ struct Bar {
 /** The ink of a column from 0 to 1, row by row. */
 std::vector<double> ColumnOf(const GreyRaster& picture, int x) {
     std::vector<double> column;
+    column.reserve(static_cast<std::size_t>(picture.height));
     for (int y = 0; y < picture.height; ++y) column.push_back(1 - picture.At(x, y) / 255.0);
     return column;
 }
@@ -74,6 +75,7 @@ class MeasureTest : public testing::Test {
         double lowest = 0;
         for (const Bar& bar : bars) lowest = std::max(lowest, bar.bottom);
         std::vector<Inches> measured;
+        measured.reserve(bars.size());
         for (const Bar& bar : bars) {
             measured.push_back({bar.left / inch, (bar.right - bar.left) / inch,
                                 (lowest - bar.bottom) / inch, (lowest - bar.top) / inch});

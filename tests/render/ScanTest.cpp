@@ -183,8 +183,8 @@ EncoderSettings SetPreferences(const Turn& turn) {
     preferences.code39CheckMode = static_cast<uint16>(settings.code39CheckMode);
     preferences.code39UseAsterisk = turn.Of(2) == 0;
     preferences.i2of5CheckDigit = settings.hasInterleaved2of5CheckDigit;
-    preferences.codabarStart = static_cast<uint16>(settings.codabarStart);
-    preferences.codabarStop = static_cast<uint16>(settings.codabarStop);
+    preferences.codabarStart = static_cast<uint8>(settings.codabarStart);
+    preferences.codabarStop = static_cast<uint8>(settings.codabarStop);
     return settings;
 }
 
