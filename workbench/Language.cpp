@@ -17,19 +17,28 @@ struct Language {
 
 constexpr std::array kLanguages{
     Language{"enUS",
-             {"&File", "&Quit", "L&anguage", "Turn data into text for a barcode font.",
-              "The plug-in could not be started"}},
+             {"&File", "&Quit", "L&anguage", "The plug-in could not be started",
+              "Barcode &type:", "&Data:", "Add chec&k digit", "Wide-to-narrow &ratio:", "Barcode",
+              "&Zoom:", "&Copy Font Text", "&Export…", "Scans", "Scans as %1", "Does not scan",
+              "No scanner for this type", "%1 could not be written."}},
     Language{"deDE",
-             {"&Datei", "&Beenden", "&Sprache", "Aus Daten wird Text für eine Barcode-Schrift.",
-              "Das Zusatzmodul konnte nicht gestartet werden"}},
+             {"&Datei", "&Beenden", "&Sprache", "Das Zusatzmodul konnte nicht gestartet werden",
+              "Barcode&typ:", "D&aten:", "&Prüfziffer hinzufügen",
+              "Verhältnis &breit zu schmal:", "Barcode", "&Zoom:", "Text &kopieren",
+              "&Exportieren…", "Lesbar", "Lesbar als %1", "Nicht lesbar",
+              "Kein Scanner für diesen Typ", "%1 konnte nicht geschrieben werden."}},
     Language{"frFR",
-             {"&Fichier", "&Quitter", "L&angue",
-              "Transformez des données en texte pour une police de codes-barres.",
-              "Le module n’a pas pu démarrer"}},
-    Language{
-        "jaJP",
-        {"ファイル(&F)", "終了(&Q)", "言語(&A)",
-         "データをバーコードフォント用の文字列に変換します。", "プラグインを起動できませんでした"}},
+             {"&Fichier", "&Quitter", "L&angue", "Le module n’a pas pu démarrer",
+              "&Type de code-barres :", "&Données :", "Ajouter la &clé de contrôle",
+              "Rapport &large/étroit :", "Code-barres", "&Zoom :", "Co&pier le texte", "&Exporter…",
+              "Lisible", "Lu comme %1", "Illisible", "Pas de lecteur pour ce type",
+              "%1 n’a pas pu être écrit."}},
+    Language{"jaJP",
+             {"ファイル(&F)", "終了(&Q)", "言語(&A)", "プラグインを起動できませんでした",
+              "バーコードの種類(&T):", "データ(&D):", "チェックデジットを付加(&K)",
+              "太細比(&R):", "バーコード", "ズーム(&Z):", "テキストをコピー(&C)", "書き出し(&E)…",
+              "読み取れます", "%1 と読み取られます", "読み取れません",
+              "この種類のスキャナはありません", "%1 を書き込めませんでした。"}},
 };
 
 QLocale QtLocale(const QString& locale) {
@@ -43,6 +52,10 @@ QString Say(Phrase phrase, const QString& locale) {
     for (const Language& candidate : kLanguages)
         if (locale == QLatin1String(candidate.locale)) language = &candidate;
     return QString::fromUtf8(language->phrases[static_cast<std::size_t>(phrase)]);
+}
+
+QString NumberText(double number, int decimals, const QString& locale) {
+    return QtLocale(locale).toString(number, 'f', decimals);
 }
 
 QString LanguageName(const QString& locale) {

@@ -5,10 +5,33 @@
 namespace linewright {
 
 /** What the window says of its own; the plug-in's words come from the plug-in. */
-enum class Phrase { kFileMenu, kQuit, kLanguageMenu, kWelcome, kNoPlugIn, kCount };
+enum class Phrase {
+    kFileMenu,
+    kQuit,
+    kLanguageMenu,
+    kNoPlugIn,
+    // The page
+    kPageType,
+    kPageData,
+    kPageCheckDigit,
+    kPageRatio,
+    kPageDrawing,
+    kPageZoom,
+    kPageCopy,
+    kPageExport,
+    kScans,
+    kScansAs,
+    kDoesNotScan,
+    kNoScanner,
+    kCannotWrite,
+    kCount,
+};
 
 /** The phrase in a locale such as "deDE"; in English where there is no translation. */
 QString Say(Phrase phrase, const QString& locale);
+
+/** A number as it is written in a locale. */
+QString NumberText(double number, int decimals, const QString& locale);
 
 /** A language in its own words: "Deutsch" for "deDE". */
 QString LanguageName(const QString& locale);

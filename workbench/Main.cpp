@@ -11,15 +11,17 @@ linewright::WorkbenchOptions ParseOptions(const QStringList& arguments) {
     const QCommandLineOption config("config-dir", "Folder that holds the preferences.", "DIR");
     const QCommandLineOption app("app-dir", "Folder of the application.", "DIR");
     const QCommandLineOption plugIn("plugin", "The plug-in's library.", "FILE");
+    const QCommandLineOption fonts("fonts", "Folder of the barcode fonts.", "DIR");
     QCommandLineParser parser;
     parser.setApplicationDescription("Turns data into text for barcode fonts, in a window.");
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({locale, config, app, plugIn});
+    parser.addOptions({locale, config, app, plugIn, fonts});
     parser.process(arguments);
     return {.plugIn = parser.value(plugIn),
             .roamingFolder = parser.value(config),
             .appFolder = parser.value(app),
+            .fonts = parser.value(fonts),
             .locale = parser.value(locale),
             .beep = {}};
 }

@@ -4,10 +4,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMenuBar>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 #include "LocaleSetting.h"
 #include "host/runtime/Host.h"
@@ -32,22 +29,25 @@ QString RunningLocale() {
 
 MainWindow::MainWindow(QSettings& settings, std::function<void(const QString&)> chooseLanguage)
     : fSettings(settings), fChooseLanguage(std::move(chooseLanguage)) {
-    constexpr QSize kFirstSize(720, 460);
+    constexpr QSize kFirstSize(760, 520);
     setWindowTitle(QStringLiteral("Linewright"));
     resize(kFirstSize);
     restoreGeometry(fSettings.value(kGeometryKey).toByteArray());
 }
 
-void MainWindow::ShowPlugIn() {
+void MainWindow::ShowPlugIn(Service& service, const QString& fonts) {
     const QString locale = RunningLocale();
     AddFileMenu(locale);
     AddPlugInMenus();
     AddLanguageMenu(locale);
-    setCentralWidget(MakePage(locale));
+    fPage = new BarcodePage(service, fSettings, fonts.toStdString(), locale);
+    setCentralWidget(fPage);
+    fPage->setFocus();
 }
 
 void MainWindow::HidePlugIn() {
     for (QMenu* const menu : menuBar()->findChildren<QMenu*>()) delete menu;
+    fPage = nullptr;
     delete takeCentralWidget();
 }
 
@@ -55,6 +55,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     fSettings.setValue(kGeometryKey, saveGeometry());
     event->accept();
     QApplication::quit();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // Back from a dialog that may have changed the preferences.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && fPage) fPage->Refresh();
 }
 
 void MainWindow::AddFileMenu(const QString& locale) {
@@ -92,37 +98,6 @@ void MainWindow::AddLanguageMenu(const QString& locale) {
         group, &QActionGroup::triggered, this,
         [this](QAction* action) { fChooseLanguage(action->data().toString()); },
         Qt::QueuedConnection);
-}
-
-QWidget* MainWindow::MakePage(const QString& locale) {
-    auto* const page = new QWidget;
-    auto* const column = new QVBoxLayout(page);
-    auto* const title = new QLabel(QStringLiteral("Linewright"));
-    QFont font = title->font();
-    font.setPointSizeF(2 * font.pointSizeF());
-    title->setFont(font);
-    auto* const text = new QLabel(Say(Phrase::kWelcome, locale));
-    column->addStretch();
-    column->addWidget(title, 0, Qt::AlignHCenter);
-    column->addWidget(text, 0, Qt::AlignHCenter);
-    column->addSpacing(2 * column->spacing());
-    auto* const buttons = new QVBoxLayout;
-    for (int32 i = 0; i < host::CountMenuItems(); ++i) {
-        const host::MenuItem item = host::GetMenuItem(i);
-        auto* const button = new QPushButton(TextFromHost(item.text));
-        button->setMinimumHeight(2 * button->fontMetrics().height());
-        button->setMinimumWidth(2 * button->sizeHint().width());
-        connect(button, &QPushButton::clicked, this,
-                [action = item.action] { host::DoAction(action); });
-        buttons->addWidget(button);
-    }
-    auto* const row = new QHBoxLayout;
-    row->addStretch();
-    row->addLayout(buttons);
-    row->addStretch();
-    column->addLayout(row);
-    column->addStretch();
-    return page;
 }
 
 }  // namespace linewright

@@ -4,6 +4,8 @@
 #include <QSettings>
 #include <functional>
 
+#include "workbench/BarcodePage.h"
+
 namespace linewright {
 
 /** The window: the menus of the plug-in among its own, and a page. */
@@ -13,21 +15,23 @@ class MainWindow final : public QMainWindow {
      *  the user picks. */
     MainWindow(QSettings& settings, std::function<void(const QString&)> chooseLanguage);
 
-    /** Shows the menus of the plug-in that runs now, in its locale. */
-    void ShowPlugIn();
+    /** Shows the menus of the plug-in that runs now, in its locale, and the page that uses it.
+     *  `fonts` is the folder of the barcode fonts. */
+    void ShowPlugIn(Service& service, const QString& fonts);
     void HidePlugIn();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void AddFileMenu(const QString& locale);
     void AddPlugInMenus();
     void AddLanguageMenu(const QString& locale);
-    QWidget* MakePage(const QString& locale);
 
     QSettings& fSettings;
     std::function<void(const QString&)> fChooseLanguage;
+    BarcodePage* fPage = nullptr;
 };
 
 }  // namespace linewright

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QStandardPaths>
 
+#include "cli/Failure.h"
 #include "workbench/Language.h"
 
 namespace linewright {
@@ -25,10 +26,16 @@ QString DefaultPlugIn() {
                            QStringLiteral("/../lib/linewright/" LINEWRIGHT_PLUGIN_FILE));
 }
 
+QString DefaultFonts() {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../share/linewright/fonts"));
+}
+
 WorkbenchOptions Completed(WorkbenchOptions options) {
     if (options.plugIn.isEmpty()) options.plugIn = DefaultPlugIn();
     if (options.roamingFolder.isEmpty()) options.roamingFolder = DefaultRoamingFolder();
     if (options.appFolder.isEmpty()) options.appFolder = QCoreApplication::applicationDirPath();
+    if (options.fonts.isEmpty()) options.fonts = DefaultFonts();
     if (!options.beep) options.beep = [] { QApplication::beep(); };
     return options;
 }
@@ -62,25 +69,24 @@ void Workbench::SwitchLanguage(const QString& locale) {
     }
 }
 
-bool Workbench::StartHost(const QString& locale) {
-    const QByteArray plugIn = fOptions.plugIn.toUtf8();
-    const QByteArray roamingFolder = fOptions.roamingFolder.toUtf8();
-    const QByteArray appFolder = fOptions.appFolder.toUtf8();
-    const QByteArray name = locale.toUtf8();
-    const host::Settings settings{.plugin = plugIn.constData(),
-                                  .roamingFolder = roamingFolder.constData(),
-                                  .appFolder = appFolder.constData(),
-                                  .locale = name.isEmpty() ? nullptr : name.constData(),
-                                  .frontEnd = &fFrontEnd};
+bool Workbench::StartHost(const QString& locale) try {
     TranslateQt(locale);
-    if (!fHost.Start(settings)) return false;
-    fWindow.ShowPlugIn();
+    fService.emplace(HostOptions{.plugin = fOptions.plugIn.toStdString(),
+                                 .roamingFolder = fOptions.roamingFolder.toStdString(),
+                                 .appFolder = fOptions.appFolder.toStdString(),
+                                 .locale = locale.toStdString(),
+                                 .frontEnd = &fFrontEnd});
+    fWindow.ShowPlugIn(*fService, fOptions.fonts);
     return true;
+} catch (const Failure& failure) {
+    fError = QString::fromUtf8(failure.what());
+    return false;
 }
 
 void Workbench::StopHost() {
     fWindow.HidePlugIn();
-    fHost.Stop();
+    if (fService) fService->Stop();
+    fService.reset();
 }
 
 }  // namespace linewright

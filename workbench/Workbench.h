@@ -3,8 +3,9 @@
 #include <QSettings>
 #include <QString>
 #include <functional>
+#include <optional>
 
-#include "host/runtime/Host.h"
+#include "cli/Service.h"
 #include "workbench/MainWindow.h"
 #include "workbench/WindowFrontEnd.h"
 
@@ -15,6 +16,7 @@ struct WorkbenchOptions {
     QString plugIn;         // the library
     QString roamingFolder;  // of the host; the program's own settings lie in it too
     QString appFolder;
+    QString fonts;   // the folder of the barcode fonts
     QString locale;  // rather than the one used last, or else the user's
     std::function<void()> beep;
 };
@@ -30,7 +32,7 @@ class Workbench final {
     /** Starts the host and fills the window. False when the plug-in cannot be started; Error()
      *  says why. */
     bool Start();
-    QString Error() const { return QString::fromUtf8(fHost.Error()); }
+    QString Error() const { return fError; }
     MainWindow& Window() { return fWindow; }
 
     /** Starts the host anew with another language, which is remembered. Dialogs that are open are
@@ -45,7 +47,8 @@ class Workbench final {
     QSettings fSettings;
     MainWindow fWindow;
     WindowFrontEnd fFrontEnd;
-    host::Host fHost;
+    std::optional<Service> fService;
+    QString fError;
 };
 
 }  // namespace linewright

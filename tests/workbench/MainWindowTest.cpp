@@ -73,6 +73,7 @@ TEST_F(MainWindowTest, SaysWhyThePlugInDoesNotStart) {
     Workbench broken({.plugIn = folder.filePath("missing.so"),
                       .roamingFolder = folder.path(),
                       .appFolder = folder.path(),
+                      .fonts = {},
                       .locale = "enUS",
                       .beep = {}});
     EXPECT_FALSE(broken.Start());

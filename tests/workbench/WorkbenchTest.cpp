@@ -32,6 +32,7 @@ void WorkbenchTest::Start(const QString& locale) {
     workbench.emplace(WorkbenchOptions{.plugIn = QStringLiteral(LINEWRIGHT_PLUGIN),
                                        .roamingFolder = folder.path(),
                                        .appFolder = folder.path(),
+                                       .fonts = QStringLiteral(LINEWRIGHT_FONTS),
                                        .locale = locale,
                                        .beep = [this] { ++beeps; }});
     ASSERT_TRUE(workbench->Start()) << qUtf8Printable(workbench->Error());

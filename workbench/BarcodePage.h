@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QSlider>
+#include <QWidget>
+#include <string>
+#include <vector>
+
+#include "cli/Service.h"
+#include "workbench/BarcodeView.h"
+#include "workbench/Language.h"
+
+namespace linewright {
+
+struct DrawnBarcode;
+
+/** The page of the window: data goes in, a barcode is drawn while it is typed, and can be taken
+ *  along as text for its font or as a file. */
+class BarcodePage final : public QWidget {
+  public:
+    /** Service and settings outlive it; the settings keep type and data. `fonts` is the folder of
+     *  the barcode fonts, UTF-8. */
+    BarcodePage(Service& service, QSettings& settings, std::string fonts, const QString& locale);
+
+    /** Makes the barcode anew, since the preferences may be others. */
+    void Refresh();
+    /** Writes the drawing; the ending of the name says how. False when that does not work. */
+    bool Export(const QString& file) const;
+
+  private:
+    void MakeFields();
+    void MakeActions();
+    void Arrange();
+    void Connect();
+    void Restore();
+
+    void ChangeType();
+    void Show(DrawnBarcode& drawn);
+    void ShowMessage(const QString& text, bool isRefusal);
+    void ShowBadge(const DrawnBarcode& drawn);
+    void AskForExport();
+    QString Words(Phrase phrase) const { return Say(phrase, fLocale); }
+
+    Service& fService;
+    QSettings& fSettings;
+    std::string fFonts;
+    QString fLocale;
+    std::vector<TypeDescription> fTypes;
+
+    QComboBox* fType;
+    QLineEdit* fData;
+    QCheckBox* fCheckDigit;
+    QComboBox* fRatio;
+    QLabel* fMessage;
+    BarcodeView* fView;
+    QLabel* fFont;
+    QLabel* fBadge;
+    QSlider* fZoom;
+    QPushButton* fCopy;
+    QPushButton* fExport;
+    QString fFontText;
+};
+
+}  // namespace linewright
