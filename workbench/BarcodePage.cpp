@@ -94,6 +94,7 @@ void BarcodePage::MakeFields() {
 void BarcodePage::MakeActions() {
     constexpr int kLargestZoom = 8;
     fView = new BarcodeView(this);
+    fView->setObjectName(QStringLiteral("drawing"));
     fFont = new QLabel(this);
     fFont->setObjectName(QStringLiteral("font"));
     fFont->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -31,7 +31,7 @@ class BarcodePage final : public QWidget {
     /** Makes the barcode anew, since the preferences may be others. */
     void Refresh();
     /** Writes the drawing; the ending of the name says how. False when that does not work. */
-    bool Export(const QString& file) const;
+    bool Export(const QString& name) const;
 
   private:
     void MakeFields();
