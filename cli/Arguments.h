@@ -6,6 +6,7 @@
 
 #include "cli/BatchCommand.h"
 #include "cli/Console.h"
+#include "cli/DialogCommand.h"
 #include "cli/DrawCommand.h"
 #include "cli/EncodeCommand.h"
 #include "cli/Service.h"
@@ -21,6 +22,7 @@ struct Arguments {
         kBatch,
         kPrefs,
         kPrefsSet,
+        kDialog,
         kDraw,
         kVerify,
         kProof,
@@ -35,6 +37,7 @@ struct Arguments {
     BatchFiles batchFiles;
     BatchOptions batch;
     std::vector<std::string> assignments;
+    DialogOptions dialog;
     DrawOptions draw;
     /** The folder of the fonts' files; where it is not stated it is found from the program. */
     std::string fonts;

@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "cli/Arguments.h"
+#include "cli/DialogCommand.h"
 #include "cli/Failure.h"
 #include "cli/FontsCommand.h"
 #include "cli/PrefsCommand.h"
@@ -33,7 +34,8 @@ std::string PlugInBeside(const std::filesystem::path& programFolder) {
     return Utf8FromPath(path.lexically_normal());
 }
 
-ExitStatus RunOne(Service& service, const Arguments& arguments, Console& console) {
+ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments,
+                  Console& console) {
     switch (arguments.command) {
         case Arguments::Command::kTypes: return RunTypes(service, arguments.isTypesJson, console);
         case Arguments::Command::kEncode: return RunEncode(service, arguments.encode, console);
@@ -49,6 +51,7 @@ ExitStatus RunOne(Service& service, const Arguments& arguments, Console& console
                             console);
         case Arguments::Command::kFontsList: return RunFontsList(arguments.fonts, console);
         case Arguments::Command::kFontsInstall: return RunFontsInstall(arguments.fonts, console);
+        case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }
     return kTrouble;
 }
@@ -68,8 +71,10 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
     arguments->draw.drawing.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
+    DialogUser user;
+    if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
-    exitStatus = RunOne(service, *arguments, console);
+    exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
     if (!console.out.flush()) throw Failure("standard output could not be written to its end");
     return exitStatus;

@@ -27,7 +27,7 @@ Service::Service(const HostOptions& options) {
         .roamingFolder = TextOrDefault(options.roamingFolder),
         .appFolder = TextOrDefault(options.appFolder),
         .locale = TextOrDefault(options.locale),
-        .frontEnd = nullptr,
+        .frontEnd = options.frontEnd,
     };
     if (!host.Start(settings)) throw Failure(host.Error());
     plugIn.emplace(

@@ -17,6 +17,8 @@ struct HostOptions {
     std::string roamingFolder;
     std::string appFolder;
     std::string locale;
+    /** Who shows alerts and dialogs; nullptr for the console. Outlives the host. */
+    host::FrontEnd* frontEnd = nullptr;
 };
 
 /** One encode request, as the plug-in gets it. */

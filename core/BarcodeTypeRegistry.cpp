@@ -72,6 +72,12 @@ int32 LookupTypeByName(const PString& name) {
     return -1;
 }
 
+const BarcodeTypeEntry* FindTypeByDisplayText(const PMString& text) {
+    for (const BarcodeTypeEntry& entry : registry)
+        if (entry.displayText == text) return &entry;
+    return nullptr;
+}
+
 int32 DisplayTextForCode(uint16 code, PMString& out) {
     for (const BarcodeTypeEntry& entry : registry) {
         if (entry.code != code) continue;

@@ -32,6 +32,10 @@ void BuildTypeRegistry();
  *  empty entry does; -1 when none does. 0 and below mean an unknown type. */
 int32 LookupTypeByName(const PString& name);
 
+/** The first of all entries with this display text, an empty one for an empty text; nullptr when
+ *  there is none. */
+const BarcodeTypeEntry* FindTypeByDisplayText(const PMString& text);
+
 /** Sets `out` to the display text of the first entry with this code and returns 0, or clears it and
  *  returns 1. */
 int32 DisplayTextForCode(uint16 code, PMString& out);

@@ -51,11 +51,8 @@ int32 CurrentType(const LinewrightRequestParams& params) {
 int32 TypeNameForDisplayText(const LinewrightRequestParams& params) {
     if (params.slot2) HostString(params.slot2)->Clear();
     if (!params.slot1 || !params.slot2) return 0;
-    for (const BarcodeTypeEntry& entry : registry) {
-        if (!(*HostString(params.slot1) == entry.displayText)) continue;
-        HostString(params.slot2)->SetString(entry.name.text, entry.name.length);
-        break;
-    }
+    if (const BarcodeTypeEntry* const entry = FindTypeByDisplayText(*HostString(params.slot1)))
+        HostString(params.slot2)->SetString(entry->name.text, entry->name.length);
     return 0;
 }
 

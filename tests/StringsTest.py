@@ -7,7 +7,9 @@ import tomllib
 import unittest
 from pathlib import Path
 
-STRINGS = Path(__file__).resolve().parent.parent / "plugin" / "resources" / "strings"
+ROOT = Path(__file__).resolve().parent.parent
+ROOMS = ["core", "classic", "current", "imb", "plugin"]
+STRINGS = ROOT / "plugin" / "resources" / "strings"
 PREFIX = "0x122100kLWR"
 
 # What the program fills in; every other text stands as it is.
@@ -89,6 +91,13 @@ class StringsTest(unittest.TestCase):
             for key in tomllib.loads(path.read_text("utf-8")):
                 with self.subTest(locale=path.stem, key=key):
                     self.assertRegex(key, f"^{PREFIX}[A-Za-z0-9]+$")
+
+    def test_the_keys_are_those_that_code_and_resources_ask_for(self):
+        sources = [path for room in ROOMS for path in (ROOT / room).rglob("*")
+                   if path.suffix in (".cpp", ".h", ".toml") and STRINGS not in path.parents]
+        used = {key for path in sources
+                for key in re.findall(f'"{PREFIX}([A-Za-z0-9]+)"', path.read_text("utf-8"))}
+        self.assertEqual(sorted(used), sorted(self.american))
 
     def test_markers_are_those_that_are_filled(self):
         def test(_, table, key):

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "host/runtime/Host.h"
+#include "host/runtime/ShownDialog.h"
 
 namespace linewright {
 
@@ -34,6 +36,12 @@ class TestHost {
             alerts.push_back({kind, text});
         }
         void Beep() override { ++beeps; }
+
+        /** What a user does to a dialog that opens; a modal one closes after it. */
+        std::function<void(host::ShownDialog&)> useDialog;
+        void ShowDialog(host::ShownDialog& dialog) override {
+            if (useDialog) useDialog(dialog);
+        }
     } recorder;
 
   private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,12 @@ struct BossClass {
     ClassID id = 0;
     bool isPersistent = false;
     std::vector<Binding> bindings;
+
+    bool Has(PMIID interfaceID) const {
+        return std::any_of(bindings.begin(), bindings.end(), [interfaceID](const Binding& binding) {
+            return binding.interfaceID == interfaceID;
+        });
+    }
 };
 
 }  // namespace host

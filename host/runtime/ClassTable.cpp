@@ -6,6 +6,7 @@
 #include <set>
 #include <stdexcept>
 
+#include "host/runtime/Dialog.h"
 #include "host/runtime/Platform.h"
 #include "host/runtime/ResourceFile.h"
 
@@ -76,14 +77,23 @@ bool ReadIsPersistent(const ResourceFile& file, const toml::table& table) {
     return *value;
 }
 
+/** What a class has from the host's class that it is based on; nothing where it names none. */
+std::vector<Binding> ReadBase(const ResourceFile& file, const toml::table& table) {
+    if (!table.contains("base")) return {};
+    const std::string name = file.GetText(table, "base");
+    if (name != kDialogClass.name) file.Fail(file.Get(table, "base"), "no such class of the host");
+    return kDialogClass.bindings;
+}
+
 BossClass ReadClass(const ResourceFile& file, const toml::table& table,
                     Registrations& registrations) {
-    file.ExpectOnly(table, {"name", "class", "persistent", "interfaces"});
+    file.ExpectOnly(table, {"name", "class", "base", "persistent", "interfaces"});
     BossClass result{.name = file.GetText(table, "name"),
                      .id = file.GetID(table, "class"),
                      .isPersistent = ReadIsPersistent(file, table),
-                     .bindings = {}};
+                     .bindings = ReadBase(file, table)};
     std::set<PMIID> interfaces;
+    for (const Binding& binding : result.bindings) interfaces.insert(binding.interfaceID);
     for (const toml::table* element : file.GetTables(table, "interfaces")) {
         const Binding binding = ReadBinding(file, *element, registrations);
         if (!interfaces.insert(binding.interfaceID).second) {
@@ -105,8 +115,10 @@ ClassTable::ClassTable(const fs::path& resources, const PlugIn& plugIn) {
     Registrations registrations(plugIn);
     for (const fs::path& path : files) {
         const ResourceFile file(path);
-        file.ExpectOnly(file.Root(), {"plugin", "boss"});
+        file.ExpectOnly(file.Root(), {"plugin", "boss", "dialog", "menu"});
         file.GetID(file.Root(), "plugin");
+        const bool showsOnly = file.Root().contains("dialog") || file.Root().contains("menu");
+        if (showsOnly && !file.Root().contains("boss")) continue;
         for (const toml::table* table : file.GetTables(file.Root(), "boss")) {
             BossClass next = ReadClass(file, *table, registrations);
             if (const BossClass* const first = Find(next.id)) {
@@ -128,9 +140,7 @@ const BossClass* ClassTable::Find(ClassID id) const {
 std::vector<const BossClass*> ClassTable::WithInterface(PMIID interfaceID) const {
     std::vector<const BossClass*> result;
     for (const BossClass& boss : fClasses) {
-        if (std::any_of(boss.bindings.begin(), boss.bindings.end(),
-                        [&](const Binding& binding) { return binding.interfaceID == interfaceID; }))
-            result.push_back(&boss);
+        if (boss.Has(interfaceID)) result.push_back(&boss);
     }
     return result;
 }

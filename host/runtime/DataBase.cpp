@@ -17,8 +17,15 @@ void DataBase::BeginTransaction() noexcept {
 void DataBase::EndTransaction() noexcept {
     if (!fInTransaction && kChecksRules) Halt("a transaction is ended that was not begun");
     fInTransaction = false;
+    if (fDirty.empty()) return;
     for (Boss* boss : fDirty) boss->Store();
     Close();
+    if (!fFile.empty()) WriteRecords(fFile, fRecords);
+}
+
+void DataBase::UseFile(const std::filesystem::path& file) {
+    fRecords = ReadRecords(file);
+    fFile = file;
 }
 
 Boss* DataBase::Open(const BossClass& bossClass) {

@@ -1,23 +1,20 @@
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <utility>
 #include <vector>
 
 #include "IDataBase.h"
-#include "host/runtime/BossClass.h"
-#include "host/runtime/MemoryStream.h"
+#include "host/runtime/DataBaseFile.h"
 
 namespace host {
 
 class Boss;
 
-/** What a stored record belongs to. */
-using StorageKey = std::pair<ClassID, ImplementationID>;
-
 /** The application's database: one object of each persistent class, kept as the bytes that its
- *  implementations wrote at the end of the last transaction that changed it. The bytes live as
- *  long as the host runs. */
+ *  implementations wrote at the end of the last transaction that changed it. Its file is written
+ *  then; without one, or when it cannot be written, the bytes live as long as the host runs. */
 class DataBase final : public IDataBase {
   public:
     DataBase() = default;
@@ -26,6 +23,10 @@ class DataBase final : public IDataBase {
 
     void BeginTransaction() noexcept override;
     void EndTransaction() noexcept override;
+
+    /** Takes the records of a file over, and keeps them there from now on. Throws
+     *  std::runtime_error for a file that is damaged or cannot be read. */
+    void UseFile(const std::filesystem::path& file);
 
     /** The object of a persistent class, with a reference for the caller. */
     Boss* Open(const BossClass& bossClass);
@@ -41,7 +42,8 @@ class DataBase final : public IDataBase {
     void Put(StorageKey key, Bytes bytes) { fRecords[key] = std::move(bytes); }
 
   private:
-    std::map<StorageKey, Bytes> fRecords;
+    std::filesystem::path fFile;
+    Records fRecords;
     std::map<ClassID, Boss*> fObjects;
     std::vector<Boss*> fDirty;
     bool fInTransaction = false;

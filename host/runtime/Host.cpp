@@ -53,6 +53,16 @@ const char* Host::Error() const {
     return fState->error.c_str();
 }
 
+int32 CountLocales() {
+    const Running* const running = GetRunning();
+    return running ? static_cast<int32>(running->locales.size()) : 0;
+}
+
+const char* GetLocaleName(int32 locale) {
+    if (locale < 0 || locale >= CountLocales()) return nullptr;
+    return GetRunning()->locales[static_cast<std::size_t>(locale)].c_str();
+}
+
 bool ChecksRules() {
     return kChecksRules;
 }

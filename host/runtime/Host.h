@@ -52,6 +52,11 @@ class PUBLIC_DECL Host {
     State* fState;
 };
 
+/** The locales of the running plug-in by their PMLocaleId: 0 to CountLocales() - 1. A name, such as
+ *  "enUS", is one for Settings; nullptr where there is none. */
+PUBLIC_DECL int32 CountLocales();
+PUBLIC_DECL const char* GetLocaleName(int32 locale);
+
 /** Whether this host halts the process, with a word on standard error, where a plug-in breaks a
  *  rule (a double free, a change outside a transaction); debug builds do. Others carry on. */
 PUBLIC_DECL bool ChecksRules();

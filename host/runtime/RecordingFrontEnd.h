@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,14 @@ class RecordingFrontEnd final : public FrontEnd {
 
     void ShowAlert(AlertKind kind, const char* text) override { alerts.push_back({kind, text}); }
     void Beep() override { ++beeps; }
+    void ShowDialog(ShownDialog& dialog) override {
+        if (opened) opened(dialog);
+    }
 
     std::vector<Alert> alerts;
     int beeps = 0;
+    /** What is done to a dialog that opens. */
+    std::function<void(ShownDialog&)> opened;
 };
 
 }  // namespace host

@@ -1,10 +1,12 @@
 #include "host/runtime/ResourceFile.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <limits>
 #include <stdexcept>
 
 #include "host/runtime/Platform.h"
+#include "host/runtime/Utf8.h"
 
 namespace fs = std::filesystem;
 
@@ -26,6 +28,25 @@ std::string ReadWhole(const fs::path& path) {
     return content;
 }
 
+/** Writes characters above 127 as escapes, which basic strings, the only ones used here, take for
+ *  the same: toml++ 3.3 runs into undefined behaviour where such a letter begins a continued line.
+ *  What is not UTF-8 stays, for the parser to refuse. */
+std::string Escaped(const std::string& utf8) {
+    const std::u32string text = FromUtf8(utf8);
+    if (ToUtf8(std::u32string_view(text)) != utf8) return utf8;
+    std::string result;
+    for (const char32_t c : text) {
+        if (c < 0x80) {
+            result += static_cast<char>(c);
+            continue;
+        }
+        char escape[16];
+        std::snprintf(escape, sizeof escape, "\\U%08X", static_cast<unsigned>(c));
+        result += escape;
+    }
+    return result;
+}
+
 std::runtime_error ErrorAt(const std::string& file, const toml::source_region& where,
                            const std::string& what) {
     return std::runtime_error(file + ", line " + std::to_string(where.begin.line) + ": " + what);
@@ -45,7 +66,7 @@ std::vector<fs::path> TomlFilesIn(const fs::path& folder) {
 
 ResourceFile::ResourceFile(const fs::path& path) : fName(ToUtf8(path)) {
     try {
-        fRoot = toml::parse(ReadWhole(path), fName);
+        fRoot = toml::parse(Escaped(ReadWhole(path)), fName);
     } catch (const toml::parse_error& error) {
         throw ErrorAt(fName, error.source(), std::string(error.description()));
     }

@@ -7,6 +7,7 @@
 
 #include "CreateObject.h"
 #include "FileUtils.h"
+#include "host/runtime/Dialog.h"
 #include "host/runtime/Faults.h"
 #include "host/runtime/Platform.h"
 #include "host/runtime/Session.h"
@@ -20,6 +21,7 @@ namespace {
 Running* current = nullptr;
 
 constexpr const char* kFolderName = "Linewright Host";
+constexpr const char* kDataBaseName = "Application Database";
 
 std::optional<fs::path> ChosenFolder(const char* setting) {
     if (!setting) return std::nullopt;
@@ -65,10 +67,12 @@ void Running::Start(const Settings& settings) {
     if (settings.frontEnd) frontEnd = settings.frontEnd;
     SetFolders(settings);
     SetLocale(resources, settings.locale);
+    if (roamingFolder) dataBase.UseFile(*roamingFolder / kDataBaseName);
     session = new Boss(kSessionClass);
     application = new Boss(kApplicationClass);
     library.Load(plugIn);
     classes = ClassTable(resources, FindPlugIn(library, plugIn));
+    views = ViewTable(resources, classes);
     RunServices();
 }
 
@@ -84,7 +88,7 @@ void Running::SetFolders(const Settings& settings) {
 }
 
 void Running::SetLocale(const fs::path& resources, const char* name) {
-    const std::vector<std::string> locales = ListLocales(resources);
+    locales = ListLocales(resources);
     const std::string_view wanted = name ? name : kDefaultLocale;
     const auto found = std::find(locales.begin(), locales.end(), wanted);
     if (found == locales.end()) {
@@ -109,6 +113,7 @@ void Running::RunServices() {
 }
 
 Leaks Running::Stop() {
+    while (!dialogs.empty()) Discard(dialogs.back());
     while (!services.empty()) {
         IStartupShutdownService* const last = services.back();
         services.pop_back();

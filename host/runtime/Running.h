@@ -15,6 +15,7 @@
 #include "host/runtime/Library.h"
 #include "host/runtime/Memory.h"
 #include "host/runtime/StringTable.h"
+#include "host/runtime/ViewTable.h"
 
 namespace host {
 
@@ -33,14 +34,17 @@ struct Running {
     bool showsAlerts = true;
     std::optional<std::filesystem::path> roamingFolder;
     std::optional<std::filesystem::path> appFolder;
+    std::vector<std::string> locales;
     PMLocaleId locale = 0;
     StringTable strings;
     Memory memory;
     DataBase dataBase;
     ClassTable classes;
+    ViewTable views;
     Library library;
     Boss* session = nullptr;
     Boss* application = nullptr;
+    std::vector<Boss*> dialogs;                      // those not closed, a reference each
     std::vector<IStartupShutdownService*> services;  // those started, in order
 
   private:

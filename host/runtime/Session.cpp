@@ -2,8 +2,9 @@
 
 #include "CPMUnknown.h"
 #include "IApplication.h"
-#include "IDialogMgr.h"
 #include "ISession.h"
+#include "host/runtime/Bind.h"
+#include "host/runtime/DialogManager.h"
 #include "host/runtime/MemoryService.h"
 #include "host/runtime/Running.h"
 
@@ -29,24 +30,6 @@ class Application final : public CPMUnknown<IApplication> {
         return static_cast<IDialogMgr*>(QueryInterface(IID_IDIALOGMGR));
     }
 };
-
-class DialogManager final : public CPMUnknown<IDialogMgr> {
-  public:
-    using CPMUnknown::CPMUnknown;
-
-    // No plug-in's resource definitions describe views, so there is never one to make.
-    IDialog* CreateNewDialog(const RsrcSpec&, IDialog::DialogType, bool16) noexcept override {
-        return nullptr;
-    }
-};
-
-/** Binds an implementation of the host's own, which needs no number. */
-template <class Implementation>
-Binding Bind() {
-    return {Implementation::kDefaultIID, 0,
-            [](IPMUnknown* boss) -> IPMUnknown* { return new Implementation(boss); },
-            [](IPMUnknown* object) { delete static_cast<Implementation*>(object); }, nullptr};
-}
 
 }  // namespace
 

@@ -92,11 +92,44 @@ TEST_F(BossTest, KeepsAChangedObjectUntilTheTransactionEnds) {
     EXPECT_EQ(Create<INote>(kNoteBoss)->Get(), 2);
 }
 
-TEST_F(BossTest, StartsWithAnEmptyDataBase) {
+TEST_F(BossTest, KeepsItsDataBaseInAFile) {
+    EXPECT_EQ(Create<INote>(kNoteBoss)->Get(), 0);
     Store(Create<INote>(kNoteBoss), 5);
     host.Stop();
     ASSERT_TRUE(Start());
-    EXPECT_EQ(Create<INote>(kNoteBoss)->Get(), 0);
+    EXPECT_EQ(Create<INote>(kNoteBoss)->Get(), 5);
+}
+
+TEST_F(BossTest, KeepsChangesOfARunWhoseDataBaseCannotBeWritten) {
+    Store(Create<INote>(kNoteBoss), 5);
+    host::Faults::FailIo(host::Faults::Io::kRename);
+    Store(Create<INote>(kNoteBoss), 6);
+    EXPECT_EQ(Create<INote>(kNoteBoss)->Get(), 6);
+    host::Faults::FailIo(host::Faults::Io::kNone);
+    host.Stop();
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(Create<INote>(kNoteBoss)->Get(), 5);
+}
+
+TEST_F(BossTest, RefusesADamagedDataBaseAndLeavesIt) {
+    Store(Create<INote>(kNoteBoss), 5);
+    host.Stop();
+    const std::filesystem::path file = std::filesystem::path(roamingText) / "Application Database";
+    const std::string content = ReadFile(file);
+    ASSERT_EQ(content, std::string("LWDB\x05\x90\x09\0\x03\x90\x09\0\4\0\0\0\5\0\0\0", 20));
+    for (const std::string& damaged :
+         {content.substr(0, 19), content.substr(0, 6), content.substr(0, 3), content + "x",
+          std::string("X") + content.substr(1), std::string(),
+          content.substr(0, 12) + "\xFF\xFF\xFF\xFF"
+                                  "5"}) {
+        WriteFile(file, damaged);
+        ASSERT_FALSE(Start());
+        EXPECT_NE(std::string(host.Error()).find("database is damaged"), std::string::npos);
+        EXPECT_EQ(ReadFile(file), damaged);
+    }
+    WriteFile(file, content);
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(Create<INote>(kNoteBoss)->Get(), 5);
 }
 
 TEST_F(BossTest, LetsGoOfChangesOfATransactionThatDoesNotEnd) {
