@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kNameColumn = 26;
 
-void AddHostOptions(CLI::App& app, HostOptions& host) {
+void AddHostOptions(CLI::App& app, HostOptions& host, std::string& fonts) {
     const auto add = [&app](const char* name, std::string& value, const char* kind,
                             const char* help) {
         app.add_option(name, value, help)->type_name(kind)->take_last();
@@ -20,6 +20,7 @@ void AddHostOptions(CLI::App& app, HostOptions& host) {
     add("--config-dir", host.roamingFolder, "DIR", "Folder that holds the preferences");
     add("--app-dir", host.appFolder, "DIR", "Folder of the application");
     add("--plugin", host.plugin, "FILE", "The plug-in's library");
+    add("--fonts", fonts, "DIR", "Folder of the barcode fonts");
 }
 
 void AddRatio(CLI::App& command, const CLI::callback_t& store) {
@@ -34,9 +35,8 @@ void AddTypes(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright types --json");
 }
 
-void AddEncode(CLI::App& app, Arguments& arguments) {
-    EncodeOptions& encode = arguments.encode;
-    CLI::App& command = *app.add_subcommand("encode", "Turn data into one font string");
+/** What all commands have that make one barcode. */
+void AddBarcode(CLI::App& command, EncodeOptions& encode) {
     command.add_option("TYPE", encode.type, "Name of the type, see linewright types")->required();
     command
         .add_option("DATA", encode.data,
@@ -49,6 +49,12 @@ void AddEncode(CLI::App& app, Arguments& arguments) {
     });
     command.add_flag("--bytes", encode.isBytes, "Send the data as it is, without conversion");
     command.add_flag("--strict", encode.isStrict, "Refuse what there is a warning about");
+}
+
+void AddEncode(CLI::App& app, Arguments& arguments) {
+    EncodeOptions& encode = arguments.encode;
+    CLI::App& command = *app.add_subcommand("encode", "Turn data into one font string");
+    AddBarcode(command, encode);
     const auto addForm = [&](const char* name, EncodeOptions::Form form, const char* help) {
         return command.add_flag_callback(
             name, [&encode, form] { encode.form = form; }, help);
@@ -81,15 +87,11 @@ char DelimiterOf(const std::string& text) {
     throw CLI::ValidationError("--delimiter", "is one character, comma, semicolon or tab");
 }
 
-void AddBatch(CLI::App& app, Arguments& arguments) {
+/** What all commands have that work on the rows of a file. */
+void AddRows(CLI::App& command, Arguments& arguments) {
     BatchOptions& batch = arguments.batch;
-    CLI::App& command = *app.add_subcommand("batch", "Turn the rows of a CSV file into barcodes");
     command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
         ->required();
-    command
-        .add_option("-o,--output", arguments.batchFiles.output,
-                    "CSV file to write; standard output unless stated")
-        ->type_name("OUT");
     command.add_option("--type", batch.type, "One type for all rows")->type_name("TYPE");
     command.add_option("--column", batch.dataColumn, "Column of the data; data unless stated")
         ->type_name("NAME");
@@ -108,6 +110,16 @@ void AddBatch(CLI::App& app, Arguments& arguments) {
             "Between fields; found from the header unless stated")
         ->type_name("C");
     command.add_flag("--strict", batch.isStrict, "Refuse rows that there is a warning about");
+}
+
+void AddBatch(CLI::App& app, Arguments& arguments) {
+    CLI::App& command = *app.add_subcommand("batch", "Turn the rows of a CSV file into barcodes");
+    AddRows(command, arguments);
+    command
+        .add_option("-o,--output", arguments.batchFiles.output,
+                    "CSV file to write; standard output unless stated")
+        ->type_name("OUT");
+    command.add_flag("--verify", arguments.batch.isVerified, "Add what scanners read of each");
     command.footer(
         "Columns read: type, data, check, ratio. Written: barcode, status, message, warning.\n"
         "Example:  linewright batch labels.csv -o barcodes.csv");
@@ -121,6 +133,83 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
         ->required();
     set.footer("Example:  linewright prefs set code39CheckMode=mod43 codabarStop=B");
     command.footer("Example:  linewright prefs set msiFirstCheck=mod10");
+}
+
+/** The options of these commands fill a screen: --help is not among those that it lists. */
+void AddDrawing(CLI::App& command, DrawingWish& wish) {
+    command.get_help_ptr()->group("");
+    const auto add = [&command](const char* name, std::optional<std::string>& value,
+                                const char* kind, const char* help) {
+        command.add_option(name, value, help)->type_name(kind);
+    };
+    add("--x-dimension", wish.xDimension, "LENGTH", "Narrowest bar: 0.33mm, 10mil, 0.7pt");
+    add("--height", wish.height, "LENGTH", "Bars: 15mm, or 50x of the narrowest bar");
+    add("--quiet-zone", wish.quietZone, "LENGTH", "White on both sides");
+    add("--bar-width-reduction", wish.barWidthReduction, "A",
+        "Narrower bars: by 10% of the narrowest, or 0.03mm");
+}
+
+void AddResolution(CLI::App& command, DrawOptions& draw) {
+    command.add_option("--dpi", draw.dotsPerInch, "Resolution of a picture, or:")
+        ->type_name("N")
+        ->check(CLI::Range(1, 100000).description(""));
+    command.add_option("--pixels-per-module", draw.pixelsPerModule, "The same by pixels")
+        ->type_name("N")
+        ->check(CLI::Range(1, 100).description(""));
+}
+
+void AddText(CLI::App& command, DrawingWish& wish) {
+    command.add_flag(
+        "--text,!--no-text", [&wish](std::int64_t count) { wish.isTextWanted = count > 0; },
+        "The data below the bars, or not");
+}
+
+void AddDraw(CLI::App& app, Arguments& arguments) {
+    DrawOptions& draw = arguments.draw;
+    CLI::App& command = *app.add_subcommand("draw", "Draw one barcode into a file (Linux)");
+    AddBarcode(command, draw.encode);
+    command.add_option("-o,--output", draw.output, ".pdf, .eps, .svg or .png")
+        ->type_name("F")
+        ->required();
+    AddDrawing(command, draw.drawing);
+    AddText(command, draw.drawing);
+    AddResolution(command, draw);
+    command.add_flag("--verify", draw.isVerified, "Say what scanners read of it");
+    command.footer("Example:  linewright draw ean13 4006381333931 -o pen.pdf --verify");
+}
+
+void AddVerify(CLI::App& app, Arguments& arguments) {
+    DrawOptions& draw = arguments.draw;
+    CLI::App& command =
+        *app.add_subcommand("verify", "Say what scanners read of a barcode (Linux)");
+    AddBarcode(command, draw.encode);
+    AddDrawing(command, draw.drawing);
+    AddResolution(command, draw);
+    command.footer("Example:  linewright verify code128 \"(10)AB-123(21)7\"");
+}
+
+void AddProof(CLI::App& app, Arguments& arguments) {
+    CLI::App& command =
+        *app.add_subcommand("proof", "Draw the rows of a CSV file on a sheet (Linux)");
+    AddRows(command, arguments);
+    command.add_option("-o,--output", arguments.batchFiles.output, "PDF file to write")
+        ->type_name("F")
+        ->required();
+    AddDrawing(command, arguments.draw.drawing);
+    AddText(command, arguments.draw.drawing);
+    command.add_flag("--verify", arguments.draw.isVerified,
+                     "Exit status 4 when one does not scan as it is meant");
+    command.footer("Example:  linewright proof labels.csv -o proof.pdf");
+}
+
+void AddFonts(CLI::App& app) {
+    CLI::App& command = *app.add_subcommand("fonts", "List or install the barcode fonts");
+    command.require_subcommand(1);
+    for (CLI::App* part : {command.add_subcommand("list", "Fonts, their sizes and types"),
+                           command.add_subcommand("install", "Install them for this user")}) {
+        part->fallthrough();
+    }
+    command.footer("Example:  linewright fonts install");
 }
 
 void AddDialog(CLI::App& app, Arguments& arguments) {
@@ -176,12 +265,17 @@ void AddDialog(CLI::App& app, Arguments& arguments) {
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
-        {"types", Command::kTypes}, {"encode", Command::kEncode}, {"stream", Command::kStream},
-        {"batch", Command::kBatch}, {"prefs", Command::kPrefs},   {"dialog", Command::kDialog},
+        {"types", Command::kTypes},          {"encode", Command::kEncode},
+        {"stream", Command::kStream},        {"batch", Command::kBatch},
+        {"prefs", Command::kPrefs},          {"prefs set", Command::kPrefsSet},
+        {"dialog", Command::kDialog},        {"draw", Command::kDraw},
+        {"verify", Command::kVerify},        {"proof", Command::kProof},
+        {"fonts list", Command::kFontsList}, {"fonts install", Command::kFontsInstall},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
-    if (!chosen.get_subcommands().empty()) return Command::kPrefsSet;
-    return commands.at(chosen.get_name());
+    const auto parts = chosen.get_subcommands();
+    const std::string part = parts.empty() ? "" : ' ' + parts.front()->get_name();
+    return commands.at(chosen.get_name() + part);
 }
 
 }  // namespace
@@ -194,17 +288,21 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     app.get_formatter()->column_width(kNameColumn);
     app.set_version_flag("--version", "linewright " LINEWRIGHT_VERSION, "Print the version");
     app.require_subcommand(1);
-    AddHostOptions(app, result->host);
+    AddHostOptions(app, result->host, result->fonts);
     AddTypes(app, *result);
     AddEncode(app, *result);
     AddStream(app);
     AddBatch(app, *result);
     AddPrefs(app, *result);
     AddDialog(app, *result);
+    AddDraw(app, *result);
+    AddVerify(app, *result);
+    AddProof(app, *result);
+    AddFonts(app);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
-        "Each command has its own --help. Options for the host may stand anywhere.\n"
-        "Example:  linewright encode ean13 4006381333931");
+        "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");
+    app.get_help_ptr()->group("");
 
     try {
         std::reverse(arguments.begin(), arguments.end());

@@ -7,6 +7,7 @@
 #include "cli/BatchCommand.h"
 #include "cli/Console.h"
 #include "cli/DialogCommand.h"
+#include "cli/DrawCommand.h"
 #include "cli/EncodeCommand.h"
 #include "cli/Service.h"
 
@@ -14,7 +15,20 @@ namespace linewright {
 
 /** What the command line asks for. */
 struct Arguments {
-    enum class Command { kTypes, kEncode, kStream, kBatch, kPrefs, kPrefsSet, kDialog };
+    enum class Command {
+        kTypes,
+        kEncode,
+        kStream,
+        kBatch,
+        kPrefs,
+        kPrefsSet,
+        kDialog,
+        kDraw,
+        kVerify,
+        kProof,
+        kFontsList,
+        kFontsInstall,
+    };
 
     Command command = Command::kTypes;
     HostOptions host;
@@ -24,6 +38,9 @@ struct Arguments {
     BatchOptions batch;
     std::vector<std::string> assignments;
     DialogOptions dialog;
+    DrawOptions draw;
+    /** The folder of the fonts' files; where it is not stated it is found from the program. */
+    std::string fonts;
 };
 
 /** Reads a command line (UTF-8, without the program's name). Answers --help, --version and mistakes

@@ -12,7 +12,11 @@ namespace linewright {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kResultColumns{"barcode", "status", "message", "warning"};
+std::vector<std::string> ResultColumns(const BatchOptions& options) {
+    std::vector<std::string> names{"barcode", "status", "message", "warning"};
+    if (options.isVerified) names.insert(names.end(), {"scan", "read"});
+    return names;
+}
 
 std::vector<std::string> ValuesOf(const CsvRecord& record) {
     std::vector<std::string> values;
@@ -82,19 +86,32 @@ double RatioOf(std::string_view cell) {
 
 }  // namespace
 
+EncodeRequest RowWish::Request() const {
+    return {
+        .typeName = type,
+        .data = data,
+        .isUtf8 = true,
+        .checkCharacter = checkCharacter,
+        .ratio = ratio,
+    };
+}
+
 BatchColumns::BatchColumns(const CsvRecord& header, const BatchOptions& wanted, char separator)
-    : options(wanted), delimiter(separator), width(header.fields.size()) {
+    : options(wanted),
+      delimiter(separator),
+      width(header.fields.size()),
+      resultColumns(ResultColumns(wanted)) {
     const std::vector<std::string> names = ValuesOf(header);
     if (!options.type) type = RequireColumn(names, "type", "--type names one type for all rows");
-    if (std::find(kResultColumns.begin(), kResultColumns.end(), options.dataColumn) !=
-        kResultColumns.end()) {
+    if (std::find(resultColumns.begin(), resultColumns.end(), options.dataColumn) !=
+        resultColumns.end()) {
         throw Failure(fmt::format("the column \"{}\" receives results and cannot hold the data",
                                   options.dataColumn));
     }
     data = RequireColumn(names, options.dataColumn, "--column names the one that holds the data");
     if (!options.isCheckWanted) check = FindColumn(names, "check");
     if (!options.ratio) ratio = FindColumn(names, "ratio");
-    std::transform(kResultColumns.begin(), kResultColumns.end(), replaced.begin(),
+    std::transform(resultColumns.begin(), resultColumns.end(), std::back_inserter(replaced),
                    [&names](std::string_view name) { return FindColumn(names, name); });
 }
 
@@ -116,17 +133,17 @@ RowWish BatchColumns::WishOf(const CsvRecord& row) const {
 }
 
 std::string BatchColumns::HeaderLine(const CsvRecord& header) const {
-    std::array<std::string, 4> names;
-    std::copy(kResultColumns.begin(), kResultColumns.end(), names.begin());
-    return Line(header, names);
+    return Line(header, resultColumns);
 }
 
 std::string BatchColumns::RowLine(const CsvRecord& row, const RowResult& result) const {
-    return Line(row, {result.barcode, result.status, result.message, result.warning});
+    std::vector<std::string> results{result.barcode, result.status, result.message, result.warning};
+    if (options.isVerified) results.insert(results.end(), {result.scan, result.read});
+    return Line(row, results);
 }
 
 std::string BatchColumns::Line(const CsvRecord& row,
-                               const std::array<std::string, 4>& results) const {
+                               const std::vector<std::string>& results) const {
     std::vector<std::string> fields(row.fields.begin(), row.fields.end());
     const auto end = fields.begin() + static_cast<std::ptrdiff_t>(std::min(width, fields.size()));
     const std::vector<std::string> surplus(end, fields.end());

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "cli/Csv.h"
+#include "cli/Service.h"
 
 namespace linewright {
 
@@ -21,6 +21,9 @@ struct BatchOptions {
     std::string dataColumn = "data";
     std::optional<char> delimiter;
     bool isStrict = false;
+    /** Draws each barcode with the fonts in `fonts` (a folder, UTF-8) and has it read. */
+    bool isVerified = false;
+    std::string fonts;
 };
 
 /** What one row asks for. */
@@ -29,6 +32,8 @@ struct RowWish {
     std::string data;
     std::uint8_t checkCharacter = 0;
     double ratio = 2.0;
+
+    EncodeRequest Request() const;
 };
 
 /** What is written for one row. */
@@ -37,6 +42,9 @@ struct RowResult {
     std::string status;
     std::string message;
     std::string warning;
+    /** What the scanners say and read, where they are asked. */
+    std::string scan;
+    std::string read;
 };
 
 /** The columns of a batch file: where the wishes stand and where the results go. */
@@ -55,7 +63,7 @@ class BatchColumns {
 
   private:
     std::string ValueAt(const CsvRecord& row, std::size_t column) const;
-    std::string Line(const CsvRecord& row, const std::array<std::string, 4>& results) const;
+    std::string Line(const CsvRecord& row, const std::vector<std::string>& results) const;
 
     const BatchOptions& options;
     char delimiter;
@@ -64,8 +72,9 @@ class BatchColumns {
     std::optional<std::size_t> data;
     std::optional<std::size_t> check;
     std::optional<std::size_t> ratio;
-    /** Where the file has the columns barcode, status, message and warning already. */
-    std::array<std::optional<std::size_t>, 4> replaced;
+    /** The columns of results, and where the file has them already. */
+    std::vector<std::string> resultColumns;
+    std::vector<std::optional<std::size_t>> replaced;
 };
 
 }  // namespace linewright

@@ -3,32 +3,17 @@
 #include <fmt/format.h>
 
 #include <chrono>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
 
+#include "cli/BatchFile.h"
 #include "cli/Encoding.h"
 #include "cli/Failure.h"
 #include "cli/FontText.h"
 #include "cli/OutputFile.h"
-#include "cli/ReadAll.h"
-#include "cli/Utf8.h"
+#include "cli/ScannedBarcode.h"
 
 namespace linewright {
 
 namespace {
-
-std::string ReadInput(const std::string& name, std::istream& standardInput) {
-    if (name == "-") return ReadAll(standardInput);
-    const std::filesystem::path path = PathFromUtf8(name);
-    std::error_code error;
-    std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path, error)) {
-        throw Failure(
-            fmt::format("{}: there is no such file, or it cannot be read", Readable(name)));
-    }
-    return ReadAll(file);
-}
 
 std::string Times(std::size_t count, std::string_view what) {
     return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
@@ -74,88 +59,59 @@ class Progress {
     bool isShown = false;
 };
 
-RowResult ResultOf(Service& service, const RowWish& wish, bool isStrict, Counts& counts) {
-    const EncodeRequest request{
-        .typeName = wish.type,
-        .data = wish.data,
-        .isUtf8 = true,
-        .checkCharacter = wish.checkCharacter,
-        .ratio = wish.ratio,
-    };
-    const BarcodeOutcome outcome = MakeBarcode(service, request, isStrict);
-    if (!outcome.isMade) {
+RowResult ResultOf(Service& service, const RowWish& wish, const BatchOptions& options,
+                   Counts& counts) {
+    const EncodeRequest request = wish.Request();
+    const ScannedBarcode made =
+        options.isVerified
+            ? EncodeAndScan(service, request, options.isStrict, options.fonts)
+            : ScannedBarcode{MakeBarcode(service, request, options.isStrict), "", ""};
+    if (!made.outcome.isMade) {
         ++counts.refused;
-    } else if (!outcome.warnings.empty()) {
+    } else if (!made.outcome.warnings.empty()) {
         ++counts.warned;
     }
     return {
-        .barcode = FontText(outcome.bytes),
-        .status = outcome.status ? std::to_string(*outcome.status) : "",
-        .message = outcome.message,
-        .warning = Joined(outcome.warnings),
+        .barcode = FontText(made.outcome.bytes),
+        .status = made.outcome.status ? std::to_string(*made.outcome.status) : "",
+        .message = made.outcome.message,
+        .warning = Joined(made.outcome.warnings),
+        .scan = made.scan,
+        .read = made.read,
     };
 }
 
-/** A file taken apart, and the work on it. */
-class BatchJob {
-  public:
-    BatchJob(std::string_view text, const BatchOptions& wanted)
-        : options(wanted),
-          delimiter(options.delimiter.value_or(DetectCsvDelimiter(text))),
-          file(ReadCsv(text, delimiter)),
-          columns(Header(), options, delimiter) {}
-
-    Counts Run(Service& service, std::ostream& out, Console& console) const {
-        Counts counts;
-        Progress progress(console, file.records.size());
-        out << file.byteOrderMark << columns.HeaderLine(file.records.front());
-        for (std::size_t i = 1; i < file.records.size(); ++i) {
-            const CsvRecord& row = file.records[i];
-            if (row.IsBlank()) {
-                out << row.ending;
-                continue;
-            }
-            ++counts.rows;
-            out << columns.RowLine(row, ResultOfRow(service, row, counts));
-            progress.Show(i, counts);
-        }
-        return counts;
-    }
-
-  private:
-    const CsvRecord& Header() const {
-        if (file.records.empty() || file.records.front().IsBlank()) {
-            throw Failure("there is no header row");
-        }
-        return file.records.front();
-    }
-
-    RowResult ResultOfRow(Service& service, const CsvRecord& row, Counts& counts) const {
-        RowWish wish;
-        try {
-            wish = columns.WishOf(row);
-        } catch (const Failure& failure) {
-            ++counts.refused;
-            return {.barcode = "", .status = "", .message = failure.what(), .warning = ""};
-        }
-        return ResultOf(service, wish, options.isStrict, counts);
-    }
-
-    const BatchOptions& options;
-    char delimiter;
-    CsvFile file;
-    BatchColumns columns;
-};
-
-BatchJob OpenJob(std::string_view text, const std::string& name, const BatchOptions& options) {
+RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
+                      const BatchOptions& options, Counts& counts) {
+    RowWish wish;
     try {
-        if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
-            throw Failure("the file is UTF-16; save it as CSV in UTF-8");
-        }
-        return BatchJob(text, options);
+        wish = batch.Columns().WishOf(row);
     } catch (const Failure& failure) {
-        throw Failure(fmt::format("{}: {}", Readable(name), failure.what()));
+        ++counts.refused;
+        RowResult result;
+        result.message = failure.what();
+        return result;
     }
+    return ResultOf(service, wish, options, counts);
+}
+
+Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options, std::ostream& out,
+           Console& console) {
+    Counts counts;
+    const CsvFile& file = batch.File();
+    Progress progress(console, file.records.size());
+    out << file.byteOrderMark << batch.Columns().HeaderLine(file.records.front());
+    for (std::size_t i = 1; i < file.records.size(); ++i) {
+        const CsvRecord& row = file.records[i];
+        if (row.IsBlank()) {
+            out << row.ending;
+            continue;
+        }
+        ++counts.rows;
+        out << batch.Columns().RowLine(row, ResultOfRow(service, batch, row, options, counts));
+        progress.Show(i, counts);
+    }
+    return counts;
 }
 
 }  // namespace
@@ -163,13 +119,13 @@ BatchJob OpenJob(std::string_view text, const std::string& name, const BatchOpti
 ExitStatus RunBatch(Service& service, const BatchFiles& files, const BatchOptions& options,
                     Console& console) {
     const std::string text = ReadInput(files.input, console.in);
-    const BatchJob job = OpenJob(text, files.input, options);
+    const BatchFile batch(text, files.input, options);
     Counts counts;
     if (files.output == "-") {
-        counts = job.Run(service, console.out, console);
+        counts = Run(service, batch, options, console.out, console);
     } else {
         OutputFile file(files.output);
-        counts = job.Run(service, file.Stream(), console);
+        counts = Run(service, batch, options, file.Stream(), console);
         file.Keep();
     }
     console.err << counts.Summary() << '\n';

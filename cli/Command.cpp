@@ -7,6 +7,7 @@
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
 #include "cli/Failure.h"
+#include "cli/FontsCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
@@ -21,6 +22,11 @@ constexpr bool kIsDebugBuild = false;
 #else
 constexpr bool kIsDebugBuild = true;
 #endif
+
+/** Where the build tree and an installation alike have the fonts. */
+std::string FontsBeside(const std::filesystem::path& programFolder) {
+    return Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
+}
 
 /** The plug-in's place in the build tree and in an installation alike. */
 std::string PlugInBeside(const std::filesystem::path& programFolder) {
@@ -38,6 +44,13 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
             return RunBatch(service, arguments.batchFiles, arguments.batch, console);
         case Arguments::Command::kPrefs: return RunPrefs(console);
         case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
+        case Arguments::Command::kDraw: return RunDraw(service, arguments.draw, console);
+        case Arguments::Command::kVerify: return RunVerify(service, arguments.draw, console);
+        case Arguments::Command::kProof:
+            return RunProof(service, arguments.batchFiles, arguments.batch, arguments.draw,
+                            console);
+        case Arguments::Command::kFontsList: return RunFontsList(arguments.fonts, console);
+        case Arguments::Command::kFontsInstall: return RunFontsInstall(arguments.fonts, console);
         case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }
     return kTrouble;
@@ -55,6 +68,9 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
     if (!arguments) return exitStatus;
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
+    if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
+    arguments->draw.drawing.fonts = arguments->fonts;
+    arguments->batch.fonts = arguments->fonts;
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);

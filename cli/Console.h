@@ -20,6 +20,8 @@ enum ExitStatus : int {
     /** A mistake in the command line, or a file, host or plug-in that does not work. */
     kTrouble = 2,
     kRowsRefused = 3,
+    /** A barcode does not scan as what is meant. */
+    kDoesNotScan = 4,
 };
 
 }  // namespace linewright

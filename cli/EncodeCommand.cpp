@@ -48,24 +48,31 @@ void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, std::ostream
 
 }  // namespace
 
-ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
-    const EncodeRequest request{
+EncodeRequest RequestOf(const EncodeOptions& options, Console& console) {
+    return {
         .typeName = options.type,
         .data = DataOf(options, console.in),
         .isUtf8 = !options.isBytes,
         .checkCharacter = static_cast<uint8>(options.isCheckWanted ? 1 : 0),
         .ratio = options.ratio,
     };
-    const BarcodeOutcome outcome = MakeBarcode(service, request, options.isStrict);
+}
+
+void ReportOutcome(const BarcodeOutcome& outcome, Console& console) {
     for (const std::string& warning : outcome.warnings) {
         console.err << "linewright: warning: " << warning << '\n';
     }
-    if (!outcome.isMade) {
-        console.err << "linewright: refused"
-                    << (outcome.status ? fmt::format(" (status {})", *outcome.status) : "") << ": "
-                    << outcome.message << '\n';
-        return kRefused;
-    }
+    if (outcome.isMade) return;
+    console.err << "linewright: refused"
+                << (outcome.status ? fmt::format(" (status {})", *outcome.status) : "") << ": "
+                << outcome.message << '\n';
+}
+
+ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
+    const BarcodeOutcome outcome =
+        MakeBarcode(service, RequestOf(options, console), options.isStrict);
+    ReportOutcome(outcome, console);
+    if (!outcome.isMade) return kRefused;
     Print(outcome, options.form, console.out);
     return kDone;
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cli/Console.h"
+#include "cli/Encoding.h"
 #include "cli/Service.h"
 
 namespace linewright {
@@ -19,6 +20,12 @@ struct EncodeOptions {
     bool isStrict = false;
     Form form = Form::kText;
 };
+
+/** The request that options ask for; reads standard input where they say so. */
+EncodeRequest RequestOf(const EncodeOptions& options, Console& console);
+
+/** Warnings and a refusal, to standard error. */
+void ReportOutcome(const BarcodeOutcome& outcome, Console& console);
 
 /** Makes one barcode: the font string to standard output, warnings and refusals to standard error,
  *  kRefused for a refusal. */

@@ -4,6 +4,7 @@
 
 #include "cli/Failure.h"
 #include "cli/HostText.h"
+#include "cli/LoadedPreferences.h"
 #include "cli/PreferenceFields.h"
 #include "cli/Utf8.h"
 #include "plugin/PreferencesFile.h"
@@ -11,12 +12,6 @@
 namespace linewright {
 
 namespace {
-
-void LoadRecord() {
-    ClearLocalConfig();
-    DetectLocalConfig();
-    LoadPreferences();
-}
 
 std::string FileName() {
     IDFile file;
@@ -33,7 +28,7 @@ void Print(std::ostream& out, std::string_view name, std::string_view text,
 }  // namespace
 
 ExitStatus RunPrefs(Console& console) {
-    LoadRecord();
+    LoadedPreferences();
     console.out << FileName() << "\n\n";
     Print(console.out, "version", std::to_string(preferences.version), "");
     Print(console.out, "lastData",
@@ -46,7 +41,7 @@ ExitStatus RunPrefs(Console& console) {
 }
 
 ExitStatus RunPrefsSet(const std::vector<std::string>& assignments, Console& console) {
-    LoadRecord();
+    LoadedPreferences();
     SetPreferences(preferences, assignments);
     if (!SavePreferences()) throw Failure(FileName() + " cannot be written");
     return RunPrefs(console);

@@ -15,7 +15,8 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 const std::vector<std::vector<std::string>> kCommands{
-    {}, {"types"}, {"encode"}, {"stream"}, {"batch"}, {"prefs"}, {"prefs", "set"}, {"dialog"}};
+    {},         {"types"}, {"encode"}, {"stream"}, {"batch"}, {"prefs"}, {"prefs", "set"},
+    {"dialog"}, {"draw"},  {"verify"}, {"proof"},  {"fonts"}};
 
 TEST(Help, FitsAScreenAndHasAnExample) {
     const CommandRunner command;

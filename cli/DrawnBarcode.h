@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "cli/DrawCommand.h"
+#include "cli/Encoding.h"
+#include "render/BarcodeDrawing.h"
+#include "verify/Verification.h"
+
+namespace linewright {
+
+/** A barcode that was made and drawn, and what it means. */
+struct DrawnBarcode {
+    /** With the warnings about its drawing among the others. */
+    BarcodeOutcome outcome;
+    /** None where the outcome was a refusal. */
+    std::optional<BarcodeDrawing> drawing;
+    Meaning meaning;
+};
+
+/** Makes and draws. With `isStrict` a warning is a refusal. Throws Failure for a wish that cannot
+ * be met and for fonts that are not there. */
+DrawnBarcode DrawBarcode(Service& service, const EncodeRequest& request, bool isStrict,
+                         const DrawingWish& wish);
+
+/** What the scanners read, one text where they agree; "" where none read anything. UTF-8. */
+std::string WhatWasRead(const Verification& verification);
+
+}  // namespace linewright

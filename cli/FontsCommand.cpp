@@ -1,0 +1,70 @@
+#include "cli/FontsCommand.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <system_error>
+
+#include "cli/Failure.h"
+#include "cli/TypeNames.h"
+#include "cli/UserFonts.h"
+#include "cli/Utf8.h"
+#include "render/TypeDrawing.h"
+
+namespace linewright {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path FileOf(const std::string& fonts, const BarcodeFace& face) {
+    return PathFromUtf8(fonts) / (std::string(face.fileStem) + ".ttf");
+}
+
+/** The types of a font by their short names, and the size that they are drawn at. */
+std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
+    std::string names;
+    double size = 0;
+    for (const TypeDrawing& type : TypeDrawings()) {
+        if (type.face != face) continue;
+        names += (names.empty() ? "" : ", ") + std::string(ShortNameOf(type.typeName));
+        if (face != nullptr) size = type.Module() * face->modulesPerEm;
+    }
+    return {names, size};
+}
+
+}  // namespace
+
+ExitStatus RunFontsList(const std::string& fonts, Console& console) {
+    console.out << fmt::format("{:28}{:>9}  {}\n", "font", "size", "types");
+    for (const BarcodeFace* const face : BarcodeFaces()) {
+        const auto [names, size] = TypesOf(face);
+        console.out << fmt::format("{:28}{:>6.2f} pt  {}\n", face->family, size, names);
+    }
+    console.out << fmt::format("{:28}{:>9}  {}\n", "(any text face)", "", TypesOf(nullptr).first);
+    console.out << "\nThe files lie in " << fonts << '\n';
+    return kDone;
+}
+
+ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
+    const fs::path folder = UserFontFolder();
+    if (folder.empty()) throw Failure("the system names no folder for a user's fonts");
+    std::error_code error;
+    fs::create_directories(folder, error);
+    for (const BarcodeFace* const face : BarcodeFaces()) {
+        const fs::path file = FileOf(fonts, *face);
+        const fs::path installed = folder / file.filename();
+        if (!error) {
+            fs::copy_file(file, installed, fs::copy_options::overwrite_existing, error);
+        }
+        if (error) {
+            throw Failure(fmt::format("{}: cannot be installed as {}: {}", Utf8FromPath(file),
+                                      Utf8FromPath(installed), error.message()));
+        }
+        AnnounceFont(installed, std::string(face->family));
+    }
+    console.out << fmt::format("{} fonts in {}\n", BarcodeFaces().size(), Utf8FromPath(folder));
+    return kDone;
+}
+
+}  // namespace linewright

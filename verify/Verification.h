@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "render/BarcodeDrawing.h"
+#include "verify/Meaning.h"
+#include "verify/Reading.h"
+
+namespace linewright {
+
+enum class Verdict { kScans, kScansAs, kDoesNotScan, kNoScanner };
+
+/** What the scanners made of a drawing. */
+struct Verification {
+    Verdict verdict = Verdict::kNoScanner;
+    /** One for each scanner that knows the symbology. */
+    std::vector<Reading> readings;
+
+    /** "scans", "scans as …", "does not scan" or "no scanner for this symbology". */
+    std::string Words() const;
+};
+
+/** Whether a reading is exactly what is meant. */
+bool IsMeant(const Reading& reading, const Meaning& meaning);
+
+/** The characters of a reading for people: with its add-on, and control characters as pictures. */
+std::string ShownData(const Reading& reading);
+
+/** Draws in memory and reads with both scanners. It scans when one of them reads what is meant and
+ *  none reads anything else. `pixelsPerModule` as for BarcodeDrawing::Raster. */
+Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, int pixelsPerModule = 4);
+
+}  // namespace linewright
