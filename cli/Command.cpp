@@ -44,7 +44,6 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
             return RunBatch(service, arguments.batchFiles, arguments.batch, console);
         case Arguments::Command::kPrefs: return RunPrefs(console);
         case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
-        case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
         case Arguments::Command::kDraw: return RunDraw(service, arguments.draw, console);
         case Arguments::Command::kVerify: return RunVerify(service, arguments.draw, console);
         case Arguments::Command::kProof:
@@ -52,6 +51,7 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
                             console);
         case Arguments::Command::kFontsList: return RunFontsList(arguments.fonts, console);
         case Arguments::Command::kFontsInstall: return RunFontsInstall(arguments.fonts, console);
+        case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }
     return kTrouble;
 }
@@ -68,11 +68,11 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
     if (!arguments) return exitStatus;
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
-    DialogUser user;
-    if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
     arguments->draw.drawing.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
+    DialogUser user;
+    if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
     exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);

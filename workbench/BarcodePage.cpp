@@ -132,6 +132,7 @@ void BarcodePage::Arrange() {
     grid->addWidget(fMessage, 2, 1, 1, 3);
 
     auto* const area = new QScrollArea(this);
+    area->setObjectName(QStringLiteral("area"));
     area->setWidget(fView);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::StrongFocus);
@@ -146,6 +147,8 @@ void BarcodePage::Arrange() {
     state->addWidget(fZoom);
     auto* const buttons = new QHBoxLayout;
     buttons->addStretch();
+    for (QPushButton* const button : {fCopy, fExport})
+        button->setMinimumWidth(button->sizeHint().width() + 2 * kSpacing);
     buttons->addWidget(fCopy);
     buttons->addWidget(fExport);
 

@@ -154,7 +154,9 @@ TEST(DrawingTest, PaintsIntoAPictureOfTheCallers) {
     drawing.PaintArgb(pixels.data(), width, height, 4 * width, 2, 5, 3);
     for (int y = 0; y < raster.height; ++y) {
         for (int x = 0; x < raster.width; ++x) {
-            const std::uint32_t pixel = pixels[static_cast<std::size_t>((y + 3) * width + x + 5)];
+            const auto row = static_cast<std::size_t>(y) + 3;
+            const auto column = static_cast<std::size_t>(x) + 5;
+            const std::uint32_t pixel = pixels[row * static_cast<std::size_t>(width) + column];
             ASSERT_NEAR(static_cast<int>(pixel & 0xFF), raster.At(x, y), 1) << x << ", " << y;
         }
     }

@@ -206,9 +206,20 @@ TEST_P(LayoutTest, ThePreferences) {
 TEST_P(LayoutTest, TheMainWindow) {
     Start(Locale());
     MainWindow& window = workbench->Window();
-    for (const QWidget* const view : window.centralWidget()->findChildren<QWidget*>())
-        ExpectReadable(*view);
+    const QWidget& page = *window.centralWidget();
     QSet<QChar> seen;
+    for (const QWidget* const view : page.findChildren<QWidget*>()) {
+        if (!view->isVisible()) continue;
+        ExpectReadable(*view);
+        const auto* const label = qobject_cast<const QLabel*>(view);
+        const auto* const button = qobject_cast<const QAbstractButton*>(view);
+        const QString text = label ? label->text() : button ? button->text() : QString();
+        const QChar mnemonic = MnemonicOf(text);
+        if (mnemonic.isNull()) continue;
+        EXPECT_FALSE(seen.contains(mnemonic)) << qUtf8Printable(text);
+        seen.insert(mnemonic);
+    }
+    EXPECT_EQ(seen.size(), 7);
     for (const QAction* const menu : window.menuBar()->actions()) {
         EXPECT_EQ(CountMissingGlyphs(menu->text(), window.menuBar()->font()), 0);
         const QChar mnemonic = MnemonicOf(menu->text());

@@ -188,6 +188,37 @@ TEST_F(PageTest, FindsTypeAndDataAgainAfterARestart) {
     EXPECT_EQ(Named<QLabel>("badge").text(), "Lesbar");
 }
 
+TEST_F(PageTest, TheKeyboardAloneReachesEverything) {
+    Start();
+    Enter("Code 39", "KEYS");
+    Named<QComboBox>("type").setFocus();
+    for (const char* const name :
+         {"data", "ratio", "checkDigit", "area", "zoom", "copy", "export"}) {
+        QTest::keyClick(workbench->Window().focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(workbench->Window().focusWidget()->objectName(), name);
+    }
+    const std::pair<Qt::Key, const char*> mnemonics[]{
+        {Qt::Key_T, "type"}, {Qt::Key_D, "data"}, {Qt::Key_R, "ratio"}, {Qt::Key_Z, "zoom"}};
+    for (const auto& [key, name] : mnemonics) {
+        QTest::keyClick(&workbench->Window(), key, Qt::AltModifier);
+        EXPECT_EQ(workbench->Window().focusWidget()->objectName(), name);
+        EXPECT_FALSE(workbench->Window().focusWidget()->accessibleName().isEmpty());
+    }
+}
+
+TEST_F(PageTest, SaysWhereTheFontsAreNot) {
+    WorkbenchOptions options{.plugIn = QStringLiteral(LINEWRIGHT_PLUGIN),
+                             .roamingFolder = folder.path(),
+                             .appFolder = folder.path(),
+                             .fonts = folder.path(),
+                             .locale = "enUS",
+                             .beep = {}};
+    workbench.emplace(options);
+    ASSERT_TRUE(workbench->Start());
+    EXPECT_TRUE(Message().contains(folder.path())) << qUtf8Printable(Message());
+    EXPECT_FALSE(Named<QPushButton>("export").isEnabled());
+}
+
 }  // namespace
 
 }  // namespace linewright
