@@ -17,12 +17,6 @@ namespace linewright {
 
 namespace {
 
-#ifdef NDEBUG
-constexpr bool kIsDebugBuild = false;
-#else
-constexpr bool kIsDebugBuild = true;
-#endif
-
 /** Where the build tree and an installation alike have the fonts. */
 std::string FontsBeside(const std::filesystem::path& programFolder) {
     return Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
@@ -57,7 +51,7 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
 }
 
 void ReportLeaks(const host::Leaks& leaks, std::ostream& err) {
-    if (!kIsDebugBuild || (leaks.blocks == 0 && leaks.references == 0)) return;
+    if (leaks.blocks == 0 && leaks.references == 0) return;
     err << fmt::format("linewright: still alive at the end: {} blocks, {} references\n",
                        leaks.blocks, leaks.references);
 }

@@ -10,13 +10,11 @@
 #include "host/runtime/Menus.h"
 #include "tests/HostStrings.h"
 #include "tests/TestHost.h"
+#include "tests/WidgetIDs.h"
 
 namespace linewright {
 
 using host::ShownDialog;
-
-constexpr WidgetID kOKButton = 0x0F01;
-constexpr WidgetID kCancelButton = 0x0F02;
 
 inline host::ShownWidget& At(const ShownDialog& dialog, WidgetID id) {
     host::ShownWidget* const widget = dialog.FindShown(id);

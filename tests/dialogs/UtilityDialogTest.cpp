@@ -15,17 +15,6 @@ namespace linewright {
 
 namespace {
 
-// Widgets
-constexpr WidgetID kType = 0x12211D;
-constexpr WidgetID kData = 0x122119;
-constexpr WidgetID kResult = 0x12211B;
-constexpr WidgetID kDescription = 0x12211E;
-constexpr WidgetID kCheckDigit = 0x122121;
-constexpr WidgetID kRatioLabel = 0x122122;
-constexpr WidgetID kRatio = 0x122123;
-constexpr WidgetID kPreferencesButton = 0x122116;
-constexpr WidgetID kSpareButton = 0x122115;
-
 /** The type codes in the order of the pop-up. */
 constexpr std::array<int, 27> kCodes{1,  2,  3,  4,  5, 6,  7,  8,  10, 11, 12, 13, 14, 15,
                                      16, 20, 21, 22, 9, 23, 25, 24, 26, 27, 28, 29, 30};
