@@ -1,0 +1,22 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <string_view>
+
+namespace files {
+
+// Drafts lie beside the file that they are to become, under short names of their own.
+
+inline constexpr std::string_view kDraftPrefix = ".linewright-";
+inline constexpr std::string_view kDraftSuffix = ".draft";
+inline constexpr std::size_t kDraftNameLength = 12 + 32 + 6;
+
+/** An age that only a draft has whose process is gone. */
+inline constexpr std::chrono::hours kStaleAge{1};
+
+/** A name with 128 random bits in it. */
+std::string NewDraftName();
+bool IsDraftName(std::string_view name);
+
+}  // namespace files

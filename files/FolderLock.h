@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+namespace files {
+
+/**
+ * A lock that one process at a time holds on a folder, as long as this lives. It keeps nobody from
+ * the folder who does not ask for it. Where no lock can be had (no such folder, no permission, a
+ * file system without locks, another process that holds it for ten seconds) there is none. Two of
+ * one process exclude each other too. Throws nothing but std::bad_alloc.
+ */
+class FolderLock {
+  public:
+    explicit FolderLock(const std::filesystem::path& folder);
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+    ~FolderLock();
+
+    bool IsHeld() const { return state != nullptr; }
+
+  private:
+    struct State;
+    std::unique_ptr<State> state;
+};
+
+}  // namespace files

@@ -1,0 +1,32 @@
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <cerrno>
+#include <chrono>
+#include <thread>
+
+#include "files/Descriptor.h"
+#include "files/FolderLock.h"
+
+namespace files {
+
+struct FolderLock::State {
+    Descriptor folder;
+};
+
+FolderLock::FolderLock(const std::filesystem::path& folder) {
+    using namespace std::chrono_literals;
+    Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!opened) return;
+    const auto end = std::chrono::steady_clock::now() + 10s;
+    while (flock(opened.Get(), LOCK_EX | LOCK_NB) != 0) {
+        const bool isHeldByAnother = errno == EWOULDBLOCK || errno == EINTR;
+        if (!isHeldByAnother || std::chrono::steady_clock::now() > end) return;
+        std::this_thread::sleep_for(2ms);
+    }
+    state = std::make_unique<State>(State{std::move(opened)});
+}
+
+FolderLock::~FolderLock() = default;
+
+}  // namespace files
