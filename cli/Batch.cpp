@@ -12,6 +12,9 @@ namespace linewright {
 
 namespace {
 
+/** As many as a spreadsheet has. */
+constexpr std::size_t kMaxColumns = 16384;
+
 std::vector<std::string> ResultColumns(const BatchOptions& options) {
     std::vector<std::string> names{"barcode", "status", "message", "warning"};
     if (options.isVerified) names.insert(names.end(), {"scan", "read"});
@@ -101,6 +104,10 @@ BatchColumns::BatchColumns(const CsvRecord& header, const BatchOptions& wanted, 
       delimiter(separator),
       width(header.fields.size()),
       resultColumns(ResultColumns(wanted)) {
+    if (width > kMaxColumns) {
+        throw Failure(
+            fmt::format("the header has {} columns; at most {} can be", width, kMaxColumns));
+    }
     const std::vector<std::string> names = ValuesOf(header);
     if (!options.type) type = RequireColumn(names, "type", "--type names one type for all rows");
     if (std::find(resultColumns.begin(), resultColumns.end(), options.dataColumn) !=

@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <exception>
+#include <new>
+#include <stdexcept>
 
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
@@ -70,8 +72,13 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     Service service(arguments->host);
     exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
-    if (!console.out.flush()) throw Failure("standard output could not be written to its end");
     return exitStatus;
+}
+
+int Trouble(const char* sentence, Console& console) {
+    console.out.flush();
+    console.err << "linewright: " << sentence << '\n';
+    return kTrouble;
 }
 
 }  // namespace
@@ -79,11 +86,15 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
 int RunCommand(const std::vector<std::string>& arguments,
                const std::filesystem::path& programFolder, Console& console) noexcept {
     try {
-        return Run(arguments, programFolder, console);
+        const ExitStatus exitStatus = Run(arguments, programFolder, console);
+        if (console.out.flush()) return exitStatus;
+        return Trouble("standard output could not be written to its end", console);
+    } catch (const std::bad_alloc&) {
+        return Trouble("there is not enough memory", console);
+    } catch (const std::length_error&) {
+        return Trouble("there is not enough memory", console);
     } catch (const std::exception& failure) {
-        console.out.flush();
-        console.err << "linewright: " << failure.what() << '\n';
-        return kTrouble;
+        return Trouble(failure.what(), console);
     }
 }
 

@@ -5,10 +5,12 @@
 #include <filesystem>
 #include <system_error>
 
+#include "cli/BatchFile.h"
 #include "cli/Failure.h"
 #include "cli/TypeNames.h"
 #include "cli/UserFonts.h"
 #include "cli/Utf8.h"
+#include "files/NewFile.h"
 #include "render/TypeDrawing.h"
 
 namespace linewright {
@@ -51,16 +53,14 @@ ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
     if (folder.empty()) throw Failure("the system names no folder for a user's fonts");
     std::error_code error;
     fs::create_directories(folder, error);
+    if (error) throw Failure(fmt::format("{}: {}", Utf8FromPath(folder), error.message()));
     for (const BarcodeFace* const face : BarcodeFaces()) {
         const fs::path file = FileOf(fonts, *face);
         const fs::path installed = folder / file.filename();
-        if (!error) {
-            fs::copy_file(file, installed, fs::copy_options::overwrite_existing, error);
-        }
-        if (error) {
-            throw Failure(fmt::format("{}: cannot be installed as {}: {}", Utf8FromPath(file),
-                                      Utf8FromPath(installed), error.message()));
-        }
+        files::NewFile copy(installed, {.startsAfresh = true});
+        copy.Write(ReadInput(Utf8FromPath(file), console.in));
+        if (!copy.Keep())
+            throw Failure(fmt::format("{}: {}", Utf8FromPath(installed), copy.Error()));
         AnnounceFont(installed, std::string(face->family));
     }
     console.out << fmt::format("{} fonts in {}\n", BarcodeFaces().size(), Utf8FromPath(folder));

@@ -2,8 +2,10 @@
 
 #include "cli/Command.h"
 #include "cli/Platform.h"
+#include "host/runtime/Host.h"
 
 int main(int count, char** values) {
+    host::EndWithoutMemory("linewright");
     linewright::PrepareStandardStreams();
     linewright::Console console{
         .in = std::cin,

@@ -2,55 +2,35 @@
 
 #include <fmt/format.h>
 
-#include <system_error>
-
 #include "cli/Failure.h"
 #include "cli/Utf8.h"
 
 namespace linewright {
 
-namespace fs = std::filesystem;
-
-namespace {
-
-/** The file itself where the name is a link to one. */
-fs::path TargetOf(const std::string& name) {
-    const fs::path path = PathFromUtf8(name);
-    std::error_code error;
-    fs::path real = fs::canonical(path, error);
-    return error ? path : real;
-}
-
-fs::path BesidesOf(const fs::path& target) {
-    std::error_code error;
-    if (fs::exists(target, error) && !fs::is_regular_file(target, error)) return target;
-    fs::path beside = target;
-    beside += ".part";
-    return beside;
-}
-
-}  // namespace
-
-OutputFile::OutputFile(const std::string& fileName)
-    : name(fileName), target(TargetOf(fileName)), written(BesidesOf(target)) {
-    stream.open(written, std::ios::binary | std::ios::trunc);
-    if (!stream) throw Failure(fmt::format("{}: cannot be written", Readable(name)));
-}
-
-OutputFile::~OutputFile() {
-    if (isKept || written == target) return;
-    stream.close();
-    std::error_code ignored;
-    fs::remove(written, ignored);
+OutputFile::OutputFile(const std::string& fileName) : name(fileName), file(PathFromUtf8(fileName)) {
+    if (!file.Error().empty()) Fail();
 }
 
 void OutputFile::Keep() {
-    stream.close();
-    std::error_code error;
-    if (!stream) throw Failure(fmt::format("{}: could not be written to its end", Readable(name)));
-    if (written != target) fs::rename(written, target, error);
-    if (error) throw Failure(fmt::format("{}: {}", Readable(name), error.message()));
-    isKept = true;
+    stream.flush();
+    if (!file.Keep()) Fail();
+}
+
+void OutputFile::Fail() const {
+    throw Failure(fmt::format("{}: {}", Readable(name), file.Error()));
+}
+
+OutputFile::Buffer::int_type OutputFile::Buffer::overflow(int_type character) {
+    if (sync() != 0) return traits_type::eof();
+    if (!traits_type::eq_int_type(character, traits_type::eof()))
+        return sputc(traits_type::to_char_type(character));
+    return traits_type::not_eof(character);
+}
+
+int OutputFile::Buffer::sync() {
+    const std::string_view gathered(pbase(), static_cast<std::size_t>(pptr() - pbase()));
+    setp(piece.data(), piece.data() + piece.size());
+    return file.Write(gathered) ? 0 : -1;
 }
 
 }  // namespace linewright

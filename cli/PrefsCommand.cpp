@@ -7,6 +7,7 @@
 #include "cli/LoadedPreferences.h"
 #include "cli/PreferenceFields.h"
 #include "cli/Utf8.h"
+#include "host/runtime/Host.h"
 #include "plugin/PreferencesFile.h"
 
 namespace linewright {
@@ -41,6 +42,7 @@ ExitStatus RunPrefs(Console& console) {
 }
 
 ExitStatus RunPrefsSet(const std::vector<std::string>& assignments, Console& console) {
+    const host::SettingsLock lock;
     LoadedPreferences();
     SetPreferences(preferences, assignments);
     if (!SavePreferences()) throw Failure(FileName() + " cannot be written");

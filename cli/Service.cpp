@@ -41,6 +41,7 @@ host::Leaks Service::Stop() {
 }
 
 int32 Service::Send(RequestCode code, LinewrightRequestParams& params) {
+    const host::Call call;
     LinewrightRequest request{.result = 0, .code = code, .params = &params};
     (*plugIn)->ProcessRequest(&request);
     return request.result;

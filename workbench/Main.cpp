@@ -2,6 +2,7 @@
 #include <QCommandLineParser>
 #include <cstdio>
 
+#include "host/runtime/Host.h"
 #include "workbench/Workbench.h"
 
 namespace {
@@ -29,6 +30,7 @@ linewright::WorkbenchOptions ParseOptions(const QStringList& arguments) {
 }  // namespace
 
 int main(int count, char** values) {
+    host::EndWithoutMemory("linewright-workbench");
     QStringList arguments;
     for (int i = 0; i < count; ++i) arguments << QString::fromLocal8Bit(values[i]);
     // The options are ours alone; Qt has one of its own that is called --plugin.

@@ -1,5 +1,7 @@
 #include "host/runtime/Boss.h"
 
+#include <new>
+
 #include "InterfacePtr.h"
 #include "host/runtime/DataBase.h"
 #include "host/runtime/Faults.h"
@@ -21,11 +23,13 @@ Boss::~Boss() {
     if (fDataBase) fDataBase->Forget(*this);
 }
 
-IPMUnknown* Boss::QueryInterface(PMIID interfaceID) const noexcept {
+IPMUnknown* Boss::QueryInterface(PMIID interfaceID) const noexcept try {
     if (IsAbandoned() || IsTakenAway(interfaceID)) return nullptr;
     IPMUnknown* const found = const_cast<Boss*>(this)->Find(interfaceID);
     if (found) CountUp();
     return found;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 IPMUnknown* Boss::Find(PMIID interfaceID) {

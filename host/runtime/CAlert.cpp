@@ -7,10 +7,11 @@ namespace {
 
 int16 Show(host::AlertKind kind, const PMString& message) noexcept {
     constexpr int16 kOnlyButton = 1;
-    const host::Running* const running = host::GetRunning();
+    host::Running* const running = host::GetRunning();
     if (!running || !running->showsAlerts) return kOnlyButton;
     PMString text = message;
     text.Translate();
+    const host::WhileUserIsAsked asked(*running);
     running->frontEnd->ShowAlert(kind, host::ToUtf8(text).c_str());
     return kOnlyButton;
 }

@@ -2,6 +2,8 @@
 
 #include <unordered_set>
 
+#include "host/runtime/Thread.h"
+
 namespace host {
 
 namespace {
@@ -41,10 +43,12 @@ Counted::~Counted() {
 }
 
 void Counted::CountUp() const {
+    CheckThread();
     ++fReferences;
 }
 
 void Counted::CountDown() const {
+    CheckThread();
     if (--fReferences != 0 || fAbandoned) return;
     fReferences = 1;  // lest a reference that is taken and released meanwhile deletes it again
     delete this;

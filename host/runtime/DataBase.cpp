@@ -1,6 +1,7 @@
 #include "host/runtime/DataBase.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "InterfacePtr.h"
@@ -14,13 +15,15 @@ void DataBase::BeginTransaction() noexcept {
     fInTransaction = true;
 }
 
-void DataBase::EndTransaction() noexcept {
+void DataBase::EndTransaction() noexcept try {
     if (!fInTransaction && kChecksRules) Halt("a transaction is ended that was not begun");
     fInTransaction = false;
     if (fDirty.empty()) return;
     for (Boss* boss : fDirty) boss->Store();
     Close();
     if (!fFile.empty()) WriteRecords(fFile, fRecords);
+} catch (const std::bad_alloc&) {
+    Close();  // what is not stored has not changed
 }
 
 void DataBase::UseFile(const std::filesystem::path& file) {

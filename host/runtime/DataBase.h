@@ -25,7 +25,7 @@ class DataBase final : public IDataBase {
     void EndTransaction() noexcept override;
 
     /** Takes the records of a file over, and keeps them there from now on. Throws
-     *  std::runtime_error for a file that is damaged or cannot be read. */
+     *  std::runtime_error for a file that is damaged. */
     void UseFile(const std::filesystem::path& file);
 
     /** The object of a persistent class, with a reference for the caller. */

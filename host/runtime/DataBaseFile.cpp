@@ -58,10 +58,10 @@ bool ReadAll(IPMStream& stream, std::uintmax_t fileSize, Records& records) {
 
 Records ReadRecords(const fs::path& file) {
     Records records;
-    if (!fs::exists(file)) return records;
     const InterfacePtr<IPMStream> stream(OpenForReading(file));
-    if (!stream) throw std::runtime_error("cannot read " + ToUtf8(file));
+    if (!stream) return records;
     if (!ReadAll(*stream.get(), fs::file_size(file), records)) {
+        if (stream->GetStreamState() == kStreamStateFailure) return {};
         throw std::runtime_error("the application database is damaged: " + ToUtf8(file) +
                                  "; without this file the host starts with an empty one");
     }

@@ -35,8 +35,14 @@ void Dialog::Open() noexcept {
     if (controller) controller->InitializeDialogFields(nullptr);
     const InterfacePtr<IObserver> observer(this, UseDefaultIID());
     if (observer) observer->AutoAttach();
-    GetRunning()->frontEnd->ShowDialog(*this);
+    ShowToUser();
     if (fIsOpen && fType == kMovableModal) PressCloseBox();
+}
+
+void Dialog::ShowToUser() {
+    Running& running = *GetRunning();
+    const WhileUserIsAsked asked(running);
+    running.frontEnd->ShowDialog(*this);
 }
 
 void Dialog::Confirm() {

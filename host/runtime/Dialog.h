@@ -49,6 +49,7 @@ class Dialog final : public CPMUnknown<IDialog>, public ShownDialog {
     void PressCloseBox() override;
 
   private:
+    void ShowToUser();
     void Close();
 
     const DialogResource* fResource = nullptr;

@@ -1,5 +1,7 @@
 #include "host/runtime/DialogManager.h"
 
+#include <new>
+
 #include "host/runtime/Dialog.h"
 #include "host/runtime/Running.h"
 
@@ -19,11 +21,13 @@ IDialog* Make(Running& running, const DialogResource& resource, IDialog::DialogT
 }  // namespace
 
 IDialog* DialogManager::CreateNewDialog(const RsrcSpec& resource, IDialog::DialogType type,
-                                        bool16 /*visible*/) noexcept {
+                                        bool16 /*visible*/) noexcept try {
     if (resource.type != FourCharCode('V', 'I', 'E', 'W')) return nullptr;
     Running& running = *GetRunning();
     const DialogResource* const found = running.views.Find(resource.plugin, resource.id);
     return found ? Make(running, *found, type) : nullptr;
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 }  // namespace host

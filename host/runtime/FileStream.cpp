@@ -1,9 +1,12 @@
 #include "host/runtime/FileStream.h"
 
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 #include "host/runtime/Faults.h"
 #include "host/runtime/Platform.h"
+#include "host/runtime/Running.h"
 
 namespace fs = std::filesystem;
 
@@ -11,21 +14,11 @@ namespace host {
 
 namespace {
 
-/** Whether a file may take the place of what is there now. */
-bool IsReplaceable(const fs::path& path) {
-    if (!fs::exists(path)) return true;
-    if (!fs::is_regular_file(path)) return false;
-    std::FILE* const file = OpenFile(path, OpenMode::kUpdate);
-    if (file) std::fclose(file);
-    return file != nullptr;
-}
-
-/** A place beside a file that no other stream writes to. */
-fs::path DraftFor(const fs::path& target) {
-    static unsigned drafts = 0;
-    fs::path draft = target;
-    draft += ".new-" + std::to_string(ProcessNumber()) + "-" + std::to_string(++drafts);
-    return draft;
+/** What cannot be opened is not there, or else somebody hears of it. */
+Stream* NoStream(const fs::path& path, int reason) {
+    if (reason != ENOENT && reason != ENOTDIR)
+        GetRunning()->unreadable.Add(path, std::generic_category().message(reason));
+    return nullptr;
 }
 
 }  // namespace
@@ -37,69 +30,54 @@ void ReadStream::Close() noexcept {
 }
 
 int32 ReadStream::Move(uchar* buffer, int32 count) {
-    if (IoFails(Faults::Io::kRead)) {
-        SetState(kStreamStateFailure);
-        return 0;
+    const auto wanted = static_cast<size_t>(count);
+    const size_t moved = IoFails(Faults::Io::kRead) ? 0 : std::fread(buffer, 1, wanted, fFile);
+    if (moved == wanted) return count;
+    if (!IoFails(Faults::Io::kRead) && !std::ferror(fFile)) {
+        SetState(kStreamStateEOF);
+        return static_cast<int32>(moved);
     }
-    const auto moved = static_cast<int32>(std::fread(buffer, 1, static_cast<size_t>(count), fFile));
-    if (moved < count) SetState(std::ferror(fFile) ? kStreamStateFailure : kStreamStateEOF);
-    return moved;
+    SetState(kStreamStateFailure);
+    NoStream(fPath, EIO);
+    return 0;
 }
 
-WriteStream::WriteStream(std::FILE* file, fs::path draft, fs::path target)
-    : fFile(file), fDraft(std::move(draft)), fTarget(std::move(target)) {}
-
-WriteStream::~WriteStream() {
-    if (fFile) Discard();
+WriteStream::WriteStream(const fs::path& path)
+    : fFile(std::in_place, path, files::Manner{.writesDevices = false, .leavesSame = true}) {
+    if (!fFile->Error().empty()) SetState(kStreamStateFailure);
 }
 
 int32 WriteStream::Move(uchar* buffer, int32 count) {
-    const auto wanted = static_cast<size_t>(count);
-    const size_t moved = IoFails(Faults::Io::kWrite) ? 0 : std::fwrite(buffer, 1, wanted, fFile);
-    if (moved < wanted) SetState(kStreamStateFailure);
-    return static_cast<int32>(moved);
+    const std::string_view bytes(reinterpret_cast<const char*>(buffer), static_cast<size_t>(count));
+    if (!IoFails(Faults::Io::kWrite) && fFile->Write(bytes)) return count;
+    SetState(kStreamStateFailure);
+    return 0;
 }
 
 void WriteStream::Close() noexcept {
     if (!fFile) return;
-    if (GetStreamState() != kStreamStateGood || !Finish()) {
-        Discard();
-        SetState(kStreamStateFailure);
-    } else {
-        SetState(kStreamStateEOF);
-    }
-}
-
-bool WriteStream::Finish() {
-    if (IoFails(Faults::Io::kFlush) || !FlushToDisk(fFile)) return false;
-    if (std::fclose(std::exchange(fFile, nullptr)) != 0) return false;
-    if (IoFails(Faults::Io::kRename)) return false;
-    std::error_code error;
-    fs::rename(fDraft, fTarget, error);
-    if (error) return false;
-    FlushFolder(fTarget.parent_path());
-    return true;
-}
-
-void WriteStream::Discard() {
-    if (fFile) std::fclose(std::exchange(fFile, nullptr));
-    std::error_code ignored;
-    fs::remove(fDraft, ignored);
+    const bool isKept = GetStreamState() == kStreamStateGood && !IoFails(Faults::Io::kFlush) &&
+                        !IoFails(Faults::Io::kRename) && fFile->Keep();
+    fFile.reset();
+    SetState(isKept ? kStreamStateEOF : kStreamStateFailure);
 }
 
 Stream* OpenForReading(const fs::path& path) {
-    if (IoFails(Faults::Io::kOpenRead) || fs::is_directory(path)) return nullptr;
-    std::FILE* const file = OpenFile(path, OpenMode::kRead);
-    return file ? new ReadStream(file) : nullptr;
+    Unreadable& unreadable = GetRunning()->unreadable;
+    if (unreadable.Holds(path.parent_path())) return nullptr;
+    if (IoFails(Faults::Io::kOpenRead)) return NoStream(path, EIO);
+    std::FILE* const file = OpenFile(path);
+    if (!file) return NoStream(path, errno);
+    unreadable.Remove(path);
+    return new ReadStream(file, path);
 }
 
 Stream* OpenForWriting(const fs::path& path) {
-    if (IoFails(Faults::Io::kOpenWrite) || !IsReplaceable(path)) return nullptr;
-    // A link stays; the file that it leads to is replaced.
-    const fs::path target = fs::exists(path) ? fs::canonical(path) : fs::absolute(path);
-    const fs::path draft = DraftFor(target);
-    std::FILE* const file = OpenFile(draft, OpenMode::kWrite);
-    return file ? new WriteStream(file, draft, target) : nullptr;
+    if (IoFails(Faults::Io::kOpenWrite) || GetRunning()->unreadable.Holds(path)) return nullptr;
+    auto* const stream = new WriteStream(path);
+    if (stream->GetStreamState() == kStreamStateGood) return stream;
+    stream->Release();
+    return nullptr;
 }
 
 }  // namespace host

@@ -48,7 +48,8 @@ bool16 FileUtils::CreateFolderIfNeeded(const IDFile& folder) try {
 }
 
 bool16 FileUtils::DoesFileExist(const IDFile& file) try {
-    return fs::exists(host::PathOf(file)) ? kTrue : kFalse;
+    std::error_code error;
+    return fs::exists(host::PathOf(file), error) ? kTrue : kFalse;
 } catch (...) {
     return kFalse;
 }

@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <memory>
+#include <new>
 #include <string>
 
 #include "host/runtime/Halt.h"
@@ -36,9 +37,14 @@ bool Host::Start(const Settings& settings) try {
     }
     fState->error.clear();
     fState->running = std::make_unique<Running>();
+    UseThisThread();
     SetRunning(fState->running.get());
     fState->running->Start(settings);
     return true;
+} catch (const std::bad_alloc&) {
+    fState->error = "there is not enough memory";
+    Stop();
+    return false;
 } catch (const std::exception& error) {
     fState->error = error.what();
     Stop();
@@ -51,6 +57,14 @@ Leaks Host::Stop() {
 
 const char* Host::Error() const {
     return fState->error.c_str();
+}
+
+SettingsLock::SettingsLock() {
+    if (Running* const running = GetRunning()) running->LockSettings();
+}
+
+SettingsLock::~SettingsLock() {
+    if (Running* const running = GetRunning()) running->UnlockSettings();
 }
 
 int32 CountLocales() {

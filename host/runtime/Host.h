@@ -30,7 +30,7 @@ struct Leaks {
 /**
  * The stand-in host: one a process at a time. Started, it loads one plug-in, binds its
  * implementations to the classes of its resource definitions and runs its start-up service; from
- * then on GetExecutionContextSession and CreateObject answer. Main thread only.
+ * then on GetExecutionContextSession and CreateObject answer. Main thread only: see UseThisThread.
  */
 class PUBLIC_DECL Host {
   public:
@@ -51,6 +51,42 @@ class PUBLIC_DECL Host {
     struct State;
     State* fState;
 };
+
+/**
+ * Keeps other hosts with the same folders from starting, and from a lock of this kind, as long as
+ * it lives: around what loads settings, changes and saves them. Start holds one for the start-up
+ * services. Let go of while an alert or a dialog waits for the user; where no lock can be had there
+ * is none. While the host runs.
+ */
+class PUBLIC_DECL SettingsLock {
+  public:
+    SettingsLock();
+    SettingsLock(const SettingsLock&) = delete;
+    SettingsLock& operator=(const SettingsLock&) = delete;
+    ~SettingsLock();
+};
+
+/**
+ * Host and plug-in run on one thread, which headers call the main thread: the one that called
+ * Start. UseThisThread hands them over to the calling thread; whoever calls it makes sure that the
+ * last call of the thread before has returned. A Call is made around each request to the plug-in. A
+ * host that checks rules halts the process when a call comes from another thread or arrives while
+ * another is inside.
+ */
+PUBLIC_DECL void UseThisThread();
+
+class PUBLIC_DECL Call {
+  public:
+    Call();
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+    ~Call();
+};
+
+/** Has the process end where memory does, with exit status 2 and a sentence on standard error that
+ *  begins with the program's name; no draft of a file stays. For programs: without it the host's
+ *  calls fail where they can say so. */
+PUBLIC_DECL void EndWithoutMemory(const char* program);
 
 /** The locales of the running plug-in by their PMLocaleId: 0 to CountLocales() - 1. A name, such as
  *  "enUS", is one for Settings; nullptr where there is none. */

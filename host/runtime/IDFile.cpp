@@ -5,8 +5,13 @@
 #include "host/runtime/Platform.h"
 #include "host/runtime/Utf8.h"
 
+/** The path itself: its text is not always UTF-8. */
 struct IDFile::Path {
-    PMString text;
+    std::filesystem::path path;
+};
+
+struct IDFilePath {
+    static std::filesystem::path& Of(const IDFile& file) { return file.fPath->path; }
 };
 
 IDFile::IDFile() : fPath(host::Make<Path>()) {}
@@ -25,22 +30,23 @@ IDFile::~IDFile() {
 }
 
 PMString IDFile::GetString() const {
-    return fPath->text;
+    PMString text = host::PlainText(host::ToUtf8(fPath->path));
+    text.SetTranslatable(kFalse);
+    return text;
 }
 
 void IDFile::SetString(const PMString& fullPath) {
-    fPath->text = fullPath;
-    fPath->text.SetTranslatable(kFalse);
+    fPath->path = host::PathFromUtf8(host::ToUtf8(fullPath));
 }
 
 namespace host {
 
 std::filesystem::path PathOf(const IDFile& file) {
-    return PathFromUtf8(ToUtf8(file.GetString()));
+    return IDFilePath::Of(file);
 }
 
 void SetPath(IDFile& file, const std::filesystem::path& path) {
-    file.SetString(PlainText(ToUtf8(path)));
+    IDFilePath::Of(file) = path;
 }
 
 }  // namespace host

@@ -4,10 +4,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
+#include <new>
 
 #include "host/runtime/Faults.h"
 #include "host/runtime/Halt.h"
 #include "host/runtime/Platform.h"
+#include "host/runtime/Thread.h"
 
 namespace host {
 
@@ -31,15 +34,18 @@ Memory::~Memory() {
     for (const auto& [block, extent] : fLive) std::free(const_cast<void*>(block));
 }
 
-void* Memory::Allocate(uint32 size) {
+void* Memory::Allocate(uint32 size) try {
+    CheckThread();
     if (AllocationFails()) return nullptr;
     const uint32 capacity = std::max<uint32>(size, 1);
-    void* const block = std::malloc(capacity);
+    std::unique_ptr<void, decltype(&std::free)> block(std::malloc(capacity), std::free);
     if (!block) return nullptr;
-    if (kChecksRules) std::memset(block, kFreshPattern, capacity);
-    fLive[block] = {size, capacity};
+    if (kChecksRules) std::memset(block.get(), kFreshPattern, capacity);
+    fLive[block.get()] = {size, capacity};
     ++fAllocations;
-    return block;
+    return block.release();
+} catch (const std::bad_alloc&) {
+    return nullptr;
 }
 
 void Memory::Deallocate(void* block) {
@@ -75,6 +81,7 @@ MemoryCounts Memory::Counts() const {
 }
 
 Memory::Blocks::iterator Memory::Find(const void* block) {
+    CheckThread();
     const auto found = fLive.find(block);
     if (found == fLive.end() && kChecksRules) {
         Halt("memory block " + Address(block) +

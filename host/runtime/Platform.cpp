@@ -1,5 +1,6 @@
 #include "host/runtime/Platform.h"
 
+#include <cerrno>
 #include <cstdlib>
 
 #ifdef _WIN32
@@ -7,6 +8,7 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -49,20 +51,9 @@ std::optional<fs::path> UserSettingsFolder() {
     return fs::path(folder);
 }
 
-unsigned long ProcessNumber() {
-    return GetCurrentProcessId();
+std::FILE* OpenFile(const fs::path& path) {
+    return _wfopen(path.c_str(), L"rb");
 }
-
-std::FILE* OpenFile(const fs::path& path, OpenMode mode) {
-    static constexpr const wchar_t* kModes[] = {L"rb", L"r+b", L"wb"};
-    return _wfopen(path.c_str(), kModes[static_cast<int>(mode)]);
-}
-
-bool FlushToDisk(std::FILE* file) {
-    return std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
-}
-
-void FlushFolder(const fs::path&) {}
 
 bool StandardErrorIsTerminal() {
     return _isatty(_fileno(stderr)) != 0;
@@ -95,24 +86,17 @@ std::optional<fs::path> UserSettingsFolder() {
     return std::nullopt;
 }
 
-unsigned long ProcessNumber() {
-    return static_cast<unsigned long>(getpid());
-}
-
-std::FILE* OpenFile(const fs::path& path, OpenMode mode) {
-    static constexpr const char* kModes[] = {"rbe", "r+be", "wbe"};
-    return std::fopen(path.c_str(), kModes[static_cast<int>(mode)]);
-}
-
-bool FlushToDisk(std::FILE* file) {
-    return std::fflush(file) == 0 && fsync(fileno(file)) == 0;
-}
-
-void FlushFolder(const fs::path& folder) {
-    const int handle = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) return;
-    fsync(handle);
+std::FILE* OpenFile(const fs::path& path) {
+    // Nobody need have a pipe's other end open: nothing is waited for.
+    const int handle = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (handle < 0) return nullptr;
+    struct stat status {};
+    const bool isFile = fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
+    std::FILE* const file = isFile ? fdopen(handle, "rb") : nullptr;
+    if (file) return file;
     close(handle);
+    if (!isFile) errno = EINVAL;
+    return nullptr;
 }
 
 bool StandardErrorIsTerminal() {

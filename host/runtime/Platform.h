@@ -18,16 +18,9 @@ std::string ToUtf8(const std::filesystem::path& path);
 std::optional<std::filesystem::path> ProgramFolder();
 /** Where the user's programs keep their settings; none when the system does not tell. */
 std::optional<std::filesystem::path> UserSettingsFolder();
-/** A number that no other process has at this time. */
-unsigned long ProcessNumber();
-
-enum class OpenMode { kRead, kUpdate, kWrite };
-/** Opens a binary file as fopen does with "rb", "r+b" and "wb"; the caller closes it. */
-std::FILE* OpenFile(const std::filesystem::path& path, OpenMode mode);
-/** Hands what was written to the disk itself. */
-bool FlushToDisk(std::FILE* file);
-/** Makes a renaming in a folder last, where the system wants that asked for. */
-void FlushFolder(const std::filesystem::path& folder);
+/** Opens a file for reading its bytes; the caller closes it. nullptr, and errno says why, when that
+ *  does not work or when it is a folder, a device or a pipe. */
+std::FILE* OpenFile(const std::filesystem::path& path);
 
 bool StandardErrorIsTerminal();
 

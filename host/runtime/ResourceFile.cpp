@@ -15,7 +15,7 @@ namespace host {
 namespace {
 
 std::string ReadWhole(const fs::path& path) {
-    std::FILE* const file = fs::is_directory(path) ? nullptr : OpenFile(path, OpenMode::kRead);
+    std::FILE* const file = OpenFile(path);
     if (!file) throw std::runtime_error("resource file missing: " + ToUtf8(path));
     std::string content;
     char part[4096];

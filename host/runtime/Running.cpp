@@ -1,6 +1,7 @@
 #include "host/runtime/Running.h"
 
 #include <algorithm>
+#include <atomic>
 #include <iterator>
 #include <stdexcept>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "host/runtime/Faults.h"
 #include "host/runtime/Platform.h"
 #include "host/runtime/Session.h"
+#include "host/runtime/Thread.h"
 
 namespace fs = std::filesystem;
 
@@ -18,7 +20,7 @@ namespace host {
 
 namespace {
 
-Running* current = nullptr;
+std::atomic<Running*> current = nullptr;
 
 constexpr const char* kFolderName = "Linewright Host";
 constexpr const char* kDataBaseName = "Application Database";
@@ -51,10 +53,12 @@ PlugIn& FindPlugIn(const Library& library, const fs::path& path) {
 }  // namespace
 
 Running* GetRunning() {
+    CheckThread();
     return current;
 }
 void SetRunning(Running* running) {
     current = running;
+    if (!running) ForgetThread();
 }
 
 void Running::Start(const Settings& settings) {
@@ -73,6 +77,7 @@ void Running::Start(const Settings& settings) {
     library.Load(plugIn);
     classes = ClassTable(resources, FindPlugIn(library, plugIn));
     views = ViewTable(resources, classes);
+    const SettingsLock lock;
     RunServices();
 }
 
@@ -84,6 +89,9 @@ void Running::SetFolders(const Settings& settings) {
     std::error_code ignored;
     if (roamingFolder && !IoFails(Faults::Io::kCreateFolder)) {
         fs::create_directories(*roamingFolder, ignored);
+        std::error_code error;
+        static_cast<void>(fs::status(*roamingFolder / kDataBaseName, error));
+        if (error == std::errc::permission_denied) unreadable.Add(*roamingFolder, error.message());
     }
 }
 
@@ -97,6 +105,20 @@ void Running::SetLocale(const fs::path& resources, const char* name) {
     }
     locale = static_cast<PMLocaleId>(found - locales.begin());
     strings = StringTable(resources, wanted);
+}
+
+void Running::LockSettings() {
+    if (lockCount++ == 0) TakeLocks();
+}
+
+void Running::UnlockSettings() {
+    if (--lockCount == 0) locks.clear();
+}
+
+void Running::TakeLocks() {
+    // Where the settings lie is the plug-in's choice: the user's folder, or the application's one.
+    if (roamingFolder) locks.emplace_back(*roamingFolder);
+    if (appFolder) locks.emplace_back(*appFolder / "Plug-Ins");
 }
 
 void Running::RunServices() {

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <list>
 #include <optional>
 #include <vector>
 
 #include "IStartupShutdownService.h"
 #include "InterfacePtr.h"
 #include "LocaleSetting.h"
+#include "files/FolderLock.h"
 #include "host/runtime/Boss.h"
 #include "host/runtime/ClassTable.h"
 #include "host/runtime/ConsoleFrontEnd.h"
@@ -15,6 +17,7 @@
 #include "host/runtime/Library.h"
 #include "host/runtime/Memory.h"
 #include "host/runtime/StringTable.h"
+#include "host/runtime/Unreadable.h"
 #include "host/runtime/ViewTable.h"
 
 namespace host {
@@ -29,6 +32,10 @@ struct Running {
     void Start(const Settings& settings);
     Leaks Stop();
 
+    /** Locks the folders where settings lie, for as many times as they are not unlocked yet. */
+    void LockSettings();
+    void UnlockSettings();
+
     ConsoleFrontEnd console;
     FrontEnd* frontEnd = &console;
     bool showsAlerts = true;
@@ -38,6 +45,7 @@ struct Running {
     PMLocaleId locale = 0;
     StringTable strings;
     Memory memory;
+    Unreadable unreadable;
     DataBase dataBase;
     ClassTable classes;
     ViewTable views;
@@ -46,12 +54,29 @@ struct Running {
     Boss* application = nullptr;
     std::vector<Boss*> dialogs;                      // those not closed, a reference each
     std::vector<IStartupShutdownService*> services;  // those started, in order
+    std::list<files::FolderLock> locks;              // on the folders where settings lie
+    int lockCount = 0;
 
   private:
     void SetFolders(const Settings& settings);
     void SetLocale(const std::filesystem::path& resources, const char* name);
-    void LoadPlugIn(const std::filesystem::path& plugIn, const std::filesystem::path& resources);
     void RunServices();
+    void TakeLocks();
+    friend class WhileUserIsAsked;
+};
+
+/** Lets others have the locks on the settings as long as it lives. */
+class WhileUserIsAsked {
+  public:
+    explicit WhileUserIsAsked(Running& host) : running(host) { running.locks.clear(); }
+    WhileUserIsAsked(const WhileUserIsAsked&) = delete;
+    WhileUserIsAsked& operator=(const WhileUserIsAsked&) = delete;
+    ~WhileUserIsAsked() {
+        if (running.lockCount > 0) running.TakeLocks();
+    }
+
+  private:
+    Running& running;
 };
 
 /** The host that runs; nullptr when none does. */

@@ -1,5 +1,7 @@
 #include "host/runtime/Stream.h"
 
+#include <new>
+
 namespace host {
 
 IPMUnknown* Stream::QueryInterface(PMIID interfaceID) const noexcept {
@@ -10,7 +12,12 @@ IPMUnknown* Stream::QueryInterface(PMIID interfaceID) const noexcept {
 
 int32 Stream::XferByte(uchar* buffer, int32 count) noexcept {
     if (fState != kStreamStateGood || !buffer || count <= 0) return 0;
-    return Move(buffer, count);
+    try {
+        return Move(buffer, count);
+    } catch (const std::bad_alloc&) {
+        SetState(kStreamStateFailure);
+        return 0;
+    }
 }
 
 int32 Stream::XferInt32(int32& value) noexcept {

@@ -14,6 +14,7 @@ class PUBLIC_DECL IDFile {
     void SetString(const PMString& fullPath);
 
   private:
+    friend struct IDFilePath;  // the host's way to it
     struct Path;
     Path* fPath;
 };

@@ -156,12 +156,12 @@ TEST_F(PreferencesTest, AFolderInTheFilesPlaceStays) {
     EXPECT_TRUE(fs::is_directory(file));
 }
 
-TEST_F(PreferencesTest, WhatCannotBeReadGivesTheDefaults) {
+TEST_F(PreferencesTest, WhatCannotBeReadGivesTheDefaultsAndStays) {
     for (const auto io : {host::Faults::Io::kOpenRead, host::Faults::Io::kRead}) {
         Write(BytesOf(Changed()));
         host::Faults::FailIo(io);
         EXPECT_THAT(Run(), IsEmpty());
-        EXPECT_EQ(ContentOf(file), defaults);
+        EXPECT_EQ(ContentOf(file), BytesOf(Changed()));
     }
 }
 

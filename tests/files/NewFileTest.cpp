@@ -156,6 +156,7 @@ TEST_F(FolderLockTest, IsHadByOneAtATime) {
     {
         const files::FolderLock lock(folder);
         EXPECT_TRUE(lock.IsHeld());
+        EXPECT_FALSE(files::FolderLock(folder, 0ms).IsHeld());
     }
     const files::FolderLock again(folder);
     EXPECT_TRUE(again.IsHeld());

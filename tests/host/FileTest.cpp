@@ -218,7 +218,7 @@ TEST_F(FileTest, FailsToOpenWhenTold) {
     WriteFile(file, "old");
     host::Faults::FailIo(Io::kOpenRead);
     EXPECT_FALSE(OpenRead(file));
-    EXPECT_TRUE(OpenWrite(file));
+    EXPECT_FALSE(OpenWrite(file)) << "what could not be read would be lost";
     host::Faults::FailIo(Io::kOpenWrite);
     EXPECT_TRUE(OpenRead(file));
     EXPECT_FALSE(OpenWrite(file));

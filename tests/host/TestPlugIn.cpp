@@ -31,7 +31,14 @@ bool HostIsComplete() {
            FileUtils::GetAppFolder(&folder);
 }
 
-/** Fails when the application folder holds something named "refuse". */
+bool HasInAppFolder(const char* name) {
+    IDFile file;
+    FileUtils::GetAppFolder(&file);
+    FileUtils::AppendPath(&file, PMString(name));
+    return FileUtils::DoesFileExist(file);
+}
+
+/** Beeps when the application folder holds something named "beep", and fails when "refuse". */
 class Starter : public CPMUnknown<IStartupShutdownService> {
   public:
     using CPMUnknown::CPMUnknown;
@@ -39,10 +46,8 @@ class Starter : public CPMUnknown<IStartupShutdownService> {
     ErrorCode Startup() override {
         CAlert::InformationAlert(PMString("kStarted"));
         starts = HostIsComplete() ? starts + 1 : -1;
-        IDFile refuse;
-        FileUtils::GetAppFolder(&refuse);
-        FileUtils::AppendPath(&refuse, PMString("refuse"));
-        return FileUtils::DoesFileExist(refuse) ? kFailure : kSuccess;
+        if (HasInAppFolder("beep")) SysBeep();
+        return HasInAppFolder("refuse") ? kFailure : kSuccess;
     }
     void Shutdown() override { CAlert::InformationAlert(PMString("kStopped")); }
 };

@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -93,6 +94,32 @@ TEST_F(LinkTest, StaysWhenTheFileBehindItIsWritten) {
     stream->Close();
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
     EXPECT_EQ(ReadFile(folder / "file"), "x");
+}
+
+TEST_F(LinkTest, IsFollowedToAFileThatIsNotThereYet) {
+    fs::create_symlink("file", folder / "link");
+    const InterfacePtr<IPMStream> stream(
+        StreamUtil::CreateFileStreamWrite(FileAt(folder / "link"), kOpenOut | kOpenTrunc, 0, 0));
+    ASSERT_TRUE(stream);
+    stream->Close();
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    EXPECT_TRUE(fs::is_regular_file(folder / "file"));
+}
+
+using PipeTest = StartedHostTest;
+
+TEST_F(PipeTest, IsNeitherReadNorWritten) {
+    const fs::path pipe = folder / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(StreamUtil::CreateFileStreamRead(FileAt(pipe), kOpenIn, 0, 0), nullptr);
+    EXPECT_EQ(StreamUtil::CreateFileStreamWrite(FileAt(pipe), kOpenOut | kOpenTrunc, 0, 0),
+              nullptr);
+    fs::remove(pipe);
+    WriteFile(pipe, "a file");
+    EXPECT_TRUE(
+        InterfacePtr<IPMStream>(StreamUtil::CreateFileStreamRead(FileAt(pipe), kOpenIn, 0, 0)));
+    EXPECT_TRUE(InterfacePtr<IPMStream>(
+        StreamUtil::CreateFileStreamWrite(FileAt(pipe), kOpenOut | kOpenTrunc, 0, 0)));
 }
 
 TEST_F(LinkTest, ToADeviceIsNoFileToReplace) {
