@@ -17,9 +17,21 @@ constexpr std::size_t kPieceSize = 16384;
 constexpr DWORD kMostAtOnce = 1 << 30;
 constexpr DWORD kNoSharing = 0;
 
-/** Others that look at the file at the same time let go of it within this time. */
+/** Others that look at the file at the same time, or replace it, are done within this time. */
 constexpr int kTries = 100;
 constexpr DWORD kPause = 10;
+
+/** Whether a failure is one that others cause who have the file open. */
+bool IsOthersDoing(DWORD number) {
+    constexpr std::array kNumbers{ERROR_SHARING_VIOLATION,
+                                  ERROR_LOCK_VIOLATION,
+                                  ERROR_ACCESS_DENIED,
+                                  ERROR_ALREADY_EXISTS,
+                                  ERROR_UNABLE_TO_REMOVE_REPLACED,
+                                  ERROR_UNABLE_TO_MOVE_REPLACEMENT,
+                                  ERROR_USER_MAPPED_FILE};
+    return std::find(kNumbers.begin(), kNumbers.end(), static_cast<long>(number)) != kNumbers.end();
+}
 
 bool IsLink(const fs::path& path) {
     WIN32_FIND_DATAW found{};
@@ -197,6 +209,7 @@ struct NewFile::State {
                 return true;
             }
             number = GetLastError();
+            if (!IsOthersDoing(number)) break;
             Sleep(kPause);
         }
         return Fail("cannot be written", number);

@@ -16,8 +16,10 @@ namespace {
 
 /** What cannot be opened is not there, or else somebody hears of it. */
 Stream* NoStream(const fs::path& path, int reason) {
-    if (reason != ENOENT && reason != ENOTDIR)
-        GetRunning()->unreadable.Add(path, std::generic_category().message(reason));
+    if (reason == ENOENT || reason == ENOTDIR) return nullptr;
+    const bool isNoFile = reason == EINVAL;
+    GetRunning()->unreadable.Add(
+        path, isNoFile ? "it is no file" : std::generic_category().message(reason));
     return nullptr;
 }
 
