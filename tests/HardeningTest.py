@@ -43,7 +43,8 @@ def elf_objections(path):
         yield "no stack protector"
     if not re.search(r"__(mem|str|sn?printf|vsn?printf|f?printf|fread|read|pread)\w*_chk\b", symbols):
         yield "no fortified function"
-    if "endbr64" not in code:
+    # The C library brings a few of these into every file.
+    if code.count("endbr64") < 20:
         yield "no marks for indirect branches"
 
 

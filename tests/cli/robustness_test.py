@@ -59,6 +59,14 @@ class RobustnessTest(unittest.TestCase):
     def left(self):
         return sorted(path.name for path in self.output.iterdir())
 
+    def start_writing(self, source):
+        """A batch that has begun to write."""
+        process = self.start("batch", source, "-o", self.output / "a.csv")
+        while not self.left():
+            self.assertIsNone(process.poll())
+            time.sleep(0.002)
+        return process
+
     def source(self):
         return self.write("in.csv", rows("1", 1))
 
@@ -133,9 +141,7 @@ class RobustnessTest(unittest.TestCase):
     def test_a_signal_leaves_neither_draft_nor_output(self):
         source = self.write("long.csv", rows("1", 100_000))
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
-            process = self.start("batch", source, "-o", self.output / "a.csv")
-            while not self.left():
-                time.sleep(0.002)
+            process = self.start_writing(source)
             process.send_signal(number)
             process.communicate(timeout=60)
             self.assertEqual(process.returncode, -number)
@@ -143,9 +149,7 @@ class RobustnessTest(unittest.TestCase):
 
     def test_a_draft_of_a_killed_process_goes_after_an_hour(self):
         source = self.write("long.csv", rows("1", 100_000))
-        process = self.start("batch", source, "-o", self.output / "a.csv")
-        while not self.left():
-            time.sleep(0.002)
+        process = self.start_writing(source)
         process.kill()
         process.communicate(timeout=60)
         self.check("batch", self.source(), "-o", self.output / "b.csv")
