@@ -13,7 +13,7 @@ from pathlib import Path
 
 PROGRAM = os.path.abspath(sys.argv[1])
 SENTENCE = b"linewright: there is not enough memory\n"
-STEPS = 40
+STEPS = 20
 
 
 class MemoryTest(unittest.TestCase):
