@@ -7,6 +7,7 @@
 #include "cli/LoadedPreferences.h"
 #include "cli/PlugInConversion.h"
 #include "cli/Utf8.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -30,10 +31,10 @@ double ReductionOf(const std::string& text, double xDimension) {
     return LengthOf(number, "--bar-width-reduction", 1, true);
 }
 
-DrawingOptions OptionsOf(const DrawingWish& wish, const TypeDrawing& type,
+DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeType& type,
                          const EncodeRequest& request) {
     DrawingOptions options;
-    double x = type.xDimension;
+    double x = type.dimensions.xDimension;
     if (wish.xDimension) options.xDimension = x = LengthOf(*wish.xDimension, "--x-dimension", x);
     if (wish.height) options.height = LengthOf(*wish.height, "--height", x);
     if (wish.quietZone) options.quietZone = LengthOf(*wish.quietZone, "--quiet-zone", x, true);
@@ -65,11 +66,11 @@ DrawnBarcode DrawBarcode(Service& service, const EncodeRequest& request, bool is
     drawn.outcome = MakeBarcode(service, request, isStrict);
     BarcodeOutcome& outcome = drawn.outcome;
     if (!outcome.isMade) return drawn;
-    const TypeDrawing* const type = TypeDrawingOf(outcome.typeName);
+    const BarcodeType* const type = FindTypeByPrefix(outcome.typeName);
     if (type == nullptr) {
         throw Failure(fmt::format("{} has no font of ours", Readable(outcome.typeName)));
     }
-    drawn.meaning = MeaningOfRequest(request, type->typeName);
+    drawn.meaning = MeaningOfRequest(request, type->name);
     outcome.warnings.insert(outcome.warnings.end(), drawn.meaning.warnings.begin(),
                             drawn.meaning.warnings.end());
     if (isStrict && !outcome.warnings.empty()) {

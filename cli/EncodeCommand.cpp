@@ -8,7 +8,7 @@
 #include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/ReadAll.h"
-#include "cli/TypeNames.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -30,9 +30,12 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
 
 std::string JsonOf(const BarcodeOutcome& outcome) {
     const nlohmann::ordered_json object{
-        {"type", outcome.typeName},         {"shortName", ShortNameOf(outcome.typeName)},
-        {"status", outcome.status.value()}, {"hex", ToHex(outcome.bytes)},
-        {"text", FontText(outcome.bytes)},  {"warnings", outcome.warnings},
+        {"type", outcome.typeName},
+        {"shortName", FindTypeByPrefix(outcome.typeName)->shortName},
+        {"status", outcome.status.value()},
+        {"hex", ToHex(outcome.bytes)},
+        {"text", FontText(outcome.bytes)},
+        {"warnings", outcome.warnings},
     };
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }

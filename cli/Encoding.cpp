@@ -4,9 +4,9 @@
 
 #include <utility>
 
-#include "cli/TypeNames.h"
 #include "cli/Utf8.h"
 #include "cli/Warnings.h"
+#include "types/WrittenType.h"
 
 namespace linewright {
 
@@ -14,7 +14,7 @@ namespace {
 
 std::string UnknownType(std::string_view written) {
     return fmt::format("there is no type \"{}\"; nearest: {}", Readable(written.substr(0, 80)),
-                       fmt::join(NearestNames(written), ", "));
+                       fmt::join(NearestTypeNames(written), ", "));
 }
 
 /** The words of a marker such as "***Bad Code 39***"; "" for a text that is none. */
@@ -35,7 +35,8 @@ std::string WhyRefused(const EncodeAnswer& answer) {
 
 BarcodeOutcome MakeBarcode(Service& service, EncodeRequest request, bool isStrict) {
     const std::string written = std::exchange(request.typeName, "");
-    request.typeName = TypeNameOf(written);
+    const BarcodeType* const type = FindWrittenType(written).type;
+    request.typeName = type && !written.starts_with('_') ? type->name : written;
     BarcodeOutcome outcome;
     outcome.typeName = request.typeName;
     if (written.empty() || request.typeName.size() > kMaxPStringLength) {

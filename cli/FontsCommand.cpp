@@ -6,10 +6,9 @@
 #include <system_error>
 
 #include "cli/Failure.h"
-#include "cli/TypeNames.h"
 #include "cli/UserFonts.h"
 #include "cli/Utf8.h"
-#include "render/TypeDrawing.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -25,9 +24,9 @@ fs::path FileOf(const std::string& fonts, const BarcodeFace& face) {
 std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
     std::string names;
     double size = 0;
-    for (const TypeDrawing& type : TypeDrawings()) {
+    for (const BarcodeType& type : kBarcodeTypes) {
         if (type.face != face) continue;
-        names += (names.empty() ? "" : ", ") + std::string(ShortNameOf(type.typeName));
+        names += (names.empty() ? "" : ", ") + std::string(type.shortName);
         if (face != nullptr) size = type.Module() * face->modulesPerEm;
     }
     return {names, size};
@@ -37,7 +36,7 @@ std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
 
 ExitStatus RunFontsList(const std::string& fonts, Console& console) {
     console.out << fmt::format("{:28}{:>9}  {}\n", "font", "size", "types");
-    for (const BarcodeFace* const face : BarcodeFaces()) {
+    for (const BarcodeFace* const face : kBarcodeFaces) {
         const auto [names, size] = TypesOf(face);
         console.out << fmt::format("{:28}{:>6.2f} pt  {}\n", face->family, size, names);
     }
@@ -51,7 +50,7 @@ ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
     if (folder.empty()) throw Failure("the system names no folder for a user's fonts");
     std::error_code error;
     fs::create_directories(folder, error);
-    for (const BarcodeFace* const face : BarcodeFaces()) {
+    for (const BarcodeFace* const face : kBarcodeFaces) {
         const fs::path file = FileOf(fonts, *face);
         const fs::path installed = folder / file.filename();
         if (!error) {
@@ -63,7 +62,7 @@ ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
         }
         AnnounceFont(installed, std::string(face->family));
     }
-    console.out << fmt::format("{} fonts in {}\n", BarcodeFaces().size(), Utf8FromPath(folder));
+    console.out << fmt::format("{} fonts in {}\n", kBarcodeFaces.size(), Utf8FromPath(folder));
     return kDone;
 }
 

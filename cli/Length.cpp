@@ -8,7 +8,7 @@
 
 #include "cli/Failure.h"
 #include "cli/Utf8.h"
-#include "render/TypeDrawing.h"
+#include "types/Dimensions.h"
 
 namespace linewright {
 

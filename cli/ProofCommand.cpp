@@ -7,9 +7,9 @@
 #include "cli/DrawnBarcode.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
-#include "cli/TypeNames.h"
 #include "cli/Utf8.h"
 #include "render/Sheet.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -29,7 +29,7 @@ struct ProofCounts {
 };
 
 std::string FontOf(const BarcodeDrawing& drawing, std::string_view typeName) {
-    const TypeDrawing* const type = TypeDrawingOf(typeName);
+    const BarcodeType* const type = FindTypeByPrefix(typeName);
     if (type->face == nullptr) return "text, for any face";
     return fmt::format("{}, {:.2f} pt", type->face->family, drawing.FontSize());
 }
@@ -77,7 +77,8 @@ SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord&
         return Refused(fmt::format("{}, {}", Readable(wish.type), line), wish.data,
                        drawn.outcome.message);
     }
-    return EntryOf(drawn, wish, fmt::format("{}, {}", ShortNameOf(drawn.outcome.typeName), line),
+    return EntryOf(drawn, wish,
+                   fmt::format("{}, {}", FindTypeByPrefix(drawn.outcome.typeName)->shortName, line),
                    counts);
 }
 

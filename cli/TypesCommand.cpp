@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "cli/TypeNames.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -15,7 +15,7 @@ nlohmann::ordered_json JsonOf(std::size_t index, const TypeDescription& type) {
     nlohmann::ordered_json object{
         {"index", index},
         {"type", type.typeName},
-        {"shortName", ShortNameOf(type.typeName)},
+        {"shortName", FindTypeByPrefix(type.typeName)->shortName},
         {"displayText", type.displayText},
     };
     if (type.optionFlags) {
@@ -35,7 +35,7 @@ void PrintTable(const std::vector<TypeDescription>& types, std::ostream& out) {
     std::size_t shortWidth = 0;
     for (const TypeDescription& type : types) {
         nameWidth = std::max(nameWidth, type.typeName.size());
-        shortWidth = std::max(shortWidth, ShortNameOf(type.typeName).size());
+        shortWidth = std::max(shortWidth, FindTypeByPrefix(type.typeName)->shortName.size());
     }
     const auto print = [&](std::string_view index, std::string_view shortName,
                            std::string_view name, std::string_view flags, std::string_view text) {
@@ -44,7 +44,7 @@ void PrintTable(const std::vector<TypeDescription>& types, std::ostream& out) {
     };
     print("index", "short name", "type name", "flags", "display text");
     for (std::size_t i = 0; i < types.size(); ++i) {
-        print(std::to_string(i), ShortNameOf(types[i].typeName), types[i].typeName,
+        print(std::to_string(i), FindTypeByPrefix(types[i].typeName)->shortName, types[i].typeName,
               FlagsOf(types[i]), types[i].displayText);
     }
 }

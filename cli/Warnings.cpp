@@ -7,8 +7,8 @@
 #include <cstddef>
 
 #include "cli/PlugInConversion.h"
-#include "cli/TypeNames.h"
 #include "cli/Utf8.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -135,7 +135,8 @@ constexpr std::array<TypeRule, 15> kTypeRules{{
 }};
 
 TypeRule RuleOf(std::string_view typeName) {
-    const std::string_view shortName = ShortNameOf(typeName);
+    const BarcodeType* const type = FindTypeByPrefix(typeName);
+    const std::string_view shortName = type ? type->shortName : "";
     for (const TypeRule& rule : kTypeRules) {
         if (rule.shortName == shortName) return rule;
     }

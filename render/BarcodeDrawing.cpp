@@ -44,7 +44,7 @@ std::string Rounded(double number) {
 }
 
 /** Says what is wrong with a shape; "" when nothing is. */
-std::string ProblemOf(const TypeDrawing& type, const FontShape& shape, double millimetres) {
+std::string ProblemOf(const BarcodeType& type, const FontShape& shape, double millimetres) {
     if (type.HasFixedHeight() && shape.heightPercent != 100) {
         return "postal bars have the heights that their standard gives";
     }
@@ -62,13 +62,14 @@ std::string ProblemOf(const TypeDrawing& type, const FontShape& shape, double mi
 }  // namespace
 
 std::optional<BarcodeDrawing> BarcodeDrawing::Make(const std::filesystem::path& fonts,
-                                                   const TypeDrawing& type,
+                                                   const BarcodeType& type,
                                                    std::string_view fontString,
                                                    const DrawingOptions& options,
                                                    std::string& problem) {
     BarcodeDrawing drawing;
     drawing.face = type.face;
-    drawing.module = options.xDimension.value_or(type.xDimension) / type.modulesPerX;
+    drawing.module =
+        options.xDimension.value_or(type.dimensions.xDimension) / type.dimensions.modulesPerX;
     if (type.face == nullptr) {
         drawing.PlaceText(type, std::string(fontString));
         return drawing;
@@ -93,14 +94,14 @@ double BarcodeDrawing::FontSize() const {
     return face == nullptr ? 0 : module * face->modulesPerEm;
 }
 
-void BarcodeDrawing::PlaceGlyphs(const TypeDrawing& type, std::string_view fontString,
+void BarcodeDrawing::PlaceGlyphs(const BarcodeType& type, std::string_view fontString,
                                  const DrawingOptions& options) {
     Span ink;
     Span bars;
     Span upright;
     double x = 0;
     for (const char byte : fontString) {
-        const bool isLarge = type.hasLargeFirstDigit && glyphs.empty();
+        const bool isLarge = type.trait == Trait::kLargeFirstDigit && glyphs.empty();
         const GlyphBox glyph = font->GlyphOf(static_cast<unsigned char>(byte), isLarge);
         glyphs.push_back({glyph.index, x, 0});
         if (glyph.right > glyph.left) {
@@ -113,27 +114,29 @@ void BarcodeDrawing::PlaceGlyphs(const TypeDrawing& type, std::string_view fontS
         x += glyph.advance;
     }
     const bool hasAddOn = type.face->printsText && fontString.find(kAddOnStart) != fontString.npos;
-    const double quietRight = hasAddOn ? kAddOnQuiet : type.quietRight;
+    const double quietRight = hasAddOn ? kAddOnQuiet : type.dimensions.quietRight;
     const auto quiet = [&](double usual) {
         return options.quietZone ? *options.quietZone / module : usual;
     };
-    const double left = std::floor(std::min(ink.from, bars.from - quiet(type.quietLeft)));
+    const double left =
+        std::floor(std::min(ink.from, bars.from - quiet(type.dimensions.quietLeft)));
     const double right = std::ceil(std::max(ink.to, bars.to + quiet(quietRight)));
-    const double above = std::ceil(upright.to + type.quietVertical);
+    const double above = std::ceil(upright.to + type.dimensions.quietVertical);
     width = static_cast<int>(right - left);
-    height = static_cast<int>(std::ceil(above - upright.from + type.quietVertical));
+    height = static_cast<int>(std::ceil(above - upright.from + type.dimensions.quietVertical));
     for (cairo_glyph_t& glyph : glyphs) {
         glyph.x -= left;
         glyph.y = above;
     }
 }
 
-void BarcodeDrawing::PlaceText(const TypeDrawing& type, const std::string& shownText) {
+void BarcodeDrawing::PlaceText(const BarcodeType& type, const std::string& shownText) {
     text = shownText;
-    textSize = (type.HasFixedHeight() ? kPostalTextSize : kTextSize) * type.modulesPerX;
+    textSize = (type.HasFixedHeight() ? kPostalTextSize : kTextSize) * type.dimensions.modulesPerX;
     double wide = TextWidth(text, textSize);
     if (type.face == nullptr) {
-        width = static_cast<int>(std::ceil(wide + type.quietLeft + type.quietRight));
+        width = static_cast<int>(
+            std::ceil(wide + type.dimensions.quietLeft + type.dimensions.quietRight));
     } else if (wide > width) {
         textSize *= width / wide;
         wide = width;

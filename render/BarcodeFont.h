@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "render/BarcodeFace.h"
+#include "types/BarcodeFace.h"
 
 namespace linewright {
 

@@ -4,20 +4,9 @@
 #include <string_view>
 #include <vector>
 
-namespace linewright {
+#include "types/BarcodeType.h"
 
-enum class Symbology {
-    /** Digits to be read by people. */
-    kText,
-    kCode128,
-    kCode39,
-    kCodabar,
-    kInterleaved2of5,
-    kEanUpc,
-    kMsi,
-    kPostnet,
-    kIntelligentMail,
-};
+namespace linewright {
 
 /** The preferences that change what the classic types carry; the plug-in's defaults. */
 struct EncoderSettings {

@@ -26,9 +26,6 @@ struct Reading {
     bool isMeant = false;
 };
 
-/** Whether these scanners know the symbology. */
-bool HasScanner(Symbology symbology);
-
 // The scanners. Both look for the symbology of the task alone and never see what is expected.
 
 Reading ReadWithZxing(const GreyRaster& picture, const ScannerTask& task);

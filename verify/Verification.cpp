@@ -27,17 +27,6 @@ void AppendShown(std::string& text, unsigned char byte) {
 
 }  // namespace
 
-bool HasScanner(Symbology symbology) {
-    switch (symbology) {
-        case Symbology::kCode128:
-        case Symbology::kCode39:
-        case Symbology::kCodabar:
-        case Symbology::kInterleaved2of5:
-        case Symbology::kEanUpc: return true;
-        default: return false;
-    }
-}
-
 bool IsMeant(const Reading& reading, const Meaning& meaning) {
     return reading.isFound &&
            reading.data == (reading.isTranslated ? meaning.translated : meaning.carried) &&

@@ -41,7 +41,7 @@ Scanner ScannerFor(const ScannerTask& task) {
             Enable(scanner.get(), zbar::ZBAR_CODABAR);
             AllowLength(scanner.get(), zbar::ZBAR_CODABAR, 1);
             break;
-        case Symbology::kInterleaved2of5:
+        case Symbology::kInterleavedTwoOfFive:
             Enable(scanner.get(), zbar::ZBAR_I25);
             AllowLength(scanner.get(), zbar::ZBAR_I25, 2);
             break;

@@ -17,7 +17,7 @@ ZXing::BarcodeFormats FormatsOf(Symbology symbology) {
         case Symbology::kCode128: return BarcodeFormat::Code128;
         case Symbology::kCode39: return BarcodeFormat::Code39;
         case Symbology::kCodabar: return BarcodeFormat::Codabar;
-        case Symbology::kInterleaved2of5: return BarcodeFormat::ITF;
+        case Symbology::kInterleavedTwoOfFive: return BarcodeFormat::ITF;
         case Symbology::kEanUpc:
             return BarcodeFormat::EAN13 | BarcodeFormat::EAN8 | BarcodeFormat::UPCA |
                    BarcodeFormat::UPCE;

@@ -18,6 +18,7 @@
 #include "cli/Failure.h"
 #include "cli/FontText.h"
 #include "render/Export.h"
+#include "types/BarcodeTypes.h"
 #include "workbench/Text.h"
 
 namespace linewright {
@@ -240,8 +241,8 @@ void BarcodePage::Show(DrawnBarcode& drawn) {
     fFont->clear();
     double pixelsPerModule = 1;
     if (drawn.drawing) {
-        const TypeDrawing& type = *TypeDrawingOf(outcome.typeName);
-        pixelsPerModule = static_cast<double>(fZoom->value()) / type.modulesPerX;
+        const BarcodeType& type = *FindTypeByPrefix(outcome.typeName);
+        pixelsPerModule = static_cast<double>(fZoom->value()) / type.dimensions.modulesPerX;
         if (type.face != nullptr)
             fFont->setText(QString::fromUtf8(type.face->family.data(),
                                              static_cast<qsizetype>(type.face->family.size())) +

@@ -229,11 +229,11 @@ TEST(Encode, SaysWhyItRefuses) {
 
 TEST(Encode, OffersNamesForAnUnknownType) {
     const CommandRunner command;
-    const auto result = command.Run({"encode", "ean-13", "1"});
+    const auto result = command.Run({"encode", "eann13", "1"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.out, "");
     EXPECT_THAT(result.err,
-                StartsWith("linewright: refused: there is no type \"ean-13\"; nearest: ean13, "));
+                StartsWith("linewright: refused: there is no type \"eann13\"; nearest: ean13, "));
     EXPECT_EQ(command.Run({"encode", "", "1"}).status, 1);
     EXPECT_EQ(command.Run({"encode", std::string(300, 'x'), "1"}).status, 1);
     EXPECT_EQ(command.Run({"encode", "_barcode_ean13_", "1"}).status, 1);

@@ -3,7 +3,6 @@
 #include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/PlugInConversion.h"
-#include "cli/TypeNames.h"
 #include "cli/Utf8.h"
 
 namespace linewright {
@@ -96,25 +95,6 @@ TEST(PlugInConversion, TrimsSpacesUnlessThereIsNothingElse) {
     EXPECT_EQ(TrimLikePlugIn("\ta\n"), "\ta\n");
     EXPECT_EQ(TrimLikePlugIn("   "), "   ");
     EXPECT_EQ(TrimLikePlugIn(""), "");
-}
-
-TEST(TypeNames, AreFoundByTheirShortNames) {
-    EXPECT_EQ(TypeNameOf("imb"), "_BARCODE_USPS_IM_");
-    EXPECT_EQ(TypeNameOf("ean8"), "_BARCODE_EAN8_");
-    EXPECT_EQ(TypeNameOf("code39"), "_QVT_BARCODE_CODE39_");
-    EXPECT_EQ(TypeNameOf("classic-code39"), "_BARCODE_CODE39_");
-    EXPECT_EQ(TypeNameOf("anything else"), "anything else");
-    EXPECT_EQ(ShortNameOf("_QVT_BARCODE_I2OF5_TEXT_"), "i2of5-text");
-    EXPECT_EQ(ShortNameOf("ean13"), "");
-}
-
-TEST(TypeNames, AreOfferedByLikeness) {
-    EXPECT_EQ(NearestNames("ean-13").front(), "ean13");
-    EXPECT_EQ(NearestNames("EAN8").front(), "ean8");
-    EXPECT_EQ(NearestNames("clasic-upc-a").front(), "classic-upca");
-    EXPECT_EQ(NearestNames("_BARCODE_EAN_13_").front(), "_BARCODE_EAN13_");
-    EXPECT_EQ(NearestNames("").size(), 3U);
-    EXPECT_EQ(NearestNames(std::string(1'000'000, 'x')).size(), 3U);
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 
 #include "cli/Encoding.h"
 #include "cli/Hex.h"
-#include "cli/TypeNames.h"
 #include "tests/cli/CommandRunner.h"
+#include "types/WrittenType.h"
 
 namespace linewright {
 
@@ -52,7 +52,7 @@ class WarningsTest : public testing::TestWithParam<Row> {};
 
 TEST_P(WarningsTest, SayWhatThePlugInDoes) {
     const EncodeRequest request = GetParam().Request();
-    EXPECT_EQ(Warnings(TypeNameOf(request.typeName), request.data, request.isUtf8),
+    EXPECT_EQ(Warnings(FindWrittenType(request.typeName).type->name, request.data, request.isUtf8),
               GetParam().Expected())
         << GetParam().fields;
 }

@@ -40,7 +40,8 @@ std::string ProblemWith(std::string_view type, const std::string& fontString,
                         const DrawingOptions& options,
                         const std::filesystem::path& fonts = LINEWRIGHT_FONTS) {
     std::string problem;
-    EXPECT_FALSE(BarcodeDrawing::Make(fonts, *TypeDrawingOf(type), fontString, options, problem));
+    EXPECT_FALSE(
+        BarcodeDrawing::Make(fonts, *FindTypeByPrefix(type), fontString, options, problem));
     return problem;
 }
 
@@ -84,7 +85,7 @@ TEST(DrawingTest, QuietZonesAreTheStandards) {
 }
 
 TEST(DrawingTest, TheQuietZoneCanBeChosen) {
-    const double x = TypeDrawingOf(kCode39)->xDimension;
+    const double x = FindTypeByPrefix(kCode39)->dimensions.xDimension;
     const GreyRaster picture = Drawn(kCode39, kCode39String, {.quietZone = 20 * x}).Raster(1);
     EXPECT_EQ(RunsAt(picture, 5).front(), 20);
     EXPECT_EQ(RunsAt(picture, 5).back(), 20);
@@ -190,14 +191,6 @@ TEST(DrawingTest, AnEmptyFontStringIsAnEmptyDrawing) {
 TEST(DrawingTest, SaysWhichFontIsMissing) {
     EXPECT_THAT(ProblemWith(kCode39, kCode39String, {}, "/nowhere"),
                 HasSubstr("/nowhere/LinewrightBars.ttf"));
-}
-
-TEST(DrawingTest, EveryTypeHasItsRow) {
-    EXPECT_EQ(TypeDrawings().size(), 27U);
-    EXPECT_EQ(BarcodeFaces().size(), 10U);
-    EXPECT_EQ(TypeDrawingOf("_BARCODE_NONE_"), nullptr);
-    EXPECT_EQ(TypeDrawingOf("_QVT_BARCODE_I2OF5_TEXT_")->face, nullptr);
-    EXPECT_EQ(TypeDrawingOf("_QVT_BARCODE_I2OF5_")->face, &kBarsFace);
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ inline std::string Encoded(std::string_view typeName, const std::string& data, b
 inline BarcodeDrawing Drawn(std::string_view typeName, const std::string& fontString,
                             const DrawingOptions& options = {}) {
     std::string problem;
-    auto drawing = BarcodeDrawing::Make(LINEWRIGHT_FONTS, *TypeDrawingOf(typeName), fontString,
+    auto drawing = BarcodeDrawing::Make(LINEWRIGHT_FONTS, *FindTypeByPrefix(typeName), fontString,
                                         options, problem);
     EXPECT_TRUE(drawing) << problem;
     return std::move(drawing).value();
