@@ -5,6 +5,8 @@
 #include <map>
 #include <set>
 
+#include "cli/Length.h"
+
 namespace linewright {
 
 namespace {
@@ -138,14 +140,25 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
 /** The options of these commands fill a screen: --help is not among those that it lists. */
 void AddDrawing(CLI::App& command, DrawingWish& wish) {
     command.get_help_ptr()->group("");
-    const auto add = [&command](const char* name, std::optional<std::string>& value,
-                                const char* kind, const char* help) {
-        command.add_option(name, value, help)->type_name(kind);
+    const auto add = [&command](const char* name, auto& value, const char* kind, auto parse,
+                                const char* help) {
+        command
+            .add_option_function<std::string>(
+                name, [&value, name, parse](const std::string& text) { value = parse(text, name); },
+                help)
+            ->type_name(kind);
     };
-    add("--x-dimension", wish.xDimension, "LENGTH", "Narrowest bar: 0.33mm, 10mil, 0.7pt");
-    add("--height", wish.height, "LENGTH", "Bars: 15mm, or 50x of the narrowest bar");
-    add("--quiet-zone", wish.quietZone, "LENGTH", "White on both sides");
-    add("--bar-width-reduction", wish.barWidthReduction, "A",
+    const auto length = [](const std::string& text, const char* name) {
+        return LengthOf(text, name);
+    };
+    const auto lengthOrNone = [](const std::string& text, const char* name) {
+        return LengthOf(text, name, true);
+    };
+    add("--x-dimension", wish.xDimension, "LENGTH", XDimensionOf,
+        "Narrowest bar: 0.33mm, 10mil, 0.7pt");
+    add("--height", wish.height, "LENGTH", length, "Bars: 15mm, or 50x of the narrowest bar");
+    add("--quiet-zone", wish.quietZone, "LENGTH", lengthOrNone, "White on both sides");
+    add("--bar-width-reduction", wish.barWidthReduction, "A", ReductionOf,
         "Narrower bars: by 10% of the narrowest, or 0.03mm");
 }
 

@@ -9,7 +9,7 @@
 #include "cli/DialogCommand.h"
 #include "cli/DrawCommand.h"
 #include "cli/EncodeCommand.h"
-#include "cli/Service.h"
+#include "requests/Service.h"
 
 namespace linewright {
 

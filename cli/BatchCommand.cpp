@@ -5,11 +5,11 @@
 #include <chrono>
 
 #include "cli/BatchFile.h"
-#include "cli/Encoding.h"
 #include "cli/Failure.h"
 #include "cli/FontText.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
+#include "cli/Words.h"
 
 namespace linewright {
 
@@ -59,23 +59,21 @@ class Progress {
     bool isShown = false;
 };
 
-RowResult ResultOf(Service& service, const RowWish& wish, const BatchOptions& options,
+RowResult ResultOf(Service& service, const BarcodeWish& wish, const BatchOptions& options,
                    Counts& counts) {
-    const EncodeRequest request = wish.Request();
-    const ScannedBarcode made =
-        options.isVerified
-            ? EncodeAndScan(service, request, options.isStrict, options.fonts)
-            : ScannedBarcode{MakeBarcode(service, request, options.isStrict), "", ""};
-    if (!made.outcome.isMade) {
+    const ScannedBarcode made = options.isVerified
+                                    ? EncodeAndScan(service, wish, options.fonts)
+                                    : ScannedBarcode{MakeBarcode(service, wish), "", ""};
+    if (!made.outcome.IsMade()) {
         ++counts.refused;
-    } else if (!made.outcome.warnings.empty()) {
+    } else if (!made.outcome.Warnings().empty()) {
         ++counts.warned;
     }
     return {
         .barcode = FontText(made.outcome.bytes),
         .status = made.outcome.status ? std::to_string(*made.outcome.status) : "",
-        .message = made.outcome.message,
-        .warning = Joined(made.outcome.warnings),
+        .message = WhyRefused(made.outcome),
+        .warning = JoinedWarnings(made.outcome),
         .scan = made.scan,
         .read = made.read,
     };
@@ -83,7 +81,7 @@ RowResult ResultOf(Service& service, const RowWish& wish, const BatchOptions& op
 
 RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
                       const BatchOptions& options, Counts& counts) {
-    RowWish wish;
+    BarcodeWish wish;
     try {
         wish = batch.Columns().WishOf(row);
     } catch (const Failure& failure) {

@@ -12,6 +12,7 @@
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
 #include "cli/Utf8.h"
+#include "cli/Words.h"
 
 namespace linewright {
 
@@ -56,6 +57,12 @@ void ReportLeaks(const host::Leaks& leaks, std::ostream& err) {
                        leaks.blocks, leaks.references);
 }
 
+ExitStatus SayTrouble(std::string_view sentence, Console& console) {
+    console.out.flush();
+    console.err << "linewright: " << sentence << '\n';
+    return kTrouble;
+}
+
 ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::path& programFolder,
                Console& console) {
     ExitStatus exitStatus = kDone;
@@ -80,10 +87,12 @@ int RunCommand(const std::vector<std::string>& arguments,
                const std::filesystem::path& programFolder, Console& console) noexcept {
     try {
         return Run(arguments, programFolder, console);
+    } catch (const RequestFailure& failure) {
+        return SayTrouble(Sentence(failure), console);
+    } catch (const DrawingFailure& failure) {
+        return SayTrouble(Sentence(failure), console);
     } catch (const std::exception& failure) {
-        console.out.flush();
-        console.err << "linewright: " << failure.what() << '\n';
-        return kTrouble;
+        return SayTrouble(failure.what(), console);
     }
 }
 

@@ -8,7 +8,7 @@
 
 #include "CoreResTypes.h"
 #include "cli/Failure.h"
-#include "cli/HostText.h"
+#include "requests/HostText.h"
 #include "cli/Utf8.h"
 #include "core/IORTALinewright.h"
 #include "host/runtime/Menus.h"

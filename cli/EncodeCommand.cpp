@@ -4,11 +4,11 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/Encoding.h"
 #include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/ReadAll.h"
-#include "types/BarcodeTypes.h"
+#include "cli/Words.h"
+#include "cli/WarningWords.h"
 
 namespace linewright {
 
@@ -28,19 +28,21 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
     return data;
 }
 
-std::string JsonOf(const BarcodeOutcome& outcome) {
+std::string JsonOf(const Outcome& outcome) {
+    std::vector<std::string> warnings;
+    for (const Warning& warning : outcome.Warnings()) warnings.push_back(Sentence(warning));
     const nlohmann::ordered_json object{
         {"type", outcome.typeName},
-        {"shortName", FindTypeByPrefix(outcome.typeName)->shortName},
+        {"shortName", outcome.type->shortName},
         {"status", outcome.status.value()},
         {"hex", ToHex(outcome.bytes)},
         {"text", FontText(outcome.bytes)},
-        {"warnings", outcome.warnings},
+        {"warnings", warnings},
     };
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, std::ostream& out) {
+void Print(const Outcome& outcome, EncodeOptions::Form form, std::ostream& out) {
     switch (form) {
         case EncodeOptions::Form::kText: out << FontText(outcome.bytes) << '\n'; break;
         case EncodeOptions::Form::kJson: out << JsonOf(outcome) << '\n'; break;
@@ -51,31 +53,31 @@ void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, std::ostream
 
 }  // namespace
 
-EncodeRequest RequestOf(const EncodeOptions& options, Console& console) {
+BarcodeWish WishOf(const EncodeOptions& options, Console& console) {
     return {
-        .typeName = options.type,
+        .type = options.type,
         .data = DataOf(options, console.in),
         .isUtf8 = !options.isBytes,
         .checkCharacter = static_cast<uint8>(options.isCheckWanted ? 1 : 0),
         .ratio = options.ratio,
+        .isStrict = options.isStrict,
     };
 }
 
-void ReportOutcome(const BarcodeOutcome& outcome, Console& console) {
-    for (const std::string& warning : outcome.warnings) {
-        console.err << "linewright: warning: " << warning << '\n';
+void ReportOutcome(const Outcome& outcome, Console& console) {
+    for (const Warning& warning : outcome.Warnings()) {
+        console.err << "linewright: warning: " << Sentence(warning) << '\n';
     }
-    if (outcome.isMade) return;
+    if (outcome.IsMade()) return;
     console.err << "linewright: refused"
                 << (outcome.status ? fmt::format(" (status {})", *outcome.status) : "") << ": "
-                << outcome.message << '\n';
+                << WhyRefused(outcome) << '\n';
 }
 
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
-    const BarcodeOutcome outcome =
-        MakeBarcode(service, RequestOf(options, console), options.isStrict);
+    const Outcome outcome = MakeBarcode(service, WishOf(options, console));
     ReportOutcome(outcome, console);
-    if (!outcome.isMade) return kRefused;
+    if (!outcome.IsMade()) return kRefused;
     Print(outcome, options.form, console.out);
     return kDone;
 }

@@ -3,8 +3,7 @@
 #include <string>
 
 #include "cli/Console.h"
-#include "cli/Encoding.h"
-#include "cli/Service.h"
+#include "requests/Outcome.h"
 
 namespace linewright {
 
@@ -21,11 +20,11 @@ struct EncodeOptions {
     Form form = Form::kText;
 };
 
-/** The request that options ask for; reads standard input where they say so. */
-EncodeRequest RequestOf(const EncodeOptions& options, Console& console);
+/** What options ask for; reads standard input where they say so. */
+BarcodeWish WishOf(const EncodeOptions& options, Console& console);
 
 /** Warnings and a refusal, to standard error. */
-void ReportOutcome(const BarcodeOutcome& outcome, Console& console);
+void ReportOutcome(const Outcome& outcome, Console& console);
 
 /** Makes one barcode: the font string to standard output, warnings and refusals to standard error,
  *  kRefused for a refusal. */

@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include "cli/Failure.h"
-#include "cli/HostText.h"
+#include "requests/HostText.h"
 #include "cli/LoadedPreferences.h"
 #include "cli/PreferenceFields.h"
 #include "cli/Utf8.h"

@@ -4,12 +4,14 @@
 
 #include "cli/BatchFile.h"
 #include "cli/DrawCommand.h"
-#include "cli/DrawnBarcode.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
 #include "cli/Utf8.h"
+#include "cli/WarningWords.h"
+#include "cli/Words.h"
 #include "render/Sheet.h"
-#include "types/BarcodeTypes.h"
+#include "requests/DrawnBarcode.h"
+#include "verify/Verification.h"
 
 namespace linewright {
 
@@ -28,10 +30,9 @@ struct ProofCounts {
     }
 };
 
-std::string FontOf(const BarcodeDrawing& drawing, std::string_view typeName) {
-    const BarcodeType* const type = FindTypeByPrefix(typeName);
-    if (type->face == nullptr) return "text, for any face";
-    return fmt::format("{}, {:.2f} pt", type->face->family, drawing.FontSize());
+std::string FontOf(const BarcodeDrawing& drawing, const BarcodeType& type) {
+    if (type.face == nullptr) return "text, for any face";
+    return fmt::format("{}, {:.2f} pt", type.face->family, drawing.FontSize());
 }
 
 SheetEntry Refused(std::string title, const std::string& data, const std::string& message) {
@@ -40,21 +41,19 @@ SheetEntry Refused(std::string title, const std::string& data, const std::string
             {fmt::format("data     {}", Readable(data)), fmt::format("refused  {}", message)}};
 }
 
-SheetEntry EntryOf(const DrawnBarcode& drawn, const RowWish& wish, std::string title,
+SheetEntry EntryOf(const DrawnBarcode& drawn, const BarcodeWish& wish, std::string title,
                    ProofCounts& counts) {
-    const Verification verification = Verify(*drawn.drawing, drawn.meaning);
+    const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
     if (verification.verdict == Verdict::kNoScanner) ++counts.withoutScanner;
-    const bool isBad =
-        verification.verdict == Verdict::kScansAs || verification.verdict == Verdict::kDoesNotScan;
-    if (isBad) ++counts.unreadable;
+    if (verification.IsBad()) ++counts.unreadable;
     SheetEntry entry{drawn.drawing, std::move(title), {}};
     entry.lines.push_back(fmt::format("data  {}", Readable(wish.data)));
-    entry.lines.push_back(fmt::format("font  {}", FontOf(*drawn.drawing, drawn.outcome.typeName)));
-    const std::string read = WhatWasRead(verification);
+    entry.lines.push_back(fmt::format("font  {}", FontOf(*drawn.drawing, *drawn.outcome.type)));
+    const std::string read = verification.WhatWasRead();
     entry.lines.push_back(
         fmt::format("read  {}{}", verification.Words(), read.empty() ? "" : ": " + read));
-    for (const std::string& warning : drawn.outcome.warnings) {
-        entry.lines.push_back("note  " + warning);
+    for (const Warning& warning : drawn.outcome.Warnings()) {
+        entry.lines.push_back("note  " + Sentence(warning));
     }
     return entry;
 }
@@ -63,22 +62,21 @@ SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord&
                       const BatchOptions& options, const DrawOptions& drawing,
                       ProofCounts& counts) {
     const std::string line = fmt::format("line {}", row.line);
-    RowWish wish;
+    BarcodeWish wish;
     try {
         wish = batch.Columns().WishOf(row);
     } catch (const Failure& failure) {
         ++counts.refused;
         return Refused(line, "", failure.what());
     }
-    const DrawnBarcode drawn =
-        DrawBarcode(service, wish.Request(), options.isStrict, drawing.drawing);
+    const DrawnBarcode drawn = DrawBarcode(service, wish, drawing.drawing);
     if (!drawn.drawing) {
         ++counts.refused;
         return Refused(fmt::format("{}, {}", Readable(wish.type), line), wish.data,
-                       drawn.outcome.message);
+                       WhyRefused(drawn.outcome));
     }
     return EntryOf(drawn, wish,
-                   fmt::format("{}, {}", FindTypeByPrefix(drawn.outcome.typeName)->shortName, line),
+                   fmt::format("{}, {}", drawn.outcome.type->shortName, line),
                    counts);
 }
 

@@ -2,14 +2,13 @@
 
 #include <string>
 
-#include "cli/Encoding.h"
-#include "cli/Service.h"
+#include "requests/Outcome.h"
 
 namespace linewright {
 
 /** A barcode and what scanners made of it. Texts are UTF-8, "" for a refusal. */
 struct ScannedBarcode {
-    BarcodeOutcome outcome;
+    Outcome outcome;
     /** "scans", "scans as …", "does not scan" or "no scanner for this symbology". */
     std::string scan;
     /** What the scanners read. */
@@ -18,7 +17,6 @@ struct ScannedBarcode {
 
 /** Makes a barcode, draws it in memory with the fonts in the folder `fonts` and reads it back.
  *  Throws Failure where there is no renderer (Windows). */
-ScannedBarcode EncodeAndScan(Service& service, const EncodeRequest& request, bool isStrict,
-                             const std::string& fonts);
+ScannedBarcode EncodeAndScan(Service& service, const BarcodeWish& wish, const std::string& fonts);
 
 }  // namespace linewright

@@ -9,6 +9,7 @@
 #include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
+#include "cli/Words.h"
 
 namespace linewright {
 
@@ -24,6 +25,10 @@ ordered_json AnswerOf(const EncodeAnswer& answer) {
         {"hex", ToHex(answer.bytes)}, {"text", FontText(answer.bytes)},
         {"hint", answer.hint},
     };
+}
+
+ordered_json ErrorAt(std::size_t line, const std::string& sentence) {
+    return {{"error", fmt::format("line {}: {}", line, sentence)}};
 }
 
 }  // namespace
@@ -44,7 +49,10 @@ ExitStatus RunStream(Service& service, Console& console) {
             }
             answer = AnswerOf(service.Encode(ParseStreamRequest(line)));
         } catch (const Failure& failure) {
-            answer = {{"error", fmt::format("line {}: {}", number, failure.what())}};
+            answer = ErrorAt(number, failure.what());
+            exitStatus = kTrouble;
+        } catch (const RequestFailure& failure) {
+            answer = ErrorAt(number, Sentence(failure));
             exitStatus = kTrouble;
         }
         console.out << answer.dump() << '\n';

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "cli/Service.h"
+#include "requests/Service.h"
 
 namespace linewright {
 

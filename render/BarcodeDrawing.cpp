@@ -24,7 +24,7 @@ constexpr double kDescent = 0.24;
 
 constexpr double kLeastHeight = 25;
 constexpr double kMostHeight = 400;
-constexpr double kMostReduction = 25;
+constexpr int kMostReduction = 25;
 
 struct Span {
     double from = 0;
@@ -43,20 +43,20 @@ std::string Rounded(double number) {
     return text.substr(0, text.find('.') + 3);
 }
 
-/** Says what is wrong with a shape; "" when nothing is. */
-std::string ProblemOf(const BarcodeType& type, const FontShape& shape, double millimetres) {
-    if (type.HasFixedHeight() && shape.heightPercent != 100) {
-        return "postal bars have the heights that their standard gives";
-    }
+/** What is wrong with a shape, if anything. */
+std::optional<DrawingProblem> ProblemOf(const BarcodeType& type, const FontShape& shape,
+                                        double millimetres) {
+    using Reason = DrawingProblem::Reason;
+    if (type.HasFixedHeight() && shape.heightPercent != 100) return {{Reason::kFixedHeight}};
     if (!(shape.heightPercent >= kLeastHeight && shape.heightPercent <= kMostHeight)) {
-        return "the bars can be " + Rounded(millimetres * kLeastHeight / shape.heightPercent) +
-               " mm to " + Rounded(millimetres * kMostHeight / shape.heightPercent) +
-               " mm high at this X-dimension";
+        return {{Reason::kHeight,
+                 {Rounded(millimetres * kLeastHeight / shape.heightPercent),
+                  Rounded(millimetres * kMostHeight / shape.heightPercent)}}};
     }
     if (!(shape.reductionPercent >= 0 && shape.reductionPercent <= kMostReduction)) {
-        return "bars can be 0 % to 25 % of the narrowest bar narrower";
+        return {{Reason::kReduction, {std::to_string(kMostReduction)}}};
     }
-    return "";
+    return std::nullopt;
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ std::optional<BarcodeDrawing> BarcodeDrawing::Make(const std::filesystem::path& 
                                                    const BarcodeType& type,
                                                    std::string_view fontString,
                                                    const DrawingOptions& options,
-                                                   std::string& problem) {
+                                                   DrawingProblem& problem) {
     BarcodeDrawing drawing;
     drawing.face = type.face;
     drawing.module =
@@ -78,8 +78,10 @@ std::optional<BarcodeDrawing> BarcodeDrawing::Make(const std::filesystem::path& 
     if (options.height) {
         shape.heightPercent = 100 * *options.height / (drawing.module * type.face->barHeight);
     }
-    problem = ProblemOf(type, shape, options.height.value_or(0) / kMillimetre);
-    if (!problem.empty()) return std::nullopt;
+    if (auto found = ProblemOf(type, shape, options.height.value_or(0) / kMillimetre)) {
+        problem = *std::move(found);
+        return std::nullopt;
+    }
     drawing.font = BarcodeFont::Load(fonts, *type.face, shape, problem);
     if (!drawing.font) return std::nullopt;
     if (drawing.font->IsVariable()) drawing.form = Form::kPaths;

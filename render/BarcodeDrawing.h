@@ -39,11 +39,11 @@ class BarcodeDrawing {
     /** How a page gets the bars: as text in the font, or as filled outlines. */
     enum class Form { kText, kPaths };
 
-    /** None, with a sentence in `problem`, when a font cannot be read or a height not be had.
+    /** None, with the reason in `problem`, when a font cannot be read or a height not be had.
      *  `fonts` is the folder that holds the fonts' files. */
     static std::optional<BarcodeDrawing> Make(const std::filesystem::path& fonts,
                                               const BarcodeType& type, std::string_view fontString,
-                                              const DrawingOptions& options, std::string& problem);
+                                              const DrawingOptions& options, DrawingProblem& problem);
 
     int Width() const { return width; }
     int Height() const { return height; }

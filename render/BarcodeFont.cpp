@@ -54,7 +54,8 @@ FT_ULong CharacterOf(unsigned char byte) {
 
 std::unique_ptr<const BarcodeFont> BarcodeFont::Load(const std::filesystem::path& folder,
                                                      const BarcodeFace& face,
-                                                     const FontShape& shape, std::string& problem) {
+                                                     const FontShape& shape,
+                                                     DrawingProblem& problem) {
     FontShape axes = shape;
     double stretch = 1;
     if (!face.printsText) {
@@ -63,12 +64,12 @@ std::unique_ptr<const BarcodeFont> BarcodeFont::Load(const std::filesystem::path
     const std::string path = FileOf(folder, face, axes).string();
     FT_Face file = nullptr;
     if (FT_New_Face(Library(), path.c_str(), 0, &file) != 0) {
-        problem = path + ": there is no such font, or it cannot be read";
+        problem = {DrawingProblem::Reason::kNoFont, {path}};
         return nullptr;
     }
     if (!SetShape(file, axes)) {
         FT_Done_Face(file);
-        problem = path + ": the font has not the axes that are asked for";
+        problem = {DrawingProblem::Reason::kNoAxes, {path}};
         return nullptr;
     }
     return std::unique_ptr<const BarcodeFont>(new BarcodeFont(file, face, axes, stretch));

@@ -50,6 +50,20 @@ std::string Verification::Words() const {
     return "scans as " + (other == readings.end() ? std::string() : ShownData(*other));
 }
 
+std::string Verification::WhatWasRead() const {
+    std::string text;
+    for (const Reading& reading : readings) {
+        if (!reading.isFound) continue;
+        const std::string shown = ShownData(reading);
+        if (text.empty()) {
+            text = shown;
+        } else if (text != shown) {
+            text += "; " + std::string(reading.scanner) + ": " + shown;
+        }
+    }
+    return text;
+}
+
 Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, int pixelsPerModule) {
     if (!HasScanner(meaning.task.symbology)) return {};
     const GreyRaster picture = drawing.Raster(pixelsPerModule);

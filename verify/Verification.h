@@ -19,6 +19,10 @@ struct Verification {
 
     /** "scans", "scans as …", "does not scan" or "no scanner for this symbology". */
     std::string Words() const;
+    /** What the scanners read, one text where they agree; "" where none read anything. UTF-8. */
+    std::string WhatWasRead() const;
+    /** Whether scanners know the symbology, and do not say what is meant. */
+    bool IsBad() const { return verdict == Verdict::kScansAs || verdict == Verdict::kDoesNotScan; }
 };
 
 /** Whether a reading is exactly what is meant. */

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/Service.h"
+#include "requests/Service.h"
 #include "workbench/BarcodeView.h"
 #include "workbench/Language.h"
 

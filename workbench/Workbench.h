@@ -5,7 +5,7 @@
 #include <functional>
 #include <optional>
 
-#include "cli/Service.h"
+#include "requests/Service.h"
 #include "workbench/MainWindow.h"
 #include "workbench/WindowFrontEnd.h"
 

@@ -1,12 +1,12 @@
-#include "cli/Service.h"
+#include "requests/Service.h"
 
 #include <algorithm>
 
 #include "CreateObject.h"
 #include "PMString.h"
-#include "cli/Failure.h"
-#include "cli/HostBlock.h"
-#include "cli/HostText.h"
+#include "requests/HostBlock.h"
+#include "requests/HostText.h"
+#include "requests/RequestFailure.h"
 
 namespace linewright {
 
@@ -29,10 +29,10 @@ Service::Service(const HostOptions& options) {
         .locale = TextOrDefault(options.locale),
         .frontEnd = options.frontEnd,
     };
-    if (!host.Start(settings)) throw Failure(host.Error());
+    if (!host.Start(settings)) throw RequestFailure(FailureReason::kHost, host.Error());
     plugIn.emplace(
         static_cast<IORTALinewright*>(CreateObject(kLinewrightServiceBoss, IID_IORTALINEWRIGHT)));
-    if (!*plugIn) throw Failure("the plug-in offers no service: " + options.plugin);
+    if (!*plugIn) throw RequestFailure(FailureReason::kNoService, options.plugin);
 }
 
 host::Leaks Service::Stop() {

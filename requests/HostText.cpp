@@ -1,4 +1,4 @@
-#include "cli/HostText.h"
+#include "requests/HostText.h"
 
 #include "cli/Utf8.h"
 

@@ -52,13 +52,13 @@ struct TypeDescription {
 /** The running plug-in in its host, and the requests that this program sends it. One at a time. */
 class Service {
   public:
-    /** Starts host and plug-in. Throws Failure when that does not work. */
+    /** Starts host and plug-in. Throws RequestFailure when that does not work. */
     explicit Service(const HostOptions& options);
     Service(const Service&) = delete;
     Service& operator=(const Service&) = delete;
     ~Service() = default;
 
-    /** Throws Failure when the host has no memory for the data. */
+    /** Throws RequestFailure when the host has no memory for the data. */
     EncodeAnswer Encode(const EncodeRequest& request);
     /** All types in the plug-in's own order. */
     std::vector<TypeDescription> Types();

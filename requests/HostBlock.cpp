@@ -1,4 +1,4 @@
-#include "cli/HostBlock.h"
+#include "requests/HostBlock.h"
 
 #include <algorithm>
 #include <limits>
@@ -6,7 +6,7 @@
 #include "IMemoryService.h"
 #include "ISession.h"
 #include "InterfacePtr.h"
-#include "cli/Failure.h"
+#include "requests/RequestFailure.h"
 
 namespace linewright {
 
@@ -16,7 +16,7 @@ HostBlock::HostBlock(std::string_view bytes) {
         length = static_cast<uint32>(bytes.size());
         block = memory->Allocate(length);
     }
-    if (!block) throw Failure("the host has no memory for the data");
+    if (!block) throw RequestFailure(FailureReason::kNoMemory);
     std::copy(bytes.begin(), bytes.end(), static_cast<char*>(block));
 }
 
