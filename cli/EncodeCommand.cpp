@@ -5,10 +5,10 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Encoding.h"
-#include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/ReadAll.h"
 #include "cli/TypeNames.h"
+#include "text/FontText.h"
 
 namespace linewright {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "cli/TypeNames.h"
-#include "cli/Utf8.h"
 #include "cli/Warnings.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
 #include "render/TypeDrawing.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

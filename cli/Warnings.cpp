@@ -8,7 +8,8 @@
 
 #include "cli/PlugInConversion.h"
 #include "cli/TypeNames.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
+#include "text/Utf8.h"
 
 namespace linewright {
 
