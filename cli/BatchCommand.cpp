@@ -6,10 +6,10 @@
 
 #include "cli/BatchFile.h"
 #include "cli/Failure.h"
-#include "cli/FontText.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
 #include "cli/Words.h"
+#include "text/FontText.h"
 
 namespace linewright {
 

@@ -9,10 +9,10 @@
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
-#include "cli/Utf8.h"
 #include "cli/Words.h"
 #include "render/Export.h"
 #include "requests/DrawnBarcode.h"
+#include "text/Readable.h"
 #include "verify/Verification.h"
 
 namespace linewright {
@@ -101,7 +101,8 @@ std::string Content(const BarcodeDrawing& drawing, FileKind kind, const DrawOpti
 
 ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& console) {
     const FileKind kind = KindOf(options.output);
-    const DrawnBarcode drawn = DrawBarcode(service, WishOf(options.encode, console), options.drawing);
+    const DrawnBarcode drawn =
+        DrawBarcode(service, WishOf(options.encode, console), options.drawing);
     ReportOutcome(drawn.outcome, console);
     if (!drawn.drawing) return kRefused;
     const std::string content = Content(*drawn.drawing, kind, options);
@@ -115,7 +116,8 @@ ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& consol
 }
 
 ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& console) {
-    const DrawnBarcode drawn = DrawBarcode(service, WishOf(options.encode, console), options.drawing);
+    const DrawnBarcode drawn =
+        DrawBarcode(service, WishOf(options.encode, console), options.drawing);
     ReportOutcome(drawn.outcome, console);
     if (!drawn.drawing) return kRefused;
     const Verification verification = VerificationOf(drawn, options);

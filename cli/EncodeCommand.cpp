@@ -4,11 +4,11 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/ReadAll.h"
-#include "cli/Words.h"
 #include "cli/WarningWords.h"
+#include "cli/Words.h"
+#include "text/FontText.h"
 
 namespace linewright {
 
@@ -32,12 +32,9 @@ std::string JsonOf(const Outcome& outcome) {
     std::vector<std::string> warnings;
     for (const Warning& warning : outcome.Warnings()) warnings.push_back(Sentence(warning));
     const nlohmann::ordered_json object{
-        {"type", outcome.typeName},
-        {"shortName", outcome.type->shortName},
-        {"status", outcome.status.value()},
-        {"hex", ToHex(outcome.bytes)},
-        {"text", FontText(outcome.bytes)},
-        {"warnings", warnings},
+        {"type", outcome.typeName},         {"shortName", outcome.type->shortName},
+        {"status", outcome.status.value()}, {"hex", ToHex(outcome.bytes)},
+        {"text", FontText(outcome.bytes)},  {"warnings", warnings},
     };
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }

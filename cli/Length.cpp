@@ -8,7 +8,7 @@
 #include <string>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 #include "types/Dimensions.h"
 
 namespace linewright {
@@ -21,8 +21,8 @@ struct Unit {
 };
 
 constexpr std::array kUnits{
-    Unit{"", {kMillimetre}},        Unit{"mm", {kMillimetre}}, Unit{"cm", {10 * kMillimetre}},
-    Unit{"in", {kInch}},            Unit{"pt", {1}},           Unit{"mil", {0.001 * kInch}},
+    Unit{"", {kMillimetre}},       Unit{"mm", {kMillimetre}}, Unit{"cm", {10 * kMillimetre}},
+    Unit{"in", {kInch}},           Unit{"pt", {1}},           Unit{"mil", {0.001 * kInch}},
     Unit{"x", {1, .isInX = true}},
 };
 

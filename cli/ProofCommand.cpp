@@ -6,11 +6,12 @@
 #include "cli/DrawCommand.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
-#include "cli/Utf8.h"
 #include "cli/WarningWords.h"
 #include "cli/Words.h"
+#include "host/runtime/Paths.h"
 #include "render/Sheet.h"
 #include "requests/DrawnBarcode.h"
+#include "text/Readable.h"
 #include "verify/Verification.h"
 
 namespace linewright {
@@ -75,9 +76,7 @@ SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord&
         return Refused(fmt::format("{}, {}", Readable(wish.type), line), wish.data,
                        WhyRefused(drawn.outcome));
     }
-    return EntryOf(drawn, wish,
-                   fmt::format("{}, {}", drawn.outcome.type->shortName, line),
-                   counts);
+    return EntryOf(drawn, wish, fmt::format("{}, {}", drawn.outcome.type->shortName, line), counts);
 }
 
 }  // namespace
@@ -98,7 +97,7 @@ ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOption
     }
     // What was refused stands behind the barcodes.
     std::move(refused.begin(), refused.end(), std::back_inserter(entries));
-    const std::string name = Utf8FromPath(PathFromUtf8(files.input).filename());
+    const std::string name = host::Utf8FromPath(host::PathFromUtf8(files.input).filename());
     OutputFile file(files.output);
     file.Stream() << SheetPdf(fmt::format("Linewright proof of {}", Readable(name)), entries);
     file.Keep();

@@ -5,11 +5,11 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Failure.h"
-#include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
 #include "cli/Words.h"
+#include "text/FontText.h"
 
 namespace linewright {
 

@@ -2,8 +2,8 @@
 
 #include <fmt/format.h>
 
-#include "cli/Utf8.h"
 #include "cli/WarningWords.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

@@ -1,6 +1,8 @@
 #include "requests/DrawnBarcode.h"
 
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
+#include "text/Readable.h"
+#include "text/Utf8.h"
 
 namespace linewright {
 
@@ -29,8 +31,9 @@ DrawnBarcode DrawBarcode(Service& service, const BarcodeWish& wish, const Drawin
     if (!drawn.outcome.IsMade()) return drawn;
     const BarcodeType& type = *drawn.outcome.type;
     DrawingProblem problem;
-    drawn.drawing = BarcodeDrawing::Make(PathFromUtf8(drawing.fonts), type, drawn.outcome.bytes,
-                                         OptionsOf(drawing, type, wish), problem);
+    drawn.drawing =
+        BarcodeDrawing::Make(host::PathFromUtf8(drawing.fonts), type, drawn.outcome.bytes,
+                             OptionsOf(drawing, type, wish), problem);
     if (!drawn.drawing) throw DrawingFailure(problem);
     return drawn;
 }
