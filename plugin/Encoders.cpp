@@ -31,12 +31,21 @@ constexpr EncoderTable kEncoders = [] {
     table[2] = [](Arguments a) -> int32 {
         return EncodeIntelligentMail(a.data, a.hint, a.humanReadable);
     };
-    table[3] = [](Arguments a) -> int32 { return EncodeCodabarClassic(a.data); };
+    table[3] = [](Arguments a) -> int32 {
+        return EncodeCodabarClassic(a.data, static_cast<char>(preferences.codabarStart),
+                                    static_cast<char>(preferences.codabarStop));
+    };
     table[4] = [](Arguments a) -> int32 { return EncodeCode128A(a.data); };
     table[5] = [](Arguments a) -> int32 { return EncodeCode128B(a.data); };
     table[6] = [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
-    table[7] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, false); };
-    table[8] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, true); };
+    table[7] = [](Arguments a) -> int32 {
+        return EncodeCode39Classic(a.data, false, preferences.code39CheckMode,
+                                   preferences.code39UseAsterisk != 0);
+    };
+    table[8] = [](Arguments a) -> int32 {
+        return EncodeCode39Classic(a.data, true, preferences.code39CheckMode,
+                                   preferences.code39UseAsterisk != 0);
+    };
     table[9] = EncodeEan8;
     table[10] = [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
     table[11] = [](Arguments a) -> int32 {
