@@ -7,6 +7,6 @@ extern "C" {
 
 /** Reverses a text of three characters or more in place; shorter ones stay as they are. */
 char* LinewrightStrrev(char* text);
-/** Turns a to z into A to Z in place. */
+/** Turns a to z into A to Z in place. Borrows a scratch string for each character. */
 char* LinewrightStrupr(char* text);
 }

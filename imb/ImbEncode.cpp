@@ -7,13 +7,11 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/CharClasses.h"
 #include "imb/ImbBarMap.h"
 
 namespace linewright {
 namespace {
-
-constexpr std::size_t kTrackingLength = 20;
-constexpr std::size_t kLongestRouting = 11;
 
 constexpr std::uint32_t kCharacterBits = 0x1FFF;
 constexpr std::uint32_t kCodewordARange = 659;
@@ -44,14 +42,6 @@ std::string_view Bounded(const char* text, std::size_t limit) {
     std::size_t length = 0;
     while (length <= limit && text[length] != '\0') ++length;
     return {text, length};
-}
-
-bool IsDigits(std::string_view text) {
-    return text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-bool IsRoutingLength(std::size_t length) {
-    return length == 0 || length == 5 || length == 9 || length == 11;
 }
 
 std::uint32_t DigitValue(char digit) {
@@ -156,15 +146,15 @@ bool PassesSelfTest() {
 }
 
 ImbResult CheckTracking(std::string_view tracking) {
-    if (tracking.size() != kTrackingLength) return USPS_FSB_ENCODER_API_TRACK_STRING_BAD_LENGTH;
-    if (!IsDigits(tracking)) return USPS_FSB_ENCODER_API_TRACK_STRING_NOT_DIGITS;
+    if (tracking.size() != kImbTrackingLength) return USPS_FSB_ENCODER_API_TRACK_STRING_BAD_LENGTH;
+    if (!AreDigits(tracking)) return USPS_FSB_ENCODER_API_TRACK_STRING_NOT_DIGITS;
     if (tracking[1] > '4') return USPS_FSB_ENCODER_API_TRACK_STRING_BAD_DIGIT2;
     return USPS_FSB_ENCODER_API_SUCCESS;
 }
 
 ImbResult CheckRouting(std::string_view routing) {
-    if (!IsRoutingLength(routing.size())) return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
-    if (!IsDigits(routing)) return USPS_FSB_ENCODER_API_ROUTE_STRING_NOT_DIGITS;
+    if (!IsImbRoutingLength(routing.size())) return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
+    if (!AreDigits(routing)) return USPS_FSB_ENCODER_API_ROUTE_STRING_NOT_DIGITS;
     return USPS_FSB_ENCODER_API_SUCCESS;
 }
 
@@ -178,16 +168,18 @@ ImbResult ImbEncode(const char* tracking, const char* routing, char* bars) {
     if (routing == nullptr) return USPS_FSB_ENCODER_API_ROUTE_STRING_IS_NULL;
     if (bars == nullptr) return USPS_FSB_ENCODER_API_BAR_STRING_IS_NULL;
 
-    if (const ImbResult result = CheckTracking(Bounded(tracking, kTrackingLength))) return result;
-    if (const ImbResult result = CheckRouting(Bounded(routing, kLongestRouting))) return result;
+    if (const ImbResult result = CheckTracking(Bounded(tracking, kImbTrackingLength)))
+        return result;
+    if (const ImbResult result = CheckRouting(Bounded(routing, kImbLongestRouting))) return result;
     return ImbEncodeCore(tracking, routing, bars);
 }
 
 ImbResult ImbEncodeCore(const char* tracking, const char* routing, char* bars) {
-    const std::string_view routingDigits = Bounded(routing, kLongestRouting);
-    if (!IsRoutingLength(routingDigits.size())) return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
+    const std::string_view routingDigits = Bounded(routing, kImbLongestRouting);
+    if (!IsImbRoutingLength(routingDigits.size()))
+        return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
 
-    const ImbBinaryValue value = BinaryValue({tracking, kTrackingLength}, routingDigits);
+    const ImbBinaryValue value = BinaryValue({tracking, kImbTrackingLength}, routingDigits);
     const std::uint32_t frameCheckSequence = ImbFrameCheckSequence(value);
 
     if (!fiveOf13.Retrieve() || !twoOf13.Retrieve()) {

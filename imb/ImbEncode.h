@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 // USPS Intelligent Mail barcode: the four-state encoding of USPS-B-3200. Plain arithmetic on fixed
@@ -8,6 +9,14 @@
 // of a passed self-test are process-wide, and all calls come from the host's main thread.
 
 namespace linewright {
+
+inline constexpr std::size_t kImbTrackingLength = 20;
+inline constexpr std::size_t kImbLongestRouting = 11;
+
+/** None, ZIP, ZIP+4 and delivery point. */
+constexpr bool IsImbRoutingLength(std::size_t length) {
+    return length == 0 || length == 5 || length == 9 || length == kImbLongestRouting;
+}
 
 enum ImbResult : std::int32_t {
     USPS_FSB_ENCODER_API_SUCCESS = 0,

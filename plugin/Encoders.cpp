@@ -35,7 +35,10 @@ constexpr Encoder EncoderOf(TypeCode code) {
                 return EncodeIntelligentMail(a.data, a.hint, a.humanReadable);
             };
         case TypeCode::kClassicCodabar:
-            return [](Arguments a) -> int32 { return EncodeCodabarClassic(a.data); };
+            return [](Arguments a) -> int32 {
+                return EncodeCodabarClassic(a.data, static_cast<char>(preferences.codabarStart),
+                                            static_cast<char>(preferences.codabarStop));
+            };
         case TypeCode::kClassicCode128A:
             return [](Arguments a) -> int32 { return EncodeCode128A(a.data); };
         case TypeCode::kClassicCode128B:
@@ -43,9 +46,15 @@ constexpr Encoder EncoderOf(TypeCode code) {
         case TypeCode::kClassicCode128C:
             return [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
         case TypeCode::kClassicCode39:
-            return [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, false); };
+            return [](Arguments a) -> int32 {
+                return EncodeCode39Classic(a.data, false, preferences.code39CheckMode,
+                                           preferences.code39UseAsterisk != 0);
+            };
         case TypeCode::kClassicCode39FullAscii:
-            return [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, true); };
+            return [](Arguments a) -> int32 {
+                return EncodeCode39Classic(a.data, true, preferences.code39CheckMode,
+                                           preferences.code39UseAsterisk != 0);
+            };
         case TypeCode::kEan8: return EncodeEan8;
         case TypeCode::kClassicEan13:
             return [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
