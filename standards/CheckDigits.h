@@ -30,6 +30,11 @@ constexpr char Modulo10CheckDigit(std::string_view digits) {
     return Modulo10Complement(AlternatingSum(digits, 3, 1));
 }
 
+/// Two-digit add-on (ISO/IEC 15420): its value modulo 4 (0 to 3), which chooses the parity.
+constexpr std::size_t AddOn2CheckValue(std::string_view digits) {
+    return AlternatingSum(digits, 1, 10) % 4;
+}
+
 /// Five-digit add-on (ISO/IEC 15420): weights 3 and 9, the last digit of the sum (0 to 9). It is
 /// not printed, but chooses the parity.
 constexpr std::size_t AddOn5CheckValue(std::string_view digits) {
@@ -59,6 +64,7 @@ static_assert(Modulo10CheckDigit("590123412345") == '7');
 static_assert(Modulo10CheckDigit("03600029145") == '2');
 // 3 + 2 + 15 = 20, and nothing at all: multiples of ten
 static_assert(Modulo10CheckDigit("125") == '0' && Modulo10CheckDigit("") == '0');
+static_assert(AddOn2CheckValue("05") == 1 && AddOn2CheckValue("99") == 3);
 // 15 + 18 + 12 + 81 + 15 = 141
 static_assert(AddOn5CheckValue("52495") == 1);
 static_assert(PostnetCheckDigit("123456789") == '5' && PostnetCheckDigit("55") == '0');

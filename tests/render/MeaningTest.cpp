@@ -87,7 +87,7 @@ TEST(Ean13AddOns, AreRead) {
     for (int count = 0; count < LINEWRIGHT_SYMBOLS; ++count) {
         const std::string number = random.Digits(12);
         const std::string addOn = random.Digits(count % 2 == 0 ? 2 : 5);
-        FixedText<kEan13Capacity> symbol;
+        FixedText<kLongestEan13> symbol;
         ASSERT_EQ(BuildEan13((number + addOn).c_str(), symbol), 0);
         Meaning meaning = MeaningOf({kType, number, false, {}});
         meaning.addOn = addOn;

@@ -32,16 +32,16 @@ Call Build(int16 (*build)(const Row& row, TextArea& symbol)) {
 }
 
 const bool kRegistered = RegisterCalls({
-    {"BuildEan13", Build<kEan13Capacity>([](const Row& row, TextArea& symbol) {
+    {"BuildEan13", Build<kLongestEan13>([](const Row& row, TextArea& symbol) {
          return BuildEan13(Data(row), symbol);
      })},
-    {"BuildEan8", Build<kEan8Capacity>([](const Row& row, TextArea& symbol) {
+    {"BuildEan8", Build<kLongestEan8>([](const Row& row, TextArea& symbol) {
          return BuildEan8(Data(row), symbol);
      })},
-    {"BuildUpcA", Build<kUpcACapacity>([](const Row& row, TextArea& symbol) {
+    {"BuildUpcA", Build<kLongestUpcA>([](const Row& row, TextArea& symbol) {
          return BuildUpcA(Data(row), symbol);
      })},
-    {"BuildUpcE", Build<kUpcECapacity>([](const Row& row, TextArea& symbol) {
+    {"BuildUpcE", Build<kLongestUpcA>([](const Row& row, TextArea& symbol) {
          return BuildUpcE(Data(row), symbol);
      })},
     {"BuildCode128Auto", Build<kCode128AutoCapacity>([](const Row& row, TextArea& symbol) {
