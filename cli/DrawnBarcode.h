@@ -6,7 +6,7 @@
 #include "cli/DrawCommand.h"
 #include "cli/Encoding.h"
 #include "render/BarcodeDrawing.h"
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 namespace linewright {
 
