@@ -13,7 +13,7 @@
 #include "render/Export.h"
 #include "requests/DrawnBarcode.h"
 #include "text/Readable.h"
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 namespace linewright {
 

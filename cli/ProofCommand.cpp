@@ -12,7 +12,7 @@
 #include "render/Sheet.h"
 #include "requests/DrawnBarcode.h"
 #include "text/Readable.h"
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 namespace linewright {
 

@@ -1,4 +1,4 @@
-#include "verify/Meaning.h"
+#include "meaning/Meaning.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include "tests/TestHost.h"
 #include "tests/render/Drawn.h"
 #include "tests/render/RandomData.h"
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 // The rows of scans.jsonl: what data means, what is warned about, and what the scanners say.
 

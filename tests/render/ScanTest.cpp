@@ -6,7 +6,7 @@
 #include "tests/TestHost.h"
 #include "tests/render/Drawn.h"
 #include "tests/render/RandomData.h"
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 // Draws random valid data of every type that a scanner knows, and has both scanners read it.
 

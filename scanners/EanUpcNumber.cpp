@@ -1,6 +1,6 @@
-#include "verify/EanUpcNumber.h"
+#include "scanners/EanUpcNumber.h"
 
-#include "verify/CheckDigits.h"
+#include "meaning/CheckRules.h"
 
 namespace linewright::verify {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "render/BarcodeDrawing.h"
-#include "verify/Meaning.h"
-#include "verify/Reading.h"
+#include "meaning/Meaning.h"
+#include "scanners/Reading.h"
 
 namespace linewright {
 

@@ -1,10 +1,10 @@
-#include "verify/Code128Meaning.h"
+#include "meaning/Code128Meaning.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <regex>
 
-#include "verify/CheckDigits.h"
+#include "meaning/CheckRules.h"
 
 namespace linewright::verify {
 

@@ -2,9 +2,9 @@
 #define ZX_USE_UTF8
 #include <ZXing/ReadBarcode.h>
 
-#include "verify/CheckDigits.h"
-#include "verify/EanUpcNumber.h"
-#include "verify/Reading.h"
+#include "meaning/CheckRules.h"
+#include "scanners/EanUpcNumber.h"
+#include "scanners/Reading.h"
 
 namespace linewright {
 

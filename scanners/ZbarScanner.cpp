@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "verify/EanUpcNumber.h"
-#include "verify/Reading.h"
+#include "scanners/EanUpcNumber.h"
+#include "scanners/Reading.h"
 
 namespace linewright {
 

@@ -1,4 +1,4 @@
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 #include <algorithm>
 

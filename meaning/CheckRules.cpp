@@ -1,4 +1,4 @@
-#include "verify/CheckDigits.h"
+#include "meaning/CheckRules.h"
 
 #include <algorithm>
 #include <initializer_list>

@@ -1,10 +1,10 @@
-#include "verify/Meaning.h"
+#include "meaning/Meaning.h"
 
 #include <algorithm>
 #include <array>
 
-#include "verify/CheckDigits.h"
-#include "verify/Code128Meaning.h"
+#include "meaning/CheckRules.h"
+#include "meaning/Code128Meaning.h"
 
 namespace linewright {
 

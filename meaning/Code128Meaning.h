@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "verify/Meaning.h"
+#include "meaning/Meaning.h"
 
 namespace linewright::verify {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "render/GreyRaster.h"
-#include "verify/Meaning.h"
+#include "meaning/Meaning.h"
 
 namespace linewright {
 
