@@ -8,7 +8,6 @@
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
-#include "cli/Words.h"
 #include "text/FontText.h"
 
 namespace linewright {
@@ -60,7 +59,7 @@ class Progress {
 };
 
 RowResult ResultOf(Service& service, const BarcodeWish& wish, const BatchOptions& options,
-                   Counts& counts) {
+                   Language language, Counts& counts) {
     const ScannedBarcode made = options.isVerified
                                     ? EncodeAndScan(service, wish, options.fonts)
                                     : ScannedBarcode{MakeBarcode(service, wish), "", ""};
@@ -72,15 +71,15 @@ RowResult ResultOf(Service& service, const BarcodeWish& wish, const BatchOptions
     return {
         .barcode = FontText(made.outcome.bytes),
         .status = made.outcome.status ? std::to_string(*made.outcome.status) : "",
-        .message = WhyRefused(made.outcome),
-        .warning = JoinedWarnings(made.outcome),
+        .message = WhyRefused(made.outcome, language),
+        .warning = JoinedWarnings(made.outcome, language),
         .scan = made.scan,
         .read = made.read,
     };
 }
 
 RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
-                      const BatchOptions& options, Counts& counts) {
+                      const BatchOptions& options, Language language, Counts& counts) {
     BarcodeWish wish;
     try {
         wish = batch.Columns().WishOf(row);
@@ -90,7 +89,7 @@ RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord&
         result.message = failure.what();
         return result;
     }
-    return ResultOf(service, wish, options, counts);
+    return ResultOf(service, wish, options, language, counts);
 }
 
 Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options, std::ostream& out,
@@ -106,7 +105,8 @@ Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options
             continue;
         }
         ++counts.rows;
-        out << batch.Columns().RowLine(row, ResultOfRow(service, batch, row, options, counts));
+        out << batch.Columns().RowLine(
+            row, ResultOfRow(service, batch, row, options, console.language, counts));
         progress.Show(i, counts);
     }
     return counts;

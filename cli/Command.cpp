@@ -11,7 +11,6 @@
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
-#include "cli/Words.h"
 #include "host/runtime/Paths.h"
 
 namespace linewright {
@@ -68,6 +67,7 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     ExitStatus exitStatus = kDone;
     std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
     if (!arguments) return exitStatus;
+    console.language = LanguageOf(arguments->host.locale);
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
     arguments->draw.drawing.fonts = arguments->fonts;
@@ -88,9 +88,9 @@ int RunCommand(const std::vector<std::string>& arguments,
     try {
         return Run(arguments, programFolder, console);
     } catch (const RequestFailure& failure) {
-        return SayTrouble(Sentence(failure), console);
+        return SayTrouble(Sentence(failure, console.language), console);
     } catch (const DrawingFailure& failure) {
-        return SayTrouble(Sentence(failure), console);
+        return SayTrouble(Sentence(failure, console.language), console);
     } catch (const std::exception& failure) {
         return SayTrouble(failure.what(), console);
     }

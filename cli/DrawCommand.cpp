@@ -9,11 +9,10 @@
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
-#include "cli/Words.h"
 #include "render/Export.h"
 #include "requests/DrawnBarcode.h"
-#include "text/Readable.h"
 #include "scanners/Verification.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

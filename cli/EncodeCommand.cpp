@@ -6,8 +6,6 @@
 
 #include "cli/Hex.h"
 #include "cli/ReadAll.h"
-#include "cli/WarningWords.h"
-#include "cli/Words.h"
 #include "text/FontText.h"
 
 namespace linewright {
@@ -28,9 +26,10 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
     return data;
 }
 
-std::string JsonOf(const Outcome& outcome) {
+std::string JsonOf(const Outcome& outcome, Language language) {
     std::vector<std::string> warnings;
-    for (const Warning& warning : outcome.Warnings()) warnings.push_back(Sentence(warning));
+    for (const Warning& warning : outcome.Warnings())
+        warnings.push_back(Sentence(warning, language));
     const nlohmann::ordered_json object{
         {"type", outcome.typeName},         {"shortName", outcome.type->shortName},
         {"status", outcome.status.value()}, {"hex", ToHex(outcome.bytes)},
@@ -39,10 +38,11 @@ std::string JsonOf(const Outcome& outcome) {
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-void Print(const Outcome& outcome, EncodeOptions::Form form, std::ostream& out) {
+void Print(const Outcome& outcome, EncodeOptions::Form form, Console& console) {
+    std::ostream& out = console.out;
     switch (form) {
         case EncodeOptions::Form::kText: out << FontText(outcome.bytes) << '\n'; break;
-        case EncodeOptions::Form::kJson: out << JsonOf(outcome) << '\n'; break;
+        case EncodeOptions::Form::kJson: out << JsonOf(outcome, console.language) << '\n'; break;
         case EncodeOptions::Form::kHex: out << ToHex(outcome.bytes) << '\n'; break;
         case EncodeOptions::Form::kRaw: out << outcome.bytes; break;
     }
@@ -63,19 +63,19 @@ BarcodeWish WishOf(const EncodeOptions& options, Console& console) {
 
 void ReportOutcome(const Outcome& outcome, Console& console) {
     for (const Warning& warning : outcome.Warnings()) {
-        console.err << "linewright: warning: " << Sentence(warning) << '\n';
+        console.err << "linewright: warning: " << Sentence(warning, console.language) << '\n';
     }
     if (outcome.IsMade()) return;
     console.err << "linewright: refused"
                 << (outcome.status ? fmt::format(" (status {})", *outcome.status) : "") << ": "
-                << WhyRefused(outcome) << '\n';
+                << WhyRefused(outcome, console.language) << '\n';
 }
 
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
     const Outcome outcome = MakeBarcode(service, WishOf(options, console));
     ReportOutcome(outcome, console);
     if (!outcome.IsMade()) return kRefused;
-    Print(outcome, options.form, console.out);
+    Print(outcome, options.form, console);
     return kDone;
 }
 

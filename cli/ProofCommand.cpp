@@ -6,13 +6,11 @@
 #include "cli/DrawCommand.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
-#include "cli/WarningWords.h"
-#include "cli/Words.h"
 #include "host/runtime/Paths.h"
 #include "render/Sheet.h"
 #include "requests/DrawnBarcode.h"
-#include "text/Readable.h"
 #include "scanners/Verification.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -43,7 +41,7 @@ SheetEntry Refused(std::string title, const std::string& data, const std::string
 }
 
 SheetEntry EntryOf(const DrawnBarcode& drawn, const BarcodeWish& wish, std::string title,
-                   ProofCounts& counts) {
+                   Language language, ProofCounts& counts) {
     const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
     if (verification.verdict == Verdict::kNoScanner) ++counts.withoutScanner;
     if (verification.IsBad()) ++counts.unreadable;
@@ -54,13 +52,13 @@ SheetEntry EntryOf(const DrawnBarcode& drawn, const BarcodeWish& wish, std::stri
     entry.lines.push_back(
         fmt::format("read  {}{}", verification.Words(), read.empty() ? "" : ": " + read));
     for (const Warning& warning : drawn.outcome.Warnings()) {
-        entry.lines.push_back("note  " + Sentence(warning));
+        entry.lines.push_back("note  " + Sentence(warning, language));
     }
     return entry;
 }
 
 SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
-                      const BatchOptions& options, const DrawOptions& drawing,
+                      const BatchOptions& options, const DrawOptions& drawing, Language language,
                       ProofCounts& counts) {
     const std::string line = fmt::format("line {}", row.line);
     BarcodeWish wish;
@@ -74,7 +72,7 @@ SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord&
     if (!drawn.drawing) {
         ++counts.refused;
         return Refused(fmt::format("{}, {}", Readable(wish.type), line), wish.data,
-                       WhyRefused(drawn.outcome));
+                       WhyRefused(drawn.outcome, language));
     }
     return EntryOf(drawn, wish, fmt::format("{}, {}", drawn.outcome.type->shortName, line), counts);
 }
@@ -92,7 +90,8 @@ ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOption
     for (std::size_t i = 1; i < records.size(); ++i) {
         if (records[i].IsBlank()) continue;
         ++counts.rows;
-        SheetEntry entry = EntryOfRow(service, batch, records[i], options, drawing, counts);
+        SheetEntry entry =
+            EntryOfRow(service, batch, records[i], options, drawing, console.language, counts);
         (entry.drawing ? entries : refused).push_back(std::move(entry));
     }
     // What was refused stands behind the barcodes.

@@ -8,7 +8,6 @@
 #include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
-#include "cli/Words.h"
 #include "text/FontText.h"
 
 namespace linewright {
@@ -52,7 +51,7 @@ ExitStatus RunStream(Service& service, Console& console) {
             answer = ErrorAt(number, failure.what());
             exitStatus = kTrouble;
         } catch (const RequestFailure& failure) {
-            answer = ErrorAt(number, Sentence(failure));
+            answer = ErrorAt(number, Sentence(failure, console.language));
             exitStatus = kTrouble;
         }
         console.out << answer.dump() << '\n';

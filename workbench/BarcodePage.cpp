@@ -14,11 +14,12 @@
 #include <array>
 #include <cmath>
 
-#include "cli/DrawnBarcode.h"
-#include "cli/Failure.h"
 #include "render/Export.h"
+#include "requests/DrawnBarcode.h"
+#include "scanners/Verification.h"
 #include "text/FontText.h"
 #include "types/BarcodeTypes.h"
+#include "words/Words.h"
 #include "workbench/Text.h"
 
 namespace linewright {
@@ -39,18 +40,10 @@ QString FromUtf8(const std::string& text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/** The whole number of pixels a module that is nearest to a usual resolution. */
-int PixelsForPng(const BarcodeDrawing& drawing) {
-    constexpr double kUsualResolution = 300;
-    const int step = drawing.HasHalfModules() ? 2 : 1;
-    const double steps = PixelsPerModule(drawing, kUsualResolution) / step;
-    return step * std::max(1, static_cast<int>(std::lround(steps)));
-}
-
 std::string FileContent(const BarcodeDrawing& drawing, const QString& file) {
     if (file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) return SvgOf(drawing);
     if (file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        return PngOf(drawing, PixelsForPng(drawing));
+        return PngOf(drawing, WholePixelsPerModule(drawing));
     return PdfOf(drawing);
 }
 

@@ -250,7 +250,7 @@ TEST(Encode, WarnsAndIsStrictWhenAsked) {
     const auto strict = command.Run(words);
     EXPECT_EQ(strict.status, 1);
     EXPECT_EQ(strict.out, "");
-    EXPECT_EQ(strict.err, lenient.err + "linewright: refused: a warning, and --strict is on\n");
+    EXPECT_EQ(strict.err, lenient.err + "linewright: refused: there is a warning, and warnings are refused\n");
 }
 
 TEST(Encode, ListsWarningsInJson) {
