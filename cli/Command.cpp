@@ -58,9 +58,8 @@ void ReportLeaks(const host::Leaks& leaks, std::ostream& err) {
 
 ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::path& programFolder,
                Console& console) {
-    ExitStatus exitStatus = kDone;
-    std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
-    if (!arguments) return exitStatus;
+    std::optional<Arguments> arguments = ParseArguments(words, console);
+    if (!arguments) return kDone;
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
     arguments->draw.drawing.fonts = arguments->fonts;
@@ -68,7 +67,7 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
-    exitStatus = RunOne(service, user, *arguments, console);
+    const ExitStatus exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
     if (!console.out.flush()) throw Failure("standard output could not be written to its end");
     return exitStatus;
@@ -82,7 +81,7 @@ int RunCommand(const std::vector<std::string>& arguments,
         return Run(arguments, programFolder, console);
     } catch (const std::exception& failure) {
         console.out.flush();
-        console.err << "linewright: " << failure.what() << '\n';
+        console.err << "linewright: " << Readable(failure.what()) << '\n';
         return kTrouble;
     }
 }

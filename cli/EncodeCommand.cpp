@@ -28,12 +28,22 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
     return data;
 }
 
+/** What was made or, of a refusal, why nothing was. */
 std::string JsonOf(const BarcodeOutcome& outcome) {
-    const nlohmann::ordered_json object{
-        {"type", outcome.typeName},         {"shortName", ShortNameOf(outcome.typeName)},
-        {"status", outcome.status.value()}, {"hex", ToHex(outcome.bytes)},
-        {"text", FontText(outcome.bytes)},  {"warnings", outcome.warnings},
+    nlohmann::ordered_json object{
+        {"type", outcome.typeName},
+        {"shortName", ShortNameOf(outcome.typeName)},
+        {"status", nullptr},
     };
+    if (outcome.status) object["status"] = *outcome.status;
+    if (outcome.isMade) {
+        object["hex"] = ToHex(outcome.bytes);
+        object["text"] = FontText(outcome.bytes);
+    } else {
+        object["message"] = outcome.message;
+        object["hint"] = outcome.hint;
+    }
+    object["warnings"] = outcome.warnings;
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
@@ -72,9 +82,10 @@ ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& co
     const BarcodeOutcome outcome =
         MakeBarcode(service, RequestOf(options, console), options.isStrict);
     ReportOutcome(outcome, console);
-    if (!outcome.isMade) return kRefused;
-    Print(outcome, options.form, console.out);
-    return kDone;
+    if (outcome.isMade || options.form == EncodeOptions::Form::kJson) {
+        Print(outcome, options.form, console.out);
+    }
+    return outcome.isMade ? kDone : kRefused;
 }
 
 }  // namespace linewright

@@ -50,6 +50,7 @@ BarcodeOutcome MakeBarcode(Service& service, EncodeRequest request, bool isStric
     outcome.status = answer.status;
     if (answer.status != 0) {
         outcome.message = WhyRefused(answer);
+        outcome.hint = answer.hint;
         return outcome;
     }
     outcome.warnings = Warnings(request.typeName, request.data, request.isUtf8);

@@ -19,6 +19,8 @@ struct BarcodeOutcome {
     std::string bytes;
     /** Why it was refused: the plug-in's hint, or the words of its marker; "" when it was made. */
     std::string message;
+    /** The plug-in's hint, which only some refusals have. */
+    std::string hint;
     /** Only where the font string could be made. */
     std::vector<std::string> warnings;
 };

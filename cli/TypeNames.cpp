@@ -1,9 +1,10 @@
 #include "cli/TypeNames.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <utility>
+
+#include "cli/Nearest.h"
 
 namespace linewright {
 
@@ -40,31 +41,8 @@ constexpr std::array<TypeName, 27> kTypeNames{{
     {"postnet", "_QVT_BARCODE_POSTNET_"},
 }};
 
-/** How many names are offered, and how much of a text is looked at. */
+/** How many names are offered. */
 constexpr std::size_t kOffered = 3;
-constexpr std::size_t kComparedLength = 40;
-
-char LowerCase(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-}
-
-/** The edit distance of Levenshtein, blind to case. */
-std::size_t Distance(std::string_view a, std::string_view b) {
-    std::vector<std::size_t> row(b.size() + 1);
-    for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        std::size_t diagonal = row[0];
-        row[0] = i + 1;
-        for (std::size_t j = 0; j < b.size(); ++j) {
-            const bool same = LowerCase(a[i]) == LowerCase(b[j]);
-            const std::size_t replaced = diagonal + (same ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
-        }
-    }
-    return row[b.size()];
-}
 
 }  // namespace
 
@@ -84,16 +62,11 @@ std::string_view ShortNameOf(std::string_view typeName) {
 
 std::vector<std::string_view> NearestNames(std::string_view written) {
     const bool isTypeName = written.starts_with('_');
-    std::vector<std::pair<std::size_t, std::string_view>> ranked;
-    for (const TypeName& row : kTypeNames) {
-        const std::string_view name = isTypeName ? row.typeName : row.shortName;
-        ranked.emplace_back(Distance(written.substr(0, kComparedLength), name), name);
-    }
-    std::stable_sort(ranked.begin(), ranked.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<std::string_view> names;
-    for (std::size_t i = 0; i < kOffered; ++i) names.push_back(ranked[i].second);
-    return names;
+    for (const TypeName& row : kTypeNames) {
+        names.push_back(isTypeName ? row.typeName : row.shortName);
+    }
+    return Nearest(written, std::move(names), kOffered);
 }
 
 }  // namespace linewright
