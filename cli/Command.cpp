@@ -58,15 +58,14 @@ void ReportLeaks(const host::Leaks& leaks, std::ostream& err) {
 
 ExitStatus SayTrouble(std::string_view sentence, Console& console) {
     console.out.flush();
-    console.err << "linewright: " << sentence << '\n';
+    console.err << "linewright: " << Readable(sentence) << '\n';
     return kTrouble;
 }
 
 ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::path& programFolder,
                Console& console) {
-    ExitStatus exitStatus = kDone;
-    std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
-    if (!arguments) return exitStatus;
+    std::optional<Arguments> arguments = ParseArguments(words, console);
+    if (!arguments) return kDone;
     console.language = LanguageOf(arguments->host.locale);
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
@@ -75,7 +74,7 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
-    exitStatus = RunOne(service, user, *arguments, console);
+    const ExitStatus exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
     if (!console.out.flush()) throw Failure("standard output could not be written to its end");
     return exitStatus;

@@ -26,15 +26,25 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
     return data;
 }
 
+/** What was made or, of a refusal, why nothing was. */
 std::string JsonOf(const Outcome& outcome, Language language) {
-    std::vector<std::string> warnings;
-    for (const Warning& warning : outcome.Warnings())
-        warnings.push_back(Sentence(warning, language));
-    const nlohmann::ordered_json object{
-        {"type", outcome.typeName},         {"shortName", outcome.type->shortName},
-        {"status", outcome.status.value()}, {"hex", ToHex(outcome.bytes)},
-        {"text", FontText(outcome.bytes)},  {"warnings", warnings},
+    nlohmann::ordered_json object{
+        {"type", outcome.typeName},
+        {"shortName", outcome.type ? outcome.type->shortName : ""},
+        {"status", nullptr},
     };
+    if (outcome.status) object["status"] = *outcome.status;
+    if (outcome.IsMade()) {
+        object["hex"] = ToHex(outcome.bytes);
+        object["text"] = FontText(outcome.bytes);
+    } else {
+        object["message"] = WhyRefused(outcome, language);
+        object["hint"] = outcome.hint;
+    }
+    object["warnings"] = nlohmann::json::array();
+    for (const Warning& warning : outcome.Warnings()) {
+        object["warnings"].push_back(Sentence(warning, language));
+    }
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
@@ -74,9 +84,10 @@ void ReportOutcome(const Outcome& outcome, Console& console) {
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
     const Outcome outcome = MakeBarcode(service, WishOf(options, console));
     ReportOutcome(outcome, console);
-    if (!outcome.IsMade()) return kRefused;
-    Print(outcome, options.form, console);
-    return kDone;
+    if (outcome.IsMade() || options.form == EncodeOptions::Form::kJson) {
+        Print(outcome, options.form, console);
+    }
+    return outcome.IsMade() ? kDone : kRefused;
 }
 
 }  // namespace linewright

@@ -27,7 +27,7 @@ BarcodeWish WishOf(const EncodeOptions& options, Console& console);
 void ReportOutcome(const Outcome& outcome, Console& console);
 
 /** Makes one barcode: the font string to standard output, warnings and refusals to standard error,
- *  kRefused for a refusal. */
+ *  kRefused for a refusal, of which the JSON form has an object too. */
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console);
 
 }  // namespace linewright

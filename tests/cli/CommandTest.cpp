@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "cli/Utf8.h"
 #include "tests/cli/CommandRunner.h"
 
 namespace linewright {
@@ -34,6 +35,19 @@ TEST(Help, FitsAScreenAndHasAnExample) {
             start = end + 1;
         }
     }
+}
+
+TEST(Help, ListsItselfAndNamesOptionsAsTheyAreTyped) {
+    const CommandRunner command;
+    for (std::vector<std::string> words : kCommands) {
+        words.emplace_back("-h");
+        const auto result = command.Run(words);
+        EXPECT_THAT(result.out, HasSubstr("\n  -h,--help  ")) << testing::PrintToString(words);
+        EXPECT_THAT(result.out, testing::Not(HasSubstr("{false}")))
+            << testing::PrintToString(words);
+    }
+    EXPECT_THAT(command.Run({"draw", "-h"}).out, HasSubstr("\n  --text,--no-text  "));
+    EXPECT_THAT(command.Run({"-h"}).out, HasSubstr("--version"));
 }
 
 TEST(Help, VersionIsPrinted) {
@@ -69,6 +83,78 @@ TEST(Usage, MistakesEndWithTwo) {
         EXPECT_EQ(result.status, 2) << testing::PrintToString(words);
         EXPECT_EQ(result.out, "") << testing::PrintToString(words);
         EXPECT_NE(result.err, "") << testing::PrintToString(words);
+    }
+}
+
+/** A mistake, and what is said of it between "linewright: " and the advice at the end. */
+struct Mistake {
+    std::vector<std::string> words;
+    std::string sentence;
+    std::string command;
+};
+
+TEST(Usage, MistakesAreNamed) {
+    const CommandRunner command;
+    const std::vector<Mistake> mistakes{
+        {{}, "A subcommand is required", "linewright"},
+        {{"encod", "ean13", "1"},
+         "there is no \"linewright encod\"; nearest: linewright encode",
+         "linewright"},
+        {{"fnts"}, "there is no \"linewright fnts\"; nearest: linewright fonts", "linewright"},
+        {{"prefs", "get"},
+         "there is no \"linewright prefs get\"; nearest: linewright prefs set",
+         "linewright prefs"},
+        {{"fonts", "instal"},
+         "there is no \"linewright fonts instal\"; nearest: linewright fonts install",
+         "linewright fonts"},
+        {{"--locle", "deDE", "types"}, "\"--locle\" is not expected here", "linewright types"},
+        {{"types", "more"}, "\"more\" is not expected here", "linewright types"},
+        {{"types", "--jsn"}, "\"--jsn\" is not expected here", "linewright types"},
+        {{"encode", "ean13", "--"}, "DATA is required", "linewright encode"},
+        {{"draw", "ean13", "1"}, "--output is required", "linewright draw"},
+        {{"encode", "code39", "A", "--hex", "--json"},
+         "--json excludes --hex",
+         "linewright encode"},
+        {{"dialog", "25O"}, "ID: 25O not in {250,251}", "linewright dialog"},
+    };
+    for (const auto& [words, sentence, about] : mistakes) {
+        const auto result = command.Run(words);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.err, "linewright: " + sentence + "; see " + about + " --help\n");
+    }
+}
+
+TEST(Usage, ControlCharactersStayOffTheTerminal) {
+    const CommandRunner command;
+    const std::string evil = "\x1B[2Ja\r\n\x7F\u009B\xFF.pdf";
+    const std::vector<std::vector<std::string>> mistakes{
+        {evil},
+        {"types", evil},
+        {"types", "--plugin", evil},
+        {"types", "--" + evil},
+        {"encode", evil, "1"},
+        {"encode", "code39", "A", "--ratio", evil},
+        {"encode", "ean13", evil},
+        {"encode", "ean13", evil, "--strict"},
+        {"batch", evil},
+        {"batch", "-", "-o", "no/such/" + evil},
+        {"batch", "-", "--delimiter", evil},
+        {"batch", "-", "--column", evil},
+        {"prefs", "set", evil},
+        {"prefs", "set", "codabarStart=" + evil},
+        {"dialog", evil},
+        {"dialog", "250", "--set", evil},
+        {"dialog", "250", "--press", evil},
+        {"fonts", "install", "--fonts", evil},
+        {"draw", "ean13", "1", "-o", evil + "x"},
+        {"draw", "ean13", "400638133393", "-o", "no/such/" + evil},
+        {"draw", "ean13", "400638133393", "-o", "x.pdf", "--height", evil},
+    };
+    for (const auto& words : mistakes) {
+        std::string err = command.Run(words).err;
+        ASSERT_TRUE(err.ends_with('\n')) << testing::PrintToString(words);
+        std::erase(err, '\n');
+        EXPECT_EQ(Readable(err), err) << testing::PrintToString(words);
     }
 }
 
@@ -217,7 +303,7 @@ TEST(Encode, SaysWhyItRefuses) {
     EXPECT_EQ(hint.out, "");
     EXPECT_EQ(hint.err,
               "linewright: refused (status -6300): 0x122100kLWRBarCodeLengthBetweenHint|20|31\n");
-    const auto words = command.Run({"encode", "classic-code39", "abc", "--json"});
+    const auto words = command.Run({"encode", "classic-code39", "abc", "--hex"});
     EXPECT_EQ(words.status, 1);
     EXPECT_EQ(words.out, "");
     EXPECT_EQ(words.err, "linewright: refused (status -1): Bad Code 39\n");
@@ -225,6 +311,41 @@ TEST(Encode, SaysWhyItRefuses) {
     EXPECT_THAT(sentence.err, StartsWith("linewright: refused (status -6300): The Routing String"));
     const auto process = command.Run({"encode", "code128", ""});
     EXPECT_EQ(process.err, "linewright: refused (status 1000): Barcode Process Error\n");
+}
+
+TEST(Encode, PrintsAnObjectForARefusalToo) {
+    const CommandRunner command;
+    const auto run = [&](const char* type, const char* data) {
+        const auto result =
+            command.Run({"encode", type, data, "--json", "--strict", "--locale", "qps"});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_THAT(result.err, HasSubstr("linewright: refused"));
+        return json::parse(result.out);
+    };
+    const json none = json::array();
+    const std::string hint = "0x122100kLWRBarCodeLengthBetweenHint|20|31";
+    EXPECT_EQ(run("imb", "1"), (json{{"type", "_BARCODE_USPS_IM_"},
+                                     {"shortName", "imb"},
+                                     {"status", -6300},
+                                     {"message", hint},
+                                     {"hint", hint},
+                                     {"warnings", none}}));
+    EXPECT_EQ(run("classic-code39", "abc"), (json{{"type", "_BARCODE_CODE39_"},
+                                                  {"shortName", "classic-code39"},
+                                                  {"status", -1},
+                                                  {"message", "Bad Code 39"},
+                                                  {"hint", ""},
+                                                  {"warnings", none}}));
+    const json unknown = run("\x1B\xFF", "1");
+    EXPECT_EQ(unknown["type"], "\x1B\uFFFD");
+    EXPECT_EQ(unknown["shortName"], "");
+    EXPECT_EQ(unknown["status"], nullptr);
+    EXPECT_THAT(unknown["message"].get<std::string>(), StartsWith("there is no type"));
+    const json strict = run("classic-codabar", "");
+    EXPECT_EQ(strict["status"], nullptr);
+    EXPECT_EQ(strict["message"], "a warning, and --strict is on");
+    EXPECT_EQ(strict["warnings"], json{"the data is empty"});
+    EXPECT_FALSE(strict.contains("hex"));
 }
 
 TEST(Encode, OffersNamesForAnUnknownType) {

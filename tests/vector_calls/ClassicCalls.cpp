@@ -35,8 +35,8 @@ const bool kRegistered = RegisterCalls({
     {"TranslateI2of5",
      [](const Row& row) {
          return Translated(row, [&](PString& string) {
-             return TranslateI2of5(string, row.fields.at("checkDigit").get<bool>(),
-                                   row.fields.at("textOnly").get<bool>());
+             return TranslateI2of5(string, row.fields.At("checkDigit").get<bool>(),
+                                   row.fields.At("textOnly").get<bool>());
          });
      }},
     {"MsiMod10", [](const Row& row) { return CheckDigitOf(row, MsiMod10); }},
