@@ -12,6 +12,7 @@
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
 #include "host/runtime/Paths.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

@@ -62,10 +62,8 @@ ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
         }
         AnnounceFont(installed, std::string(face->family));
     }
-    console.out << fmt::format(
-        "{} fonts in {}
-        ", kBarcodeFaces.size(),
-        host::Utf8FromPath(folder));
+    console.out << fmt::format("{} fonts in {}\n", kBarcodeFaces.size(),
+                               host::Utf8FromPath(folder));
     return kDone;
 }
 

@@ -21,9 +21,9 @@ struct Unit {
 };
 
 constexpr std::array kUnits{
-    Unit{"", {kMillimetre}},       Unit{"mm", {kMillimetre}}, Unit{"cm", {10 * kMillimetre}},
-    Unit{"in", {kInch}},           Unit{"pt", {1}},           Unit{"mil", {0.001 * kInch}},
-    Unit{"x", {1, .isInX = true}},
+    Unit{"", {kMillimetre}}, Unit{"mm", {kMillimetre}}, Unit{"cm", {10 * kMillimetre}},
+    Unit{"in", {kInch}},     Unit{"pt", {1}},           Unit{"mil", {0.001 * kInch}},
+    Unit{"x", {1, true}},
 };
 
 /** No length is longer, in points or in X-dimensions. */

@@ -58,8 +58,7 @@ SheetEntry EntryOf(const DrawnBarcode& drawn, const BarcodeWish& wish, std::stri
 }
 
 SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
-                      const BatchOptions& options, const DrawOptions& drawing, Language language,
-                      ProofCounts& counts) {
+                      const DrawOptions& drawing, Language language, ProofCounts& counts) {
     const std::string line = fmt::format("line {}", row.line);
     BarcodeWish wish;
     try {
@@ -74,7 +73,8 @@ SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord&
         return Refused(fmt::format("{}, {}", Readable(wish.type), line), wish.data,
                        WhyRefused(drawn.outcome, language));
     }
-    return EntryOf(drawn, wish, fmt::format("{}, {}", drawn.outcome.type->shortName, line), counts);
+    return EntryOf(drawn, wish, fmt::format("{}, {}", drawn.outcome.type->shortName, line),
+                   language, counts);
 }
 
 }  // namespace
@@ -91,7 +91,7 @@ ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOption
         if (records[i].IsBlank()) continue;
         ++counts.rows;
         SheetEntry entry =
-            EntryOfRow(service, batch, records[i], options, drawing, console.language, counts);
+            EntryOfRow(service, batch, records[i], drawing, console.language, counts);
         (entry.drawing ? entries : refused).push_back(std::move(entry));
     }
     // What was refused stands behind the barcodes.

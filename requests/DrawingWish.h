@@ -18,13 +18,13 @@ struct DrawingWish {
     /** The folder that holds the fonts' files, UTF-8. */
     std::string fonts;
     /** In points. */
-    std::optional<double> xDimension;
-    std::optional<Length> height;
-    std::optional<Length> quietZone;
+    std::optional<double> xDimension{};
+    std::optional<Length> height{};
+    std::optional<Length> quietZone{};
     /** How much narrower each bar is. */
-    std::optional<Length> barWidthReduction;
+    std::optional<Length> barWidthReduction{};
     /** Data below the bars; where nothing is said, if the font prints none. */
-    std::optional<bool> isTextWanted;
+    std::optional<bool> isTextWanted{};
 };
 
 }  // namespace linewright
