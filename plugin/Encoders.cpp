@@ -2,7 +2,7 @@
 #include "classic/Code128.h"
 #include "classic/Code39.h"
 #include "classic/EanUpc.h"
-#include "classic/InterleavedTwoOfFive.h"
+#include "classic/Interleaved2of5.h"
 #include "classic/Msi.h"
 #include "classic/Postnet.h"
 #include "core/EncoderTable.h"
@@ -12,7 +12,7 @@
 #include "current/Code39.h"
 #include "current/Ean13.h"
 #include "current/Ean8.h"
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 #include "current/Msi.h"
 #include "current/Postnet.h"
 #include "current/UpcA.h"
@@ -49,10 +49,10 @@ constexpr EncoderTable kEncoders = [] {
     table[9] = EncodeEan8;
     table[10] = [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
     table[11] = [](Arguments a) -> int32 {
-        return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, false);
+        return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0, false);
     };
     table[12] = [](Arguments a) -> int32 {
-        return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
+        return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
     };
     table[13] = [](Arguments a) -> int32 { return EncodeJan13Classic(a.data); };
     table[14] = [](Arguments a) -> int32 {
