@@ -15,8 +15,9 @@ namespace linewright {
  *  @param useAsterisk  "*" as start and stop character, else "#" */
 int16 EncodeCode39Classic(DataBlock data, bool fullAscii, uint16 checkMode, bool useAsterisk);
 
-/** Writes the characters of a string as the pairs of full ASCII Code 39; byte 128 is dropped. 0, or
- *  -1 with the string left alone: a byte above 128. What exceeds 255 characters is cut. */
+/** Service, no caller of our own: writes the characters of a string as the pairs of full ASCII Code
+ *  39; byte 128 is dropped. 0, or -1 with the string left alone: a byte above 128. What exceeds 255
+ *  characters is cut. */
 int32 ExpandCode39FullAscii(PString& string);
 
 }  // namespace linewright

@@ -1,7 +1,7 @@
 #pragma once
 
 // Exported from the plug-in as `strrev` and `strupr`; the names here are ours because C runtimes
-// declare functions of those names themselves.
+// declare functions of those names themselves. Service: no caller of our own.
 
 extern "C" {
 

@@ -21,7 +21,7 @@ constexpr std::uint32_t kCodewordJRange = 636;
 using Codewords = std::array<std::uint32_t, kImbCharacterCount>;
 using Characters = std::array<std::uint32_t, kImbCharacterCount>;
 
-/// A character table, built on first use.
+/** A character table, built on first use. */
 template <int kBitCount, int kLength>
 struct CharacterTable {
     std::array<std::uint32_t, kLength> entries{};
@@ -37,7 +37,7 @@ constinit CharacterTable<5, 1287> fiveOf13;
 constinit CharacterTable<2, 78> twoOf13;
 constinit bool selfTestPassed = false;
 
-/// The text, or as much of it as shows that it is longer than `limit`.
+/** The text, or as much of it as shows that it is longer than `limit`. */
 std::string_view Bounded(const char* text, std::size_t limit) {
     std::size_t length = 0;
     while (length <= limit && text[length] != '\0') ++length;
@@ -48,7 +48,7 @@ std::uint32_t DigitValue(char digit) {
     return static_cast<std::uint32_t>(digit - '0');
 }
 
-/// Numbers the routing codes through: none is 0, then come those of 5, of 9 and of 11 digits.
+/** Numbers the routing codes through: none is 0, then come those of 5, of 9 and of 11 digits. */
 std::uint64_t RoutingValue(std::string_view routing) {
     std::uint64_t value = 0;
     for (const char digit : routing) value = value * 10 + DigitValue(digit);
@@ -67,7 +67,7 @@ void MultiplyAdd(ImbBinaryValue& value, std::uint32_t factor, std::uint64_t summ
     }
 }
 
-/// Divides the value in place and returns the remainder.
+/** Divides the value in place and returns the remainder. */
 std::uint32_t DivideBy(ImbBinaryValue& value, std::uint32_t divisor) {
     std::uint32_t remainder = 0;
     for (std::uint8_t& byte : value) {
@@ -87,7 +87,7 @@ ImbBinaryValue BinaryValue(std::string_view tracking, std::string_view routing) 
     return value;
 }
 
-/// Codewords A to J. The frame check sequence's bit 10 goes into codeword A.
+/** Codewords A to J. The frame check sequence's bit 10 goes into codeword A. */
 ImbResult MakeCodewords(ImbBinaryValue value, std::uint32_t frameCheckSequence,
                         Codewords& codewords) {
     codewords.back() = DivideBy(value, kCodewordJRange);
@@ -103,7 +103,7 @@ ImbResult MakeCodewords(ImbBinaryValue value, std::uint32_t frameCheckSequence,
     return USPS_FSB_ENCODER_API_SUCCESS;
 }
 
-/// Characters A to J. The frame check sequence's bits 0 to 9 turn them into their complements.
+/** Characters A to J. The frame check sequence's bits 0 to 9 turn them into their complements. */
 ImbResult MakeCharacters(const Codewords& codewords, std::uint32_t frameCheckSequence,
                          Characters& characters) {
     for (std::size_t index = 0; index < codewords.size(); ++index) {
@@ -125,7 +125,7 @@ char BarLetter(const ImbBar& bar, const Characters& characters) {
     return isSet(bar.descender) ? 'D' : 'T';
 }
 
-/// The four examples that USPS-B-3200 publishes, one for each routing length.
+/** The four examples that USPS-B-3200 publishes, one for each routing length. */
 bool PassesSelfTest() {
     struct Example {
         const char* routing;

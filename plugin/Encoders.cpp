@@ -2,7 +2,7 @@
 #include "classic/Code128.h"
 #include "classic/Code39.h"
 #include "classic/EanUpc.h"
-#include "classic/InterleavedTwoOfFive.h"
+#include "classic/Interleaved2of5.h"
 #include "classic/Msi.h"
 #include "classic/Postnet.h"
 #include "core/EncoderTable.h"
@@ -12,7 +12,7 @@
 #include "current/Code39.h"
 #include "current/Ean13.h"
 #include "current/Ean8.h"
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 #include "current/Msi.h"
 #include "current/Postnet.h"
 #include "current/UpcA.h"
@@ -60,11 +60,12 @@ constexpr Encoder EncoderOf(TypeCode code) {
             return [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
         case TypeCode::kClassicInterleavedTwoOfFive:
             return [](Arguments a) -> int32 {
-                return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, false);
+                return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0,
+                                                    false);
             };
         case TypeCode::kClassicInterleavedTwoOfFiveText:
             return [](Arguments a) -> int32 {
-                return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
+                return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
             };
         case TypeCode::kClassicJan13:
             return [](Arguments a) -> int32 { return EncodeJan13Classic(a.data); };

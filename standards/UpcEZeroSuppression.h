@@ -7,16 +7,16 @@
 
 namespace linewright {
 
-/// ISO/IEC 15420:2009, UPC-E: the ten digits (manufacturer and product) behind the number system
-/// digit that six UPC-E digits stand for, by the sixth of them. "1" to "6" is the digit in that
-/// place of the six, "0" a suppressed zero.
+/** ISO/IEC 15420:2009, UPC-E: the ten digits (manufacturer and product) behind the number system
+ *  digit that six UPC-E digits stand for, by the sixth of them. "1" to "6" is the digit in that
+ *  place of the six, "0" a suppressed zero. */
 inline constexpr std::array<std::string_view, 10> kUpcEExpansion{
     // 0
     "1260000345", "1260000345", "1260000345", "1230000045", "1234000005",
     "1234500006", "1234500006", "1234500006", "1234500006", "1234500006",
 };
 
-/// The ten manufacturer and product digits of a UPC-E number. `digits`: exactly six digits.
+/** The ten manufacturer and product digits of a UPC-E number. `digits`: exactly six digits. */
 constexpr std::array<char, 10> ExpandUpcE(std::string_view digits) {
     std::array<char, 10> expanded{};
     const std::string_view places = kUpcEExpansion[static_cast<std::size_t>(digits[5] - '0')];
@@ -32,8 +32,8 @@ constexpr bool UpcEExpandsTo(std::string_view digits, std::string_view expected)
     return std::string_view(expanded.data(), expanded.size()) == expected;
 }
 
-/// The six digits, by the last of them, that stand for these ten manufacturer and product digits;
-/// none when zeros cannot be suppressed.
+/** The six digits, by the last of them, that stand for these ten manufacturer and product digits;
+ *  none when zeros cannot be suppressed. */
 constexpr std::optional<std::array<char, 6>> SuppressUpcE(std::string_view expanded) {
     for (char last = '0'; last <= '9'; ++last) {
         std::array<char, 6> six{};

@@ -5,7 +5,7 @@
 #include "current/Code39.h"
 #include "current/Ean13.h"
 #include "current/Ean8.h"
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 #include "current/Msi.h"
 #include "current/Postnet.h"
 #include "current/UpcA.h"

@@ -1,10 +1,10 @@
-#include "classic/InterleavedTwoOfFive.h"
+#include "classic/Interleaved2of5.h"
 
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/Status.h"
 #include "standards/CheckDigits.h"
-#include "standards/TwoOfFive.h"
+#include "standards/Interleaved2of5Patterns.h"
 
 namespace linewright {
 
@@ -40,8 +40,10 @@ void AppendText(std::string_view data, bool checkDigit, TextArea& out) {
 
 /** A letter is a bar and a space: "A" both narrow, "B" wide space, "C" wide bar, "D" both wide. */
 void AppendPair(char barDigit, char spaceDigit, TextArea& out) {
-    const std::string_view bars = kTwoOfFivePatterns[static_cast<std::size_t>(barDigit - '0')];
-    const std::string_view spaces = kTwoOfFivePatterns[static_cast<std::size_t>(spaceDigit - '0')];
+    const std::string_view bars =
+        kInterleaved2of5Patterns[static_cast<std::size_t>(barDigit - '0')];
+    const std::string_view spaces =
+        kInterleaved2of5Patterns[static_cast<std::size_t>(spaceDigit - '0')];
     for (std::size_t element = 0; element < kLettersPerPair; ++element)
         out.Append(static_cast<char>('A' + 2 * (bars[element] == 'w') + (spaces[element] == 'w')));
 }
@@ -64,14 +66,14 @@ bool Translate(std::string_view data, bool checkDigit, bool textOnly, TextArea& 
 
 }  // namespace
 
-int16 EncodeI2of5Classic(DataBlock data, bool checkDigit, bool textOnly) {
+int16 EncodeInterleaved2of5Classic(DataBlock data, bool checkDigit, bool textOnly) {
     ResultText result;
     if (!Translate(data.View(), checkDigit, textOnly, result))
         return FinishWith(data, kMarker, kBadData);
     return FinishWith(data, result.View(), kEncoded);
 }
 
-int16 TranslateI2of5(PString& string, bool checkDigit, bool textOnly) {
+int16 TranslateInterleaved2of5(PString& string, bool checkDigit, bool textOnly) {
     ResultText result;
     if (!Translate(string.View(), checkDigit, textOnly, result)) return kBadData;
     SetPString(string, result.View());

@@ -12,10 +12,10 @@ namespace linewright {
 
 /** Replaces the data by the font string or the text, status 0, or by "***Bad Int. 2 of 5***",
  *  status -1: data of 256 bytes or more, or with anything but digits. */
-int16 EncodeI2of5Classic(DataBlock data, bool checkDigit, bool textOnly);
+int16 EncodeInterleaved2of5Classic(DataBlock data, bool checkDigit, bool textOnly);
 
-/** The same for a string in place; 0, or -1 with the string left alone. What exceeds 255 characters
- *  is cut. */
-int16 TranslateI2of5(PString& string, bool checkDigit, bool textOnly);
+/** Service, no caller of our own: the same for a string in place; 0, or -1 with the string left
+ *  alone. What exceeds 255 characters is cut. */
+int16 TranslateInterleaved2of5(PString& string, bool checkDigit, bool textOnly);
 
 }  // namespace linewright

@@ -1,9 +1,9 @@
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 
 #include "current/Front.h"
 #include "current/PairGlyphs.h"
 #include "standards/CheckDigits.h"
-#include "standards/TwoOfFive.h"
+#include "standards/Interleaved2of5Patterns.h"
 
 namespace linewright {
 
@@ -35,7 +35,7 @@ constexpr FrontRule kTextFront{.length = kBarsFront.length,
                                .build = AppendText};
 
 std::string_view PatternOf(char digit) {
-    return kTwoOfFivePatterns[static_cast<std::size_t>(digit - '0')];
+    return kInterleaved2of5Patterns[static_cast<std::size_t>(digit - '0')];
 }
 
 /** The first digit's elements are the bars, the second one's the spaces. */
