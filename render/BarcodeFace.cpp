@@ -3,7 +3,7 @@
 namespace linewright {
 
 const BarcodeFace kBarsFace{"Linewright Bars", "LinewrightBars", 32, 32};
-const BarcodeFace kEanUpcFace{"Linewright EAN UPC", "LinewrightEANUPC", 128, 69, true};
+const BarcodeFace kEanUpcFace{"Linewright EAN UPC", "LinewrightEANUPC", 128, 69.25, true};
 const BarcodeFace kPostalFace{"Linewright Postal", "LinewrightPostal", 32, 29};
 const BarcodeFace kClassicCode128Face{"Linewright Classic Code 128", "LinewrightClassicCode128", 32,
                                       32};
@@ -12,7 +12,7 @@ const BarcodeFace kClassicCode39Face{"Linewright Classic Code 39", "LinewrightCl
 const BarcodeFace kClassicCodabarFace{"Linewright Classic Codabar", "LinewrightClassicCodabar", 32,
                                       32};
 const BarcodeFace kClassicEanUpcFace{"Linewright Classic EAN UPC", "LinewrightClassicEANUPC", 128,
-                                     69, true};
+                                     69.25, true};
 const BarcodeFace kClassicI2of5Face{"Linewright Classic I2of5", "LinewrightClassicI2of5", 32, 32};
 const BarcodeFace kClassicMsiFace{"Linewright Classic MSI", "LinewrightClassicMSI", 32, 32};
 const BarcodeFace kClassicPostnetFace{"Linewright Classic Postnet", "LinewrightClassicPostnet", 32,
