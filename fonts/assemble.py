@@ -18,7 +18,7 @@ HEIGHT_AXIS = ("BHGT", 25, 100, 400, "Bar Height")
 REDUCTION_AXIS = ("BWRD", 0, 0, 25, "Bar Width Reduction")
 NAMED_REDUCTIONS = {f"Reduction {percent}": percent for percent in (5, 10, 15, 20, 25)}
 
-# What a layout program may make of a character as it is typed, and of no byte of a string.
+# What a layout program may make of a character as it is typed. No font has a byte of its own there.
 TYPESET_FORMS = {" ": "\u00a0", '"': "\u201c\u201d", "'": "\u2018\u2019", "-": "\u2011"}
 
 # A family of symbols, of the kind "industry specific"; all else is open.
