@@ -3,13 +3,20 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "cli/TypeNames.h"
+#include "render/TypeDrawing.h"
 
 namespace linewright {
 
 namespace {
+
+double Millimetres(double points) {
+    constexpr double kSteps = 1e4;
+    return std::round(points / kMillimetre * kSteps) / kSteps;
+}
 
 nlohmann::ordered_json JsonOf(std::size_t index, const TypeDescription& type) {
     nlohmann::ordered_json object{
@@ -17,7 +24,16 @@ nlohmann::ordered_json JsonOf(std::size_t index, const TypeDescription& type) {
         {"type", type.typeName},
         {"shortName", ShortNameOf(type.typeName)},
         {"displayText", type.displayText},
+        {"font", nullptr},
+        {"modulesPerEm", nullptr},
+        {"xDimension", nullptr},
     };
+    const TypeDrawing* const drawing = TypeDrawingOf(type.typeName);
+    if (drawing != nullptr && drawing->face != nullptr) {
+        object["font"] = drawing->face->family;
+        object["modulesPerEm"] = drawing->face->modulesPerEm;
+        object["xDimension"] = Millimetres(drawing->xDimension);
+    }
     if (type.optionFlags) {
         object["optionFlag1"] = (*type.optionFlags)[0];
         object["optionFlag2"] = (*type.optionFlags)[1];
