@@ -198,12 +198,20 @@ TEST(Types, AreListedInThePlugInsOrder) {
                                {"type", "_QVT_BARCODE_CODE39_"},
                                {"shortName", "code39"},
                                {"displayText", "0x122100kLWRUtilityTypePopupItem7Key"},
+                               {"font", "Linewright Bars"},
+                               {"modulesPerEm", 32},
+                               {"xDimension", 0.254},
                                {"optionFlag1", 1},
                                {"optionFlag2", 1},
                                {"optionFlag3", 1}}));
     EXPECT_EQ(types[18]["shortName"], "ean8");
+    EXPECT_EQ(types[18]["font"], "Linewright EAN UPC");
+    EXPECT_EQ(types[18]["xDimension"], 0.33);
     EXPECT_EQ(types[18]["optionFlag2"], 1);
     EXPECT_EQ(types[20]["shortName"], "i2of5-text");
+    for (const char* const name : {"font", "modulesPerEm", "xDimension"}) {
+        EXPECT_EQ(types[20].at(name), nullptr) << "digits for any face";
+    }
     EXPECT_EQ(types[26]["type"], "_QVT_BARCODE_POSTNET_");
 }
 
