@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 
+#include "classic/FontLetters.h"
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/PreferencesRecord.h"
@@ -60,7 +61,7 @@ bool ExpandFullAscii(std::string_view data, TextArea& out) {
 }
 
 constexpr char FontCharacter(char character) {
-    return character == ' ' ? '!' : character;
+    return character == ' ' ? classic::kCode39Space : character;
 }
 
 /** Modulo 10 with the doubling anchored at the leftmost digit, unlike other such rules. */
@@ -115,7 +116,7 @@ int16 EncodeCode39Classic(DataBlock data, bool fullAscii) {
     FixedText<2 * kLongestFullAscii> expanded;
     const bool isExpanded = fullAscii && ExpandFullAscii(data.View(), expanded);
 
-    const char startStop = preferences.code39UseAsterisk ? '*' : '#';
+    const char startStop = classic::kCode39StartStops[preferences.code39UseAsterisk ? 0 : 1];
     FixedText<1 + kMaxPStringLength + 2> symbol;
     symbol.Append(startStop);
     const std::string_view marker =
