@@ -7,9 +7,9 @@
 #include "cli/BatchFile.h"
 #include "cli/Encoding.h"
 #include "cli/Failure.h"
-#include "cli/FontText.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
+#include "text/FontText.h"
 
 namespace linewright {
 

@@ -11,7 +11,7 @@
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
 
 namespace linewright {
 
@@ -19,13 +19,13 @@ namespace {
 
 /** Where the build tree and an installation alike have the fonts. */
 std::string FontsBeside(const std::filesystem::path& programFolder) {
-    return Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
+    return host::Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
 }
 
 /** The plug-in's place in the build tree and in an installation alike. */
 std::string PlugInBeside(const std::filesystem::path& programFolder) {
     const auto path = programFolder / ".." / "lib" / "linewright" / LINEWRIGHT_PLUGIN_FILE;
-    return Utf8FromPath(path.lexically_normal());
+    return host::Utf8FromPath(path.lexically_normal());
 }
 
 ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments,

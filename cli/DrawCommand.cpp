@@ -10,8 +10,8 @@
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
-#include "cli/Utf8.h"
 #include "render/Export.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

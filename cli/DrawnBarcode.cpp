@@ -6,7 +6,9 @@
 #include "cli/Length.h"
 #include "cli/LoadedPreferences.h"
 #include "cli/PlugInConversion.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
+#include "text/Readable.h"
+#include "text/Utf8.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {
@@ -80,7 +82,7 @@ DrawnBarcode DrawBarcode(Service& service, const EncodeRequest& request, bool is
         return drawn;
     }
     std::string problem;
-    drawn.drawing = BarcodeDrawing::Make(PathFromUtf8(wish.fonts), *type, outcome.bytes,
+    drawn.drawing = BarcodeDrawing::Make(host::PathFromUtf8(wish.fonts), *type, outcome.bytes,
                                          OptionsOf(wish, *type, request), problem);
     if (!drawn.drawing) throw Failure(problem);
     return drawn;

@@ -5,9 +5,9 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Encoding.h"
-#include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/ReadAll.h"
+#include "text/FontText.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {

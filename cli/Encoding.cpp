@@ -4,8 +4,8 @@
 
 #include <utility>
 
-#include "cli/Utf8.h"
 #include "cli/Warnings.h"
+#include "text/Readable.h"
 #include "types/WrittenType.h"
 
 namespace linewright {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 #include "types/Dimensions.h"
 
 namespace linewright {

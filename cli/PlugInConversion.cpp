@@ -1,38 +1,17 @@
 #include "cli/PlugInConversion.h"
 
+#include "text/LenientUtf8.h"
+
 namespace linewright {
-
-namespace {
-
-struct Lead {
-    std::size_t continuations;
-    char32_t bits;
-};
-
-Lead LeadOf(unsigned char byte) {
-    if ((byte & 0xE0) == 0xC0) return {1, byte & 0x1FU};
-    if ((byte & 0xF0) == 0xE0) return {2, byte & 0x0FU};
-    if ((byte & 0xF8) == 0xF0) return {3, byte & 0x07U};
-    return {0, byte};
-}
-
-}  // namespace
 
 ConvertedData ConvertLikePlugIn(std::string_view utf8) {
     ConvertedData converted;
-    bool isCutShort = false;
-    for (std::size_t i = 0; i < utf8.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(utf8[i]);
-        Lead lead = LeadOf(byte);
-        isCutShort = isCutShort || lead.continuations >= utf8.size() - i;
-        if (isCutShort) lead = {0, byte};
-        for (; lead.continuations > 0; --lead.continuations) {
-            lead.bits = (lead.bits << 6) | (static_cast<unsigned char>(utf8[++i]) & 0x3FU);
-        }
-        if (lead.bits < 256) {
-            converted.bytes += static_cast<char>(lead.bits);
+    LenientUtf8 characters(utf8);
+    while (const auto character = characters.Next()) {
+        if (*character < 256) {
+            converted.bytes += static_cast<char>(*character);
         } else {
-            converted.dropped.push_back(lead.bits);
+            converted.dropped.push_back(*character);
         }
     }
     return converted;

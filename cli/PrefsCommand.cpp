@@ -3,11 +3,12 @@
 #include <fmt/format.h>
 
 #include "cli/Failure.h"
-#include "cli/HostText.h"
 #include "cli/LoadedPreferences.h"
 #include "cli/PreferenceFields.h"
-#include "cli/Utf8.h"
+#include "host/runtime/HostText.h"
 #include "plugin/PreferencesFile.h"
+#include "text/Readable.h"
+#include "text/Utf8.h"
 
 namespace linewright {
 
@@ -16,7 +17,7 @@ namespace {
 std::string FileName() {
     IDFile file;
     if (!LocatePreferencesFile(file)) throw Failure("the host knows no folder for preferences");
-    return Utf8FromHost(file.GetString());
+    return host::ToUtf8(file.GetString());
 }
 
 void Print(std::ostream& out, std::string_view name, std::string_view text,

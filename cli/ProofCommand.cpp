@@ -7,8 +7,9 @@
 #include "cli/DrawnBarcode.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
 #include "render/Sheet.h"
+#include "text/Readable.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {
@@ -100,7 +101,7 @@ ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOption
     }
     // What was refused stands behind the barcodes.
     std::move(refused.begin(), refused.end(), std::back_inserter(entries));
-    const std::string name = Utf8FromPath(PathFromUtf8(files.input).filename());
+    const std::string name = host::Utf8FromPath(host::PathFromUtf8(files.input).filename());
     OutputFile file(files.output);
     file.Stream() << SheetPdf(fmt::format("Linewright proof of {}", Readable(name)), entries);
     file.Keep();

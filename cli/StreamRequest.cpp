@@ -8,7 +8,7 @@
 
 #include "cli/Failure.h"
 #include "cli/Hex.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

@@ -7,7 +7,8 @@
 #include <cstddef>
 
 #include "cli/PlugInConversion.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
+#include "text/Utf8.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {

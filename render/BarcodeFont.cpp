@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+#include "text/FontCharacters.h"
+
 namespace linewright {
 
 namespace {
@@ -43,11 +45,6 @@ bool SetShape(FT_Face file, const FontShape& shape) {
 
 double Number(FT_Pos position) {
     return static_cast<double>(position);
-}
-
-/** A character at which every byte's glyph is found, see docs/fonts.md. */
-FT_ULong CharacterOf(unsigned char byte) {
-    return byte >= 32 && byte <= 126 ? byte : 0xF000U + byte;
 }
 
 }  // namespace
@@ -94,7 +91,7 @@ BarcodeFont::~BarcodeFont() {
 }
 
 GlyphBox BarcodeFont::GlyphOf(unsigned char byte, bool isLarge) const {
-    FT_UInt index = FT_Get_Char_Index(file, CharacterOf(byte));
+    FT_UInt index = FT_Get_Char_Index(file, FontCharacter(byte));
     if (isLarge) {
         std::array<char, 64> name{};
         FT_Get_Glyph_Name(file, index, name.data(), name.size());

@@ -2,27 +2,15 @@
 
 #include <algorithm>
 
+#include "text/Readable.h"
+#include "text/Utf8.h"
+
 namespace linewright {
 
 namespace {
 
 bool IsOther(const Reading& reading) {
     return reading.isFound && !reading.isMeant;
-}
-
-/** Bytes 0 to 31 and 127 as the pictures of Unicode, above that as Latin-1. */
-void AppendShown(std::string& text, unsigned char byte) {
-    if (byte < 32) {
-        text += "\xE2\x90";
-        text += static_cast<char>(0x80 + byte);
-    } else if (byte == 127) {
-        text += "\xE2\x90\xA1";
-    } else if (byte < 128) {
-        text += static_cast<char>(byte);
-    } else {
-        text += static_cast<char>(0xC0 | byte >> 6);
-        text += static_cast<char>(0x80 | (byte & 0x3F));
-    }
 }
 
 }  // namespace
@@ -34,8 +22,7 @@ bool IsMeant(const Reading& reading, const Meaning& meaning) {
 }
 
 std::string ShownData(const Reading& reading) {
-    std::string text;
-    for (const char byte : reading.said) AppendShown(text, static_cast<unsigned char>(byte));
+    const std::string text = Readable(Utf8FromLatin1(reading.said));
     return reading.addOn.empty() ? text : text + " +" + reading.addOn;
 }
 

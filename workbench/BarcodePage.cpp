@@ -16,8 +16,8 @@
 
 #include "cli/DrawnBarcode.h"
 #include "cli/Failure.h"
-#include "cli/FontText.h"
 #include "render/Export.h"
+#include "text/FontText.h"
 #include "types/BarcodeTypes.h"
 #include "workbench/Text.h"
 

@@ -7,7 +7,6 @@
 #include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
-#include "cli/Utf8.h"
 #include "tests/cli/CommandRunner.h"
 
 namespace linewright {
