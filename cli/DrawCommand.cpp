@@ -68,18 +68,13 @@ int PixelsOf(const BarcodeDrawing& drawing, const DrawOptions& options) {
 }
 
 void PrintVerification(const Verification& verification, std::ostream& out) {
-    out << verification.Words() << '\n';
+    out << VerdictWords(verification) << '\n';
     for (const Reading& reading : verification.readings) {
         const std::string found =
             reading.isFound ? fmt::format("{:9}  {}", reading.symbology, ShownData(reading))
                             : "reads nothing";
         out << fmt::format("  {:9}  {}\n", reading.scanner, found);
     }
-}
-
-bool IsBad(const Verification& verification) {
-    return verification.verdict == Verdict::kScansAs ||
-           verification.verdict == Verdict::kDoesNotScan;
 }
 
 /** At the pixels a module that a person's picture will have, or a usual number. */
@@ -115,7 +110,7 @@ ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& consol
     if (!options.isVerified) return kDone;
     const Verification verification = VerificationOf(drawn, options);
     PrintVerification(verification, console.out);
-    return IsBad(verification) ? kDoesNotScan : kDone;
+    return verification.IsBad() ? kDoesNotScan : kDone;
 }
 
 ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& console) {
@@ -125,7 +120,7 @@ ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& cons
     if (!drawn.drawing) return kRefused;
     const Verification verification = VerificationOf(drawn, options);
     PrintVerification(verification, console.out);
-    return IsBad(verification) ? kDoesNotScan : kDone;
+    return verification.IsBad() ? kDoesNotScan : kDone;
 }
 
 ScannedBarcode EncodeAndScan(Service& service, const EncodeRequest& request, bool isStrict,
@@ -136,7 +131,7 @@ ScannedBarcode EncodeAndScan(Service& service, const EncodeRequest& request, boo
     DrawnBarcode drawn = DrawBarcode(service, request, isStrict, wish);
     if (!drawn.drawing) return {std::move(drawn.outcome), "", ""};
     const Verification verification = Verify(*drawn.drawing, drawn.meaning);
-    return {std::move(drawn.outcome), verification.Words(), WhatWasRead(verification)};
+    return {std::move(drawn.outcome), VerdictWords(verification), WhatWasRead(verification)};
 }
 
 }  // namespace linewright

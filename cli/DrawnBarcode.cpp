@@ -4,8 +4,7 @@
 
 #include "cli/Failure.h"
 #include "cli/Length.h"
-#include "cli/LoadedPreferences.h"
-#include "cli/PlugInConversion.h"
+#include "cli/WarningWords.h"
 #include "host/runtime/Paths.h"
 #include "text/Readable.h"
 #include "text/Utf8.h"
@@ -14,16 +13,6 @@
 namespace linewright {
 
 namespace {
-
-EncoderSettings Settings() {
-    const LinewrightPrefsRecord& record = LoadedPreferences();
-    return {
-        .code39CheckMode = record.code39CheckMode,
-        .hasInterleaved2of5CheckDigit = record.i2of5CheckDigit != 0,
-        .codabarStart = static_cast<char>(record.codabarStart & 0xFF),
-        .codabarStop = static_cast<char>(record.codabarStop & 0xFF),
-    };
-}
 
 double ReductionOf(const std::string& text, double xDimension) {
     if (!text.ends_with('%'))
@@ -50,16 +39,6 @@ DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeType& type,
     return options;
 }
 
-Meaning MeaningOfRequest(const EncodeRequest& request, std::string_view typeName) {
-    const std::string bytes = request.isUtf8 ? ConvertLikePlugIn(request.data).bytes : request.data;
-    return MeaningOf({
-        .typeName = typeName,
-        .data = TrimLikePlugIn(bytes),
-        .isCheckWanted = request.checkCharacter != 0,
-        .settings = Settings(),
-    });
-}
-
 }  // namespace
 
 DrawnBarcode DrawBarcode(Service& service, const EncodeRequest& request, bool isStrict,
@@ -72,9 +51,10 @@ DrawnBarcode DrawBarcode(Service& service, const EncodeRequest& request, bool is
     if (type == nullptr) {
         throw Failure(fmt::format("{} has no font of ours", Readable(outcome.typeName)));
     }
-    drawn.meaning = MeaningOfRequest(request, type->name);
-    outcome.warnings.insert(outcome.warnings.end(), drawn.meaning.warnings.begin(),
-                            drawn.meaning.warnings.end());
+    drawn.meaning = outcome.meaning;
+    if (type->symbology == Symbology::kText) {
+        outcome.warnings.push_back(Sentence({WarningReason::kNoBars}));
+    }
     if (isStrict && !outcome.warnings.empty()) {
         outcome.isMade = false;
         outcome.status.reset();
@@ -86,6 +66,17 @@ DrawnBarcode DrawBarcode(Service& service, const EncodeRequest& request, bool is
                                          OptionsOf(wish, *type, request), problem);
     if (!drawn.drawing) throw Failure(problem);
     return drawn;
+}
+
+std::string VerdictWords(const Verification& verification) {
+    switch (verification.verdict) {
+        case Verdict::kScans: return "scans";
+        case Verdict::kDoesNotScan: return "does not scan";
+        case Verdict::kNoScanner: return "no scanner for this symbology";
+        case Verdict::kScansAs: break;
+    }
+    const Reading* const other = verification.Other();
+    return "scans as " + (other == nullptr ? std::string() : ShownData(*other));
 }
 
 std::string WhatWasRead(const Verification& verification) {

@@ -24,6 +24,9 @@ struct DrawnBarcode {
 DrawnBarcode DrawBarcode(Service& service, const EncodeRequest& request, bool isStrict,
                          const DrawingWish& wish);
 
+/** "scans", "scans as …", "does not scan" or "no scanner for this symbology". */
+std::string VerdictWords(const Verification& verification);
+
 /** What the scanners read, one text where they agree; "" where none read anything. UTF-8. */
 std::string WhatWasRead(const Verification& verification);
 

@@ -4,8 +4,9 @@
 
 #include <utility>
 
-#include "cli/Warnings.h"
+#include "cli/WarningWords.h"
 #include "text/Readable.h"
+#include "types/BarcodeTypes.h"
 #include "types/WrittenType.h"
 
 namespace linewright {
@@ -35,7 +36,7 @@ std::string WhyRefused(const EncodeAnswer& answer) {
 
 BarcodeOutcome MakeBarcode(Service& service, EncodeRequest request, bool isStrict) {
     const std::string written = std::exchange(request.typeName, "");
-    const BarcodeType* const type = FindWrittenType(written).type;
+    const auto [type, expectation] = FindWrittenType(written);
     request.typeName = type && !written.starts_with('_') ? type->name : written;
     BarcodeOutcome outcome;
     outcome.typeName = request.typeName;
@@ -53,7 +54,17 @@ BarcodeOutcome MakeBarcode(Service& service, EncodeRequest request, bool isStric
         outcome.message = WhyRefused(answer);
         return outcome;
     }
-    outcome.warnings = Warnings(request.typeName, request.data, request.isUtf8);
+    outcome.meaning = MeaningOf({
+        .type = *FindTypeByPrefix(request.typeName),
+        .data = request.data,
+        .isUtf8 = request.isUtf8,
+        .isCheckWanted = request.checkCharacter != 0,
+        .expectation = expectation,
+        .fontString = answer.bytes,
+    });
+    for (const Warning& warning : outcome.meaning.warnings) {
+        outcome.warnings.push_back(Sentence(warning));
+    }
     if (isStrict && !outcome.warnings.empty()) {
         outcome.status.reset();
         outcome.message = "a warning, and --strict is on";

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/Service.h"
+#include "meaning/Meaning.h"
 
 namespace linewright {
 
@@ -20,6 +21,7 @@ struct BarcodeOutcome {
     /** Why it was refused: the plug-in's hint, or the words of its marker; "" when it was made. */
     std::string message;
     /** Only where the font string could be made. */
+    Meaning meaning{};
     std::vector<std::string> warnings;
 };
 

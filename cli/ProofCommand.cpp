@@ -45,15 +45,13 @@ SheetEntry EntryOf(const DrawnBarcode& drawn, const RowWish& wish, std::string t
                    ProofCounts& counts) {
     const Verification verification = Verify(*drawn.drawing, drawn.meaning);
     if (verification.verdict == Verdict::kNoScanner) ++counts.withoutScanner;
-    const bool isBad =
-        verification.verdict == Verdict::kScansAs || verification.verdict == Verdict::kDoesNotScan;
-    if (isBad) ++counts.unreadable;
+    if (verification.IsBad()) ++counts.unreadable;
     SheetEntry entry{drawn.drawing, std::move(title), {}};
     entry.lines.push_back(fmt::format("data  {}", Readable(wish.data)));
     entry.lines.push_back(fmt::format("font  {}", FontOf(*drawn.drawing, drawn.outcome.typeName)));
     const std::string read = WhatWasRead(verification);
     entry.lines.push_back(
-        fmt::format("read  {}{}", verification.Words(), read.empty() ? "" : ": " + read));
+        fmt::format("read  {}{}", VerdictWords(verification), read.empty() ? "" : ": " + read));
     for (const std::string& warning : drawn.outcome.warnings) {
         entry.lines.push_back("note  " + warning);
     }

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "render/BarcodeDrawing.h"
 #include "meaning/Meaning.h"
+#include "render/BarcodeDrawing.h"
 #include "scanners/Reading.h"
 
 namespace linewright {
@@ -17,8 +17,10 @@ struct Verification {
     /** One for each scanner that knows the symbology. */
     std::vector<Reading> readings;
 
-    /** "scans", "scans as …", "does not scan" or "no scanner for this symbology". */
-    std::string Words() const;
+    /** The first reading of something else than is meant; nullptr where there is none. */
+    const Reading* Other() const;
+    /** Whether scanners know the symbology and do not read what is meant. */
+    bool IsBad() const { return verdict == Verdict::kScansAs || verdict == Verdict::kDoesNotScan; }
 };
 
 /** Whether a reading is exactly what is meant. */
