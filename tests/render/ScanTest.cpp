@@ -159,7 +159,7 @@ bool IsWithin(std::string_view scanner, std::string_view type, const Meaning& me
     const Symbology symbology = meaning.task.symbology;
     const std::size_t length = meaning.carried.size();
     if (scanner == "ZXing-C++") {
-        if (symbology == Symbology::kInterleavedTwoOfFive) return length >= 6;
+        if (symbology == Symbology::kInterleaved2of5) return length >= 6;
         if (symbology == Symbology::kCodabar && length < 4) return false;
         if (reduction != kMostReduction) return true;
         if (symbology == Symbology::kCode39) {

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "cli/PlugInConversion.h"
+#include "meaning/PlugInConversion.h"
 #include "core/ConvertUtf8Data.h"
 #include "tests/TestBlock.h"
 #include "tests/TestHost.h"
