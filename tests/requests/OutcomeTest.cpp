@@ -62,7 +62,7 @@ TEST_F(OutcomeTest, SendsATypeNameAsItWasWritten) {
 }
 
 TEST_F(OutcomeTest, NamesTheNearestTypesOfAnUnknownOne) {
-    for (const std::string type :
+    for (const std::string& type :
          {std::string("eann13"), std::string(), "_BARCODE_EAN13_" + std::string(300, 'x')}) {
         const Outcome outcome = Made({.type = type, .data = "1"});
         ASSERT_TRUE(outcome.refusal) << type;
