@@ -1,5 +1,3 @@
-#include "cli/Warnings.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -8,7 +6,6 @@
 #include "cli/Encoding.h"
 #include "cli/Hex.h"
 #include "tests/cli/CommandRunner.h"
-#include "types/WrittenType.h"
 
 namespace linewright {
 
@@ -25,6 +22,7 @@ struct Row {
             .data = isText ? fields.at("data").get<std::string>()
                            : FromHex(fields.at("hex").get<std::string>()).value(),
             .isUtf8 = fields.value("utf8", isText),
+            .checkCharacter = static_cast<uint8>(fields.value("check", false) ? 1 : 0),
         };
     }
     std::vector<std::string> Expected() const { return fields.at("warnings"); }
@@ -32,36 +30,12 @@ struct Row {
 
 std::vector<Row> Rows() {
     std::vector<Row> rows;
-    std::ifstream file(LINEWRIGHT_CLI_TESTS "/warnings.jsonl", std::ios::binary);
+    std::ifstream file(LINEWRIGHT_TESTS "/meaning/warnings.jsonl", std::ios::binary);
     int number = 0;
     for (std::string line; std::getline(file, line);) {
         rows.push_back({++number, nlohmann::json::parse(line)});
     }
     return rows;
-}
-
-std::string NameOf(const testing::TestParamInfo<Row>& info) {
-    return "Line" + std::to_string(info.param.line);
-}
-
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.fields.at("type");
-}
-
-class WarningsTest : public testing::TestWithParam<Row> {};
-
-TEST_P(WarningsTest, SayWhatThePlugInDoes) {
-    const EncodeRequest request = GetParam().Request();
-    EXPECT_EQ(Warnings(FindWrittenType(request.typeName).type->name, request.data, request.isUtf8),
-              GetParam().Expected())
-        << GetParam().fields;
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, WarningsTest, testing::ValuesIn(Rows()), NameOf);
-
-TEST(WarningsRows, AreThereAndSayWhereTheyComeFrom) {
-    EXPECT_GT(Rows().size(), 50U);
-    for (const Row& row : Rows()) EXPECT_FALSE(row.fields.at("from").empty()) << row.line;
 }
 
 /** All rows in one host: what is warned about is made all the same, and strictness refuses it. */
