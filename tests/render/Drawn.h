@@ -7,6 +7,7 @@
 #include "core/EncodeBarcodeData.h"
 #include "render/BarcodeDrawing.h"
 #include "tests/TestBlock.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
