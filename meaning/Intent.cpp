@@ -13,7 +13,9 @@ namespace linewright::meaning {
 namespace {
 
 std::string PaddedToPairs(std::string_view digits) {
-    return (digits.size() % 2 == 0 ? "" : "0") + std::string(digits);
+    std::string padded(digits.size() % 2, '0');
+    padded += digits;
+    return padded;
 }
 
 /** Modulo 11 with the weights 2 to 7 from the right; ":" where the check would be 10. */
