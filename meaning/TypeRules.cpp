@@ -80,8 +80,7 @@ TypeRules RulesOf(TypeCode code) {
         case TypeCode::kCode39: return {ReadCode39, Code39Intent, FromNulOn};
         case TypeCode::kCode128: return {ReadCode128, Code128Intent, DelAndFromNulOn};
         case TypeCode::kEan13: return {ReadRetail, Ean13Intent};
-        case TypeCode::kInterleaved2of5:
-            return {ReadInterleaved2of5, Interleaved2of5Intent};
+        case TypeCode::kInterleaved2of5: return {ReadInterleaved2of5, Interleaved2of5Intent};
         case TypeCode::kInterleaved2of5Text: return {ReadDigits, Interleaved2of5Intent};
         case TypeCode::kJan13: return {ReadRetail, Ean13Intent};
         case TypeCode::kMsi: return {ReadMsi, MsiIntent};

@@ -107,8 +107,8 @@ constexpr Translations TranslationsOf(WarningReason reason) {
                     "この種類は人が読む数字だけで、バーはありません"};
         case WarningReason::kNoIdentifiers:
             return {
-                "GS1-128 has application identifiers, as in (01)09501101530003; this data has "
-                "none",
+                "GS1-128 wants GS1 application identifiers, as in \"(01)09501101530003\", and the "
+                "data has none",
                 "GS1-128 hat Datenbezeichner wie in (01)09501101530003; diese Daten haben keine",
                 "le GS1-128 a des identifiants comme dans (01)09501101530003 ; ces données n’en "
                 "ont pas",
@@ -178,7 +178,7 @@ std::string Sentence(const Warning& warning, Language language) {
     }
 }
 
-std::string JoinedWarnings(const Outcome& outcome, Language language) {
+std::string JoinedWarnings(const BarcodeOutcome& outcome, Language language) {
     std::string text;
     for (const Warning& warning : outcome.Warnings()) {
         if (!text.empty()) text += "; ";

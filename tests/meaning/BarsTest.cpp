@@ -60,7 +60,7 @@ std::string RandomDataOf(const BarcodeType& type, RandomData& random) {
         case Symbology::kIntelligentMail:
             return "01" + random.Digits(18) + random.Digits(9 * random.Number(0, 1));
         case Symbology::kText:
-        case Symbology::kInterleavedTwoOfFive: break;
+        case Symbology::kInterleaved2of5: break;
     }
     return random.Digits(length);
 }

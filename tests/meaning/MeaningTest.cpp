@@ -22,7 +22,8 @@ std::string Repeated(const std::string& text, std::size_t times) {
 
 std::vector<std::string> Sentences(const Meaning& meaning) {
     std::vector<std::string> sentences;
-    for (const Warning& warning : meaning.warnings) sentences.push_back(Sentence(warning, Language::kEnglish));
+    for (const Warning& warning : meaning.warnings)
+        sentences.push_back(Sentence(warning, Language::kEnglish));
     return sentences;
 }
 

@@ -63,7 +63,7 @@ TEST(Words, UpsetNoTerminal) {
 }
 
 TEST(Words, SayWhyABarcodeWasRefused) {
-    Outcome outcome{.typeName = "eann13"};
+    BarcodeOutcome outcome{.typeName = "eann13"};
     EXPECT_EQ(WhyRefused(outcome, Language::kEnglish), "");
     outcome.refusal = Refusal{RefusalReason::kUnknownType, {"ean13", "jan13"}};
     EXPECT_EQ(WhyRefused(outcome, Language::kEnglish),

@@ -1,4 +1,4 @@
-#include "requests/Outcome.h"
+#include "requests/BarcodeOutcome.h"
 
 #include <utility>
 
@@ -35,9 +35,9 @@ std::string_view SentName(const BarcodeWish& wish, const BarcodeType& type) {
 
 }  // namespace
 
-Outcome MakeBarcode(Service& service, const BarcodeWish& wish) {
+BarcodeOutcome MakeBarcode(Service& service, const BarcodeWish& wish) {
     const WrittenType written = FindWrittenType(wish.type);
-    Outcome outcome{.typeName = wish.type, .type = written.type};
+    BarcodeOutcome outcome{.typeName = wish.type, .type = written.type};
     if (written.type) outcome.typeName = SentName(wish, *written.type);
     if (!written.type || outcome.typeName.size() > kMaxPStringLength) {
         outcome.refusal = UnknownType(wish.type);

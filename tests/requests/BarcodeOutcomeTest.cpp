@@ -1,4 +1,4 @@
-#include "requests/Outcome.h"
+#include "requests/BarcodeOutcome.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,16 +22,16 @@ using testing::IsEmpty;
 namespace fs = std::filesystem;
 
 /** The plug-in in a host with folders of its own, for the length of a test. */
-class OutcomeTest : public testing::Test {
+class BarcodeOutcomeTest : public testing::Test {
   protected:
-    OutcomeTest() {
+    BarcodeOutcomeTest() {
         fs::create_directories(folder / "app");
         service.emplace(HostOptions{.plugin = LINEWRIGHT_PLUGIN,
                                     .roamingFolder = host::Utf8FromPath(folder),
                                     .appFolder = host::Utf8FromPath(folder / "app"),
                                     .locale = "enUS"});
     }
-    ~OutcomeTest() override {
+    ~BarcodeOutcomeTest() override {
         const host::Leaks leaks = service->Stop();
         EXPECT_EQ(leaks.blocks, 0U);
         EXPECT_EQ(leaks.references, 0U);
@@ -39,7 +39,7 @@ class OutcomeTest : public testing::Test {
         fs::remove_all(folder, ignored);
     }
 
-    Outcome Made(const BarcodeWish& wish) { return MakeBarcode(*service, wish); }
+    BarcodeOutcome Made(const BarcodeWish& wish) { return MakeBarcode(*service, wish); }
     fs::path PreferencesFile() const { return folder / "Corvane/Config/QVT Linewright.prf"; }
 
     fs::path folder = fs::temp_directory_path() /
@@ -47,8 +47,8 @@ class OutcomeTest : public testing::Test {
     std::optional<Service> service;
 };
 
-TEST_F(OutcomeTest, HasTheFontStringOfAType) {
-    const Outcome outcome = Made({.type = "ean13", .data = "4006381333931"});
+TEST_F(BarcodeOutcomeTest, HasTheFontStringOfAType) {
+    const BarcodeOutcome outcome = Made({.type = "ean13", .data = "4006381333931"});
     EXPECT_TRUE(outcome.IsMade());
     EXPECT_EQ(outcome.bytes, "Y(0A63IB*NNNTNL(");
     EXPECT_EQ(outcome.typeName, "_QVT_BARCODE_EAN13_");
@@ -57,15 +57,15 @@ TEST_F(OutcomeTest, HasTheFontStringOfAType) {
     EXPECT_EQ(outcome.meaning.carried, "4006381333931");
 }
 
-TEST_F(OutcomeTest, SendsATypeNameAsItWasWritten) {
+TEST_F(BarcodeOutcomeTest, SendsATypeNameAsItWasWritten) {
     EXPECT_EQ(Made({.type = "_QVT_BARCODE_EAN13_ more", .data = "1"}).typeName,
               "_QVT_BARCODE_EAN13_ more");
 }
 
-TEST_F(OutcomeTest, NamesTheNearestTypesOfAnUnknownOne) {
+TEST_F(BarcodeOutcomeTest, NamesTheNearestTypesOfAnUnknownOne) {
     for (const std::string& type :
          {std::string("eann13"), std::string(), "_BARCODE_EAN13_" + std::string(300, 'x')}) {
-        const Outcome outcome = Made({.type = type, .data = "1"});
+        const BarcodeOutcome outcome = Made({.type = type, .data = "1"});
         ASSERT_TRUE(outcome.refusal) << type;
         EXPECT_EQ(outcome.refusal->reason, RefusalReason::kUnknownType) << type;
         EXPECT_EQ(outcome.refusal->texts.size(), 3U) << type;
@@ -73,26 +73,26 @@ TEST_F(OutcomeTest, NamesTheNearestTypesOfAnUnknownOne) {
     }
 }
 
-TEST_F(OutcomeTest, HasThePlugInsReasonForARefusal) {
-    const Outcome hinted = Made({.type = "ean13", .data = "4OO6"});
+TEST_F(BarcodeOutcomeTest, HasThePlugInsReasonForARefusal) {
+    const BarcodeOutcome hinted = Made({.type = "ean13", .data = "4OO6"});
     EXPECT_EQ(hinted.status, -6301);
     EXPECT_EQ(hinted.refusal->reason, RefusalReason::kPlugIn);
     EXPECT_THAT(hinted.refusal->texts, ElementsAre(hinted.hint));
     EXPECT_EQ(hinted.bytes, "");
 
-    const Outcome marked = Made({.type = "classic-code39", .data = "a"});
+    const BarcodeOutcome marked = Made({.type = "classic-code39", .data = "a"});
     EXPECT_EQ(marked.hint, "");
     EXPECT_THAT(marked.refusal->texts, ElementsAre("Bad Code 39"));
 }
 
-TEST_F(OutcomeTest, IsARefusalWithoutAFontStringWhereWarningsAreNone) {
+TEST_F(BarcodeOutcomeTest, IsARefusalWithoutAFontStringWhereWarningsAreNone) {
     const BarcodeWish wish{.type = "ean13", .data = "4006381333937"};
     EXPECT_EQ(Made(wish).Warnings().size(), 1U);
     EXPECT_TRUE(Made(wish).IsMade());
 
     BarcodeWish strict = wish;
     strict.isStrict = true;
-    const Outcome outcome = Made(strict);
+    const BarcodeOutcome outcome = Made(strict);
     EXPECT_EQ(outcome.refusal->reason, RefusalReason::kStrict);
     EXPECT_EQ(outcome.bytes, "");
     EXPECT_EQ(outcome.status, std::nullopt);
@@ -101,14 +101,15 @@ TEST_F(OutcomeTest, IsARefusalWithoutAFontStringWhereWarningsAreNone) {
 
 /** The rows of tests/meaning/: what is warned about is made all the same, and strictness refuses
  *  it. */
-TEST_F(OutcomeTest, WarnsOfTheRows) {
+TEST_F(BarcodeOutcomeTest, WarnsOfTheRows) {
     for (const JsonLine& row : ReadJsonLines(LINEWRIGHT_TESTS "/meaning/warnings.jsonl")) {
-        BarcodeWish wish{.type = row.fields.at("type")};
         if (!row.fields.contains("data")) continue;
+        BarcodeWish wish;
+        wish.type = row.fields.at("type");
         wish.data = row.fields.at("data");
         wish.checkCharacter = row.fields.value("check", false) ? 1 : 0;
         const bool isWarnedOf = !row.fields.at("warnings").empty();
-        const Outcome outcome = Made(wish);
+        const BarcodeOutcome outcome = Made(wish);
         EXPECT_TRUE(outcome.IsMade()) << row.fields;
         EXPECT_EQ(!outcome.Warnings().empty(), isWarnedOf) << row.fields;
         wish.isStrict = true;
@@ -118,7 +119,7 @@ TEST_F(OutcomeTest, WarnsOfTheRows) {
 }
 
 // Whoever read the file would put defaults in the place of what is none of ours.
-TEST_F(OutcomeTest, ReadsNoPreferences) {
+TEST_F(BarcodeOutcomeTest, ReadsNoPreferences) {
     std::ofstream(PreferencesFile(), std::ios::binary) << "nonsense";
     for (const char* const type : {"classic-code39", "classic-i2of5", "classic-codabar"})
         EXPECT_TRUE(Made({.type = type, .data = "12"}).IsMade()) << type;

@@ -39,7 +39,7 @@ struct Refusal {
 };
 
 /** What became of a wish. Texts are UTF-8. */
-struct Outcome {
+struct BarcodeOutcome {
     /** The type name that was sent, or what was written where it names no type. */
     std::string typeName;
     /** nullptr for an unknown type. */
@@ -59,6 +59,6 @@ struct Outcome {
 };
 
 /** Has the plug-in make a barcode. Throws RequestFailure. */
-Outcome MakeBarcode(Service& service, const BarcodeWish& wish);
+BarcodeOutcome MakeBarcode(Service& service, const BarcodeWish& wish);
 
 }  // namespace linewright
