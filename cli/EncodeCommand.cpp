@@ -4,9 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/Hex.h"
 #include "cli/ReadAll.h"
 #include "text/FontText.h"
+#include "text/Hex.h"
 
 namespace linewright {
 
