@@ -6,7 +6,7 @@
 #include <charconv>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -89,16 +89,6 @@ double RatioOf(std::string_view cell) {
 
 }  // namespace
 
-EncodeRequest RowWish::Request() const {
-    return {
-        .typeName = type,
-        .data = data,
-        .isUtf8 = true,
-        .checkCharacter = checkCharacter,
-        .ratio = ratio,
-    };
-}
-
 BatchColumns::BatchColumns(const CsvRecord& header, const BatchOptions& wanted, char separator)
     : options(wanted),
       delimiter(separator),
@@ -126,15 +116,16 @@ std::string BatchColumns::ValueAt(const CsvRecord& row, std::size_t column) cons
     return CsvValue(row.fields[column]);
 }
 
-RowWish BatchColumns::WishOf(const CsvRecord& row) const {
+BarcodeWish BatchColumns::WishOf(const CsvRecord& row) const {
     if (row.fields.size() != width) {
         throw Failure(
             fmt::format("the row has {} fields, the header {}", row.fields.size(), width));
     }
-    RowWish wish;
+    BarcodeWish wish;
     wish.type = type ? Trimmed(ValueAt(row, *type)) : *options.type;
     wish.data = ValueAt(row, *data);
     wish.checkCharacter = check ? CheckOf(ValueAt(row, *check)) : options.isCheckWanted ? 1 : 0;
+    wish.isStrict = options.isStrict;
     wish.ratio = ratio ? RatioOf(ValueAt(row, *ratio)) : options.ratio.value_or(2.0);
     return wish;
 }

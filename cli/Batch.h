@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "cli/Csv.h"
-#include "cli/Service.h"
+#include "requests/BarcodeOutcome.h"
 
 namespace linewright {
 
@@ -24,16 +24,6 @@ struct BatchOptions {
     /** Draws each barcode with the fonts in `fonts` (a folder, UTF-8) and has it read. */
     bool isVerified = false;
     std::string fonts;
-};
-
-/** What one row asks for. */
-struct RowWish {
-    std::string type;
-    std::string data;
-    std::uint8_t checkCharacter = 0;
-    double ratio = 2.0;
-
-    EncodeRequest Request() const;
 };
 
 /** What is written for one row. */
@@ -54,7 +44,7 @@ class BatchColumns {
     BatchColumns(const CsvRecord& header, const BatchOptions& wanted, char separator);
 
     /** What a row asks for. Throws Failure with a sentence for a row that cannot be understood. */
-    RowWish WishOf(const CsvRecord& row) const;
+    BarcodeWish WishOf(const CsvRecord& row) const;
     /** The header with the columns that are added. */
     std::string HeaderLine(const CsvRecord& header) const;
     /** A row with its result in the columns for it; everything else as it stands in the file. A

@@ -5,11 +5,10 @@
 #include <chrono>
 
 #include "cli/BatchFile.h"
-#include "cli/Encoding.h"
 #include "cli/Failure.h"
-#include "cli/FontText.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
+#include "text/FontText.h"
 
 namespace linewright {
 
@@ -59,31 +58,29 @@ class Progress {
     bool isShown = false;
 };
 
-RowResult ResultOf(Service& service, const RowWish& wish, const BatchOptions& options,
-                   Counts& counts) {
-    const EncodeRequest request = wish.Request();
-    const ScannedBarcode made =
-        options.isVerified
-            ? EncodeAndScan(service, request, options.isStrict, options.fonts)
-            : ScannedBarcode{MakeBarcode(service, request, options.isStrict), "", ""};
-    if (!made.outcome.isMade) {
+RowResult ResultOf(Service& service, const BarcodeWish& wish, const BatchOptions& options,
+                   Language language, Counts& counts) {
+    const ScannedBarcode made = options.isVerified
+                                    ? EncodeAndScan(service, wish, options.fonts)
+                                    : ScannedBarcode{MakeBarcode(service, wish), "", ""};
+    if (!made.outcome.IsMade()) {
         ++counts.refused;
-    } else if (!made.outcome.warnings.empty()) {
+    } else if (!made.outcome.Warnings().empty()) {
         ++counts.warned;
     }
     return {
         .barcode = FontText(made.outcome.bytes),
         .status = made.outcome.status ? std::to_string(*made.outcome.status) : "",
-        .message = made.outcome.message,
-        .warning = Joined(made.outcome.warnings),
+        .message = WhyRefused(made.outcome, language),
+        .warning = JoinedWarnings(made.outcome, language),
         .scan = made.scan,
         .read = made.read,
     };
 }
 
 RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
-                      const BatchOptions& options, Counts& counts) {
-    RowWish wish;
+                      const BatchOptions& options, Language language, Counts& counts) {
+    BarcodeWish wish;
     try {
         wish = batch.Columns().WishOf(row);
     } catch (const Failure& failure) {
@@ -92,7 +89,7 @@ RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord&
         result.message = failure.what();
         return result;
     }
-    return ResultOf(service, wish, options, counts);
+    return ResultOf(service, wish, options, language, counts);
 }
 
 Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options, std::ostream& out,
@@ -108,7 +105,8 @@ Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options
             continue;
         }
         ++counts.rows;
-        out << batch.Columns().RowLine(row, ResultOfRow(service, batch, row, options, counts));
+        out << batch.Columns().RowLine(
+            row, ResultOfRow(service, batch, row, options, console.language, counts));
         progress.Show(i, counts);
     }
     return counts;

@@ -4,7 +4,6 @@
 
 #include "cli/Batch.h"
 #include "cli/Console.h"
-#include "cli/Service.h"
 
 namespace linewright {
 

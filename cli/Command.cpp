@@ -13,7 +13,8 @@
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -21,13 +22,13 @@ namespace {
 
 /** Where the build tree and an installation alike have the fonts. */
 std::string FontsBeside(const std::filesystem::path& programFolder) {
-    return Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
+    return host::Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
 }
 
 /** The plug-in's place in the build tree and in an installation alike. */
 std::string PlugInBeside(const std::filesystem::path& programFolder) {
     const auto path = programFolder / ".." / "lib" / "linewright" / LINEWRIGHT_PLUGIN_FILE;
-    return Utf8FromPath(path.lexically_normal());
+    return host::Utf8FromPath(path.lexically_normal());
 }
 
 ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments,
@@ -58,11 +59,17 @@ void ReportLeaks(const host::Leaks& leaks, std::ostream& err) {
                        leaks.blocks, leaks.references);
 }
 
+ExitStatus SayTrouble(std::string_view sentence, Console& console) {
+    console.out.flush();
+    console.err << "linewright: " << Readable(sentence) << '\n';
+    return kTrouble;
+}
+
 ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::path& programFolder,
                Console& console) {
-    ExitStatus exitStatus = kDone;
-    std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
-    if (!arguments) return exitStatus;
+    std::optional<Arguments> arguments = ParseArguments(words, console);
+    if (!arguments) return kDone;
+    console.language = LanguageOf(arguments->host.locale);
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
     arguments->draw.drawing.fonts = arguments->fonts;
@@ -70,15 +77,9 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
-    exitStatus = RunOne(service, user, *arguments, console);
+    const ExitStatus exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
     return exitStatus;
-}
-
-int Trouble(const char* sentence, Console& console) {
-    console.out.flush();
-    console.err << "linewright: " << sentence << '\n';
-    return kTrouble;
 }
 
 }  // namespace
@@ -88,13 +89,17 @@ int RunCommand(const std::vector<std::string>& arguments,
     try {
         const ExitStatus exitStatus = Run(arguments, programFolder, console);
         if (console.out.flush()) return exitStatus;
-        return Trouble("standard output could not be written to its end", console);
+        return SayTrouble("standard output could not be written to its end", console);
+    } catch (const RequestFailure& failure) {
+        return SayTrouble(Sentence(failure, console.language), console);
+    } catch (const DrawingFailure& failure) {
+        return SayTrouble(Sentence(failure, console.language), console);
     } catch (const std::bad_alloc&) {
-        return Trouble("there is not enough memory", console);
+        return SayTrouble("there is not enough memory", console);
     } catch (const std::length_error&) {
-        return Trouble("there is not enough memory", console);
+        return SayTrouble("there is not enough memory", console);
     } catch (const std::exception& failure) {
-        return Trouble(failure.what(), console);
+        return SayTrouble(failure.what(), console);
     }
 }
 

@@ -6,12 +6,14 @@
 #include <array>
 #include <cmath>
 
-#include "cli/DrawnBarcode.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
-#include "cli/Utf8.h"
+#include "cli/VerdictWords.h"
 #include "render/Export.h"
+#include "requests/DrawnBarcode.h"
+#include "scanners/Verification.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -48,27 +50,27 @@ std::string WholePixels(const BarcodeDrawing& drawing, double pixels) {
 
 /** The pixels that a module of a PNG has: as asked for, else the number nearest to 300 dpi. */
 int PixelsOf(const BarcodeDrawing& drawing, const DrawOptions& options) {
-    constexpr double kUsualResolution = 300;
     constexpr double kTolerance = 0.001;
-    const int step = drawing.HasHalfModules() ? 2 : 1;
     if (options.pixelsPerModule && options.dotsPerInch) {
         throw Failure("--dpi and --pixels-per-module say the same: give one of them");
     }
     if (options.pixelsPerModule) {
-        if (*options.pixelsPerModule % step == 0) return *options.pixelsPerModule;
+        if (!drawing.HasHalfModules() || *options.pixelsPerModule % 2 == 0)
+            return *options.pixelsPerModule;
         throw Failure(
             "with the ratio 2.5 bars end on half modules: the number of pixels a module "
             "must be even");
     }
-    const double pixels = PixelsPerModule(drawing, options.dotsPerInch.value_or(kUsualResolution));
-    const int whole = std::max(step, static_cast<int>(std::lround(pixels / step)) * step);
-    if (!options.dotsPerInch || std::abs(whole - pixels) < kTolerance) return whole;
+    if (!options.dotsPerInch) return WholePixelsPerModule(drawing);
+    const double pixels = PixelsPerModule(drawing, *options.dotsPerInch);
+    const int whole = WholePixelsPerModule(drawing, *options.dotsPerInch);
+    if (std::abs(whole - pixels) < kTolerance) return whole;
     throw Failure(fmt::format("at {:g} dpi a module has {:.3f} pixels; whole ones are {}",
                               *options.dotsPerInch, pixels, WholePixels(drawing, pixels)));
 }
 
 void PrintVerification(const Verification& verification, std::ostream& out) {
-    out << verification.Words() << '\n';
+    out << VerdictWords(verification) << '\n';
     for (const Reading& reading : verification.readings) {
         const std::string found =
             reading.isFound ? fmt::format("{:9}  {}", reading.symbology, ShownData(reading))
@@ -77,17 +79,12 @@ void PrintVerification(const Verification& verification, std::ostream& out) {
     }
 }
 
-bool IsBad(const Verification& verification) {
-    return verification.verdict == Verdict::kScansAs ||
-           verification.verdict == Verdict::kDoesNotScan;
-}
-
 /** At the pixels a module that a person's picture will have, or a usual number. */
 Verification VerificationOf(const DrawnBarcode& drawn, const DrawOptions& options) {
     constexpr int kUsualPixels = 4;
     const bool isAsked = options.pixelsPerModule || options.dotsPerInch;
     const int pixels = isAsked ? PixelsOf(*drawn.drawing, options) : kUsualPixels;
-    return Verify(*drawn.drawing, drawn.meaning, pixels);
+    return Verify(*drawn.drawing, drawn.outcome.meaning, pixels);
 }
 
 std::string Content(const BarcodeDrawing& drawing, FileKind kind, const DrawOptions& options) {
@@ -104,8 +101,8 @@ std::string Content(const BarcodeDrawing& drawing, FileKind kind, const DrawOpti
 
 ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& console) {
     const FileKind kind = KindOf(options.output);
-    const DrawnBarcode drawn = DrawBarcode(service, RequestOf(options.encode, console),
-                                           options.encode.isStrict, options.drawing);
+    const DrawnBarcode drawn =
+        DrawBarcode(service, WishOf(options.encode, console), options.drawing);
     ReportOutcome(drawn.outcome, console);
     if (!drawn.drawing) return kRefused;
     const std::string content = Content(*drawn.drawing, kind, options);
@@ -115,28 +112,24 @@ ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& consol
     if (!options.isVerified) return kDone;
     const Verification verification = VerificationOf(drawn, options);
     PrintVerification(verification, console.out);
-    return IsBad(verification) ? kDoesNotScan : kDone;
+    return verification.IsBad() ? kDoesNotScan : kDone;
 }
 
 ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& console) {
-    const DrawnBarcode drawn = DrawBarcode(service, RequestOf(options.encode, console),
-                                           options.encode.isStrict, options.drawing);
+    const DrawnBarcode drawn =
+        DrawBarcode(service, WishOf(options.encode, console), options.drawing);
     ReportOutcome(drawn.outcome, console);
     if (!drawn.drawing) return kRefused;
     const Verification verification = VerificationOf(drawn, options);
     PrintVerification(verification, console.out);
-    return IsBad(verification) ? kDoesNotScan : kDone;
+    return verification.IsBad() ? kDoesNotScan : kDone;
 }
 
-ScannedBarcode EncodeAndScan(Service& service, const EncodeRequest& request, bool isStrict,
-                             const std::string& fonts) {
-    DrawingWish wish;
-    wish.fonts = fonts;
-    wish.isTextWanted = false;
-    DrawnBarcode drawn = DrawBarcode(service, request, isStrict, wish);
+ScannedBarcode EncodeAndScan(Service& service, const BarcodeWish& wish, const std::string& fonts) {
+    DrawnBarcode drawn = DrawBarcode(service, wish, {.fonts = fonts, .isTextWanted = false});
     if (!drawn.drawing) return {std::move(drawn.outcome), "", ""};
-    const Verification verification = Verify(*drawn.drawing, drawn.meaning);
-    return {std::move(drawn.outcome), verification.Words(), WhatWasRead(verification)};
+    const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
+    return {std::move(drawn.outcome), VerdictWords(verification), verification.WhatWasRead()};
 }
 
 }  // namespace linewright

@@ -7,25 +7,12 @@
 #include "cli/BatchCommand.h"
 #include "cli/Console.h"
 #include "cli/EncodeCommand.h"
-#include "cli/Service.h"
+#include "requests/DrawingWish.h"
 
 namespace linewright {
 
 // What draws barcodes and reads them back. In a build without a renderer (Windows) each of these
 // throws a Failure that says so.
-
-/** How a barcode is to be drawn; lengths as they were typed, see cli/Length.h. */
-struct DrawingWish {
-    /** The folder that holds the fonts' files, UTF-8. */
-    std::string fonts;
-    std::optional<std::string> xDimension;
-    std::optional<std::string> height;
-    std::optional<std::string> quietZone;
-    /** A length, or per cent of the narrowest bar. */
-    std::optional<std::string> barWidthReduction;
-    /** Data below the bars; where nothing is said, if the font prints none. */
-    std::optional<bool> isTextWanted;
-};
 
 struct DrawOptions {
     EncodeOptions encode;

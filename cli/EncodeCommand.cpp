@@ -4,11 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/Encoding.h"
-#include "cli/FontText.h"
-#include "cli/Hex.h"
 #include "cli/ReadAll.h"
-#include "cli/TypeNames.h"
+#include "text/FontText.h"
+#include "text/Hex.h"
 
 namespace linewright {
 
@@ -28,19 +26,33 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
     return data;
 }
 
-std::string JsonOf(const BarcodeOutcome& outcome) {
-    const nlohmann::ordered_json object{
-        {"type", outcome.typeName},         {"shortName", ShortNameOf(outcome.typeName)},
-        {"status", outcome.status.value()}, {"hex", ToHex(outcome.bytes)},
-        {"text", FontText(outcome.bytes)},  {"warnings", outcome.warnings},
+/** What was made or, of a refusal, why nothing was. */
+std::string JsonOf(const BarcodeOutcome& outcome, Language language) {
+    nlohmann::ordered_json object{
+        {"type", outcome.typeName},
+        {"shortName", outcome.type ? outcome.type->shortName : ""},
+        {"status", nullptr},
     };
+    if (outcome.status) object["status"] = *outcome.status;
+    if (outcome.IsMade()) {
+        object["hex"] = ToHex(outcome.bytes);
+        object["text"] = FontText(outcome.bytes);
+    } else {
+        object["message"] = WhyRefused(outcome, language);
+        object["hint"] = outcome.hint;
+    }
+    object["warnings"] = nlohmann::json::array();
+    for (const Warning& warning : outcome.Warnings()) {
+        object["warnings"].push_back(Sentence(warning, language));
+    }
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, std::ostream& out) {
+void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, Console& console) {
+    std::ostream& out = console.out;
     switch (form) {
         case EncodeOptions::Form::kText: out << FontText(outcome.bytes) << '\n'; break;
-        case EncodeOptions::Form::kJson: out << JsonOf(outcome) << '\n'; break;
+        case EncodeOptions::Form::kJson: out << JsonOf(outcome, console.language) << '\n'; break;
         case EncodeOptions::Form::kHex: out << ToHex(outcome.bytes) << '\n'; break;
         case EncodeOptions::Form::kRaw: out << outcome.bytes; break;
     }
@@ -48,33 +60,34 @@ void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, std::ostream
 
 }  // namespace
 
-EncodeRequest RequestOf(const EncodeOptions& options, Console& console) {
+BarcodeWish WishOf(const EncodeOptions& options, Console& console) {
     return {
-        .typeName = options.type,
+        .type = options.type,
         .data = DataOf(options, console.in),
         .isUtf8 = !options.isBytes,
         .checkCharacter = static_cast<uint8>(options.isCheckWanted ? 1 : 0),
         .ratio = options.ratio,
+        .isStrict = options.isStrict,
     };
 }
 
 void ReportOutcome(const BarcodeOutcome& outcome, Console& console) {
-    for (const std::string& warning : outcome.warnings) {
-        console.err << "linewright: warning: " << warning << '\n';
+    for (const Warning& warning : outcome.Warnings()) {
+        console.err << "linewright: warning: " << Sentence(warning, console.language) << '\n';
     }
-    if (outcome.isMade) return;
+    if (outcome.IsMade()) return;
     console.err << "linewright: refused"
                 << (outcome.status ? fmt::format(" (status {})", *outcome.status) : "") << ": "
-                << outcome.message << '\n';
+                << WhyRefused(outcome, console.language) << '\n';
 }
 
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
-    const BarcodeOutcome outcome =
-        MakeBarcode(service, RequestOf(options, console), options.isStrict);
+    const BarcodeOutcome outcome = MakeBarcode(service, WishOf(options, console));
     ReportOutcome(outcome, console);
-    if (!outcome.isMade) return kRefused;
-    Print(outcome, options.form, console.out);
-    return kDone;
+    if (outcome.IsMade() || options.form == EncodeOptions::Form::kJson) {
+        Print(outcome, options.form, console);
+    }
+    return outcome.IsMade() ? kDone : kRefused;
 }
 
 }  // namespace linewright

@@ -3,8 +3,7 @@
 #include <string>
 
 #include "cli/Console.h"
-#include "cli/Encoding.h"
-#include "cli/Service.h"
+#include "requests/BarcodeOutcome.h"
 
 namespace linewright {
 
@@ -21,14 +20,14 @@ struct EncodeOptions {
     Form form = Form::kText;
 };
 
-/** The request that options ask for; reads standard input where they say so. */
-EncodeRequest RequestOf(const EncodeOptions& options, Console& console);
+/** What options ask for; reads standard input where they say so. */
+BarcodeWish WishOf(const EncodeOptions& options, Console& console);
 
 /** Warnings and a refusal, to standard error. */
 void ReportOutcome(const BarcodeOutcome& outcome, Console& console);
 
 /** Makes one barcode: the font string to standard output, warnings and refusals to standard error,
- *  kRefused for a refusal. */
+ *  kRefused for a refusal, of which the JSON form has an object too. */
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console);
 
 }  // namespace linewright

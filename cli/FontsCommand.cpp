@@ -7,11 +7,10 @@
 
 #include "cli/BatchFile.h"
 #include "cli/Failure.h"
-#include "cli/TypeNames.h"
 #include "cli/UserFonts.h"
-#include "cli/Utf8.h"
 #include "files/NewFile.h"
-#include "render/TypeDrawing.h"
+#include "host/runtime/Paths.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -20,16 +19,16 @@ namespace fs = std::filesystem;
 namespace {
 
 fs::path FileOf(const std::string& fonts, const BarcodeFace& face) {
-    return PathFromUtf8(fonts) / (std::string(face.fileStem) + ".ttf");
+    return host::PathFromUtf8(fonts) / (std::string(face.fileStem) + ".ttf");
 }
 
 /** The types of a font by their short names, and the size that they are drawn at. */
 std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
     std::string names;
     double size = 0;
-    for (const TypeDrawing& type : TypeDrawings()) {
+    for (const BarcodeType& type : kBarcodeTypes) {
         if (type.face != face) continue;
-        names += (names.empty() ? "" : ", ") + std::string(ShortNameOf(type.typeName));
+        names += (names.empty() ? "" : ", ") + std::string(type.shortName);
         if (face != nullptr) size = type.Module() * face->modulesPerEm;
     }
     return {names, size};
@@ -39,7 +38,7 @@ std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
 
 ExitStatus RunFontsList(const std::string& fonts, Console& console) {
     console.out << fmt::format("{:28}{:>9}  {}\n", "font", "size", "types");
-    for (const BarcodeFace* const face : BarcodeFaces()) {
+    for (const BarcodeFace* const face : kBarcodeFaces) {
         const auto [names, size] = TypesOf(face);
         console.out << fmt::format("{:28}{:>6.2f} pt  {}\n", face->family, size, names);
     }
@@ -53,17 +52,18 @@ ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
     if (folder.empty()) throw Failure("the system names no folder for a user's fonts");
     std::error_code error;
     fs::create_directories(folder, error);
-    if (error) throw Failure(fmt::format("{}: {}", Utf8FromPath(folder), error.message()));
-    for (const BarcodeFace* const face : BarcodeFaces()) {
+    if (error) throw Failure(fmt::format("{}: {}", host::Utf8FromPath(folder), error.message()));
+    for (const BarcodeFace* const face : kBarcodeFaces) {
         const fs::path file = FileOf(fonts, *face);
         const fs::path installed = folder / file.filename();
         files::NewFile copy(installed, {.startsAfresh = true});
-        copy.Write(ReadInput(Utf8FromPath(file), console.in));
+        copy.Write(ReadInput(host::Utf8FromPath(file), console.in));
         if (!copy.Keep())
-            throw Failure(fmt::format("{}: {}", Utf8FromPath(installed), copy.Error()));
+            throw Failure(fmt::format("{}: {}", host::Utf8FromPath(installed), copy.Error()));
         AnnounceFont(installed, std::string(face->family));
     }
-    console.out << fmt::format("{} fonts in {}\n", BarcodeFaces().size(), Utf8FromPath(folder));
+    console.out << fmt::format("{} fonts in {}\n", kBarcodeFaces.size(),
+                               host::Utf8FromPath(folder));
     return kDone;
 }
 

@@ -2,33 +2,66 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <array>
 #include <charconv>
-#include <map>
 #include <string>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
-#include "render/TypeDrawing.h"
+#include "text/Readable.h"
+#include "types/Dimensions.h"
 
 namespace linewright {
 
-double LengthOf(std::string_view text, std::string_view option, double xDimension,
-                bool isZeroAllowed) {
-    const std::map<std::string_view, double> units{
-        {"", kMillimetre},      {"mm", kMillimetre}, {"cm", 10 * kMillimetre}, {"in", kInch},
-        {"mil", 0.001 * kInch}, {"pt", 1},           {"x", xDimension},
-    };
+namespace {
+
+struct Unit {
+    std::string_view name;
+    Length length;
+};
+
+constexpr std::array kUnits{
+    Unit{"", {kMillimetre}}, Unit{"mm", {kMillimetre}}, Unit{"cm", {10 * kMillimetre}},
+    Unit{"in", {kInch}},     Unit{"pt", {1}},           Unit{"mil", {0.001 * kInch}},
+    Unit{"x", {1, true}},
+};
+
+/** No length is longer, in points or in X-dimensions. */
+constexpr double kLongest = 10000;
+
+[[noreturn]] void Refuse(std::string_view text, std::string_view option) {
+    throw Failure(fmt::format("{} \"{}\" is no length such as 0.33mm, 10mil, 12pt or 10x", option,
+                              Readable(text)));
+}
+
+}  // namespace
+
+Length LengthOf(std::string_view text, std::string_view option, bool isZeroAllowed) {
     double number = 0;
     const char* const last = text.data() + text.size();
     const auto [end, error] = std::from_chars(text.data(), last, number);
-    const auto unit = units.find(std::string_view(end, static_cast<std::size_t>(last - end)));
-    constexpr double kLongest = 10000;
-    const bool isRight = error == std::errc() && unit != units.end() &&
-                         (number > 0 || (isZeroAllowed && number == 0)) &&
-                         number * unit->second < kLongest;
-    if (isRight) return number * unit->second;
-    throw Failure(fmt::format("{} \"{}\" is no length such as 0.33mm, 10mil, 12pt or 10x", option,
-                              Readable(text)));
+    const std::string_view name(end, static_cast<std::size_t>(last - end));
+    const auto unit = std::find_if(kUnits.begin(), kUnits.end(),
+                                   [name](const Unit& row) { return row.name == name; });
+    const bool isNumber = error == std::errc() && (number > 0 || (isZeroAllowed && number == 0));
+    if (!isNumber || unit == kUnits.end()) Refuse(text, option);
+    const Length length{number * unit->length.number, unit->length.isInX};
+    if (!(length.number < kLongest)) Refuse(text, option);
+    return length;
+}
+
+double XDimensionOf(std::string_view text, std::string_view option) {
+    const Length length = LengthOf(text, option);
+    if (length.isInX) Refuse(text, option);
+    return length.number;
+}
+
+Length ReductionOf(std::string_view text, std::string_view option) {
+    if (!text.ends_with('%')) return LengthOf(text, option, true);
+    const std::string hundredths = std::string(text.substr(0, text.size() - 1)) + "x";
+    Length length = LengthOf(hundredths, option, true);
+    length.number /= 100;
+    return length;
 }
 
 }  // namespace linewright

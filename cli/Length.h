@@ -2,14 +2,18 @@
 
 #include <string_view>
 
+#include "requests/DrawingWish.h"
+
 namespace linewright {
 
-/**
- * A length in points from text such as "0.33mm", "1in", "10mil", "12pt", "2cm" or, in narrowest
- * bars, "10x"; millimetres without a unit. Throws Failure, naming `option`, for anything else and
- * for what is not above 0 (or below, where `isZeroAllowed`).
- */
-double LengthOf(std::string_view text, std::string_view option, double xDimension,
-                bool isZeroAllowed = false);
+/** A length as people write it: "0.33mm", "10mil", "12pt", "0.5in", "1cm" or "10x" (times the
+ *  narrowest bar); a number alone is millimetres. Throws Failure, naming the option. */
+Length LengthOf(std::string_view text, std::string_view option, bool isZeroAllowed = false);
+
+/** The X-dimension, in points: a length that is not stated by itself. */
+double XDimensionOf(std::string_view text, std::string_view option);
+
+/** A length, or per cent of the narrowest bar. */
+Length ReductionOf(std::string_view text, std::string_view option);
 
 }  // namespace linewright

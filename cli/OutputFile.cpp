@@ -3,11 +3,12 @@
 #include <fmt/format.h>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
-OutputFile::OutputFile(const std::string& fileName) : name(fileName), file(PathFromUtf8(fileName)) {
+OutputFile::OutputFile(const std::string& fileName) : name(fileName), file(host::PathFromUtf8(fileName)) {
     if (!file.Error().empty()) Fail();
 }
 

@@ -4,12 +4,14 @@
 
 #include "cli/BatchFile.h"
 #include "cli/DrawCommand.h"
-#include "cli/DrawnBarcode.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
-#include "cli/TypeNames.h"
-#include "cli/Utf8.h"
+#include "cli/VerdictWords.h"
+#include "host/runtime/Paths.h"
 #include "render/Sheet.h"
+#include "requests/DrawnBarcode.h"
+#include "scanners/Verification.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -28,10 +30,9 @@ struct ProofCounts {
     }
 };
 
-std::string FontOf(const BarcodeDrawing& drawing, std::string_view typeName) {
-    const TypeDrawing* const type = TypeDrawingOf(typeName);
-    if (type->face == nullptr) return "text, for any face";
-    return fmt::format("{}, {:.2f} pt", type->face->family, drawing.FontSize());
+std::string FontOf(const BarcodeDrawing& drawing, const BarcodeType& type) {
+    if (type.face == nullptr) return "text, for any face";
+    return fmt::format("{}, {:.2f} pt", type.face->family, drawing.FontSize());
 }
 
 SheetEntry Refused(std::string title, const std::string& data, const std::string& message) {
@@ -40,45 +41,41 @@ SheetEntry Refused(std::string title, const std::string& data, const std::string
             {fmt::format("data     {}", Readable(data)), fmt::format("refused  {}", message)}};
 }
 
-SheetEntry EntryOf(const DrawnBarcode& drawn, const RowWish& wish, std::string title,
-                   ProofCounts& counts) {
-    const Verification verification = Verify(*drawn.drawing, drawn.meaning);
+SheetEntry EntryOf(const DrawnBarcode& drawn, const BarcodeWish& wish, std::string title,
+                   Language language, ProofCounts& counts) {
+    const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
     if (verification.verdict == Verdict::kNoScanner) ++counts.withoutScanner;
-    const bool isBad =
-        verification.verdict == Verdict::kScansAs || verification.verdict == Verdict::kDoesNotScan;
-    if (isBad) ++counts.unreadable;
+    if (verification.IsBad()) ++counts.unreadable;
     SheetEntry entry{drawn.drawing, std::move(title), {}};
     entry.lines.push_back(fmt::format("data  {}", Readable(wish.data)));
-    entry.lines.push_back(fmt::format("font  {}", FontOf(*drawn.drawing, drawn.outcome.typeName)));
-    const std::string read = WhatWasRead(verification);
+    entry.lines.push_back(fmt::format("font  {}", FontOf(*drawn.drawing, *drawn.outcome.type)));
+    const std::string read = verification.WhatWasRead();
     entry.lines.push_back(
-        fmt::format("read  {}{}", verification.Words(), read.empty() ? "" : ": " + read));
-    for (const std::string& warning : drawn.outcome.warnings) {
-        entry.lines.push_back("note  " + warning);
+        fmt::format("read  {}{}", VerdictWords(verification), read.empty() ? "" : ": " + read));
+    for (const Warning& warning : drawn.outcome.Warnings()) {
+        entry.lines.push_back("note  " + Sentence(warning, language));
     }
     return entry;
 }
 
 SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
-                      const BatchOptions& options, const DrawOptions& drawing,
-                      ProofCounts& counts) {
+                      const DrawOptions& drawing, Language language, ProofCounts& counts) {
     const std::string line = fmt::format("line {}", row.line);
-    RowWish wish;
+    BarcodeWish wish;
     try {
         wish = batch.Columns().WishOf(row);
     } catch (const Failure& failure) {
         ++counts.refused;
         return Refused(line, "", failure.what());
     }
-    const DrawnBarcode drawn =
-        DrawBarcode(service, wish.Request(), options.isStrict, drawing.drawing);
+    const DrawnBarcode drawn = DrawBarcode(service, wish, drawing.drawing);
     if (!drawn.drawing) {
         ++counts.refused;
         return Refused(fmt::format("{}, {}", Readable(wish.type), line), wish.data,
-                       drawn.outcome.message);
+                       WhyRefused(drawn.outcome, language));
     }
-    return EntryOf(drawn, wish, fmt::format("{}, {}", ShortNameOf(drawn.outcome.typeName), line),
-                   counts);
+    return EntryOf(drawn, wish, fmt::format("{}, {}", drawn.outcome.type->shortName, line),
+                   language, counts);
 }
 
 }  // namespace
@@ -94,12 +91,13 @@ ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOption
     for (std::size_t i = 1; i < records.size(); ++i) {
         if (records[i].IsBlank()) continue;
         ++counts.rows;
-        SheetEntry entry = EntryOfRow(service, batch, records[i], options, drawing, counts);
+        SheetEntry entry =
+            EntryOfRow(service, batch, records[i], drawing, console.language, counts);
         (entry.drawing ? entries : refused).push_back(std::move(entry));
     }
     // What was refused stands behind the barcodes.
     std::move(refused.begin(), refused.end(), std::back_inserter(entries));
-    const std::string name = Utf8FromPath(PathFromUtf8(files.input).filename());
+    const std::string name = host::Utf8FromPath(host::PathFromUtf8(files.input).filename());
     OutputFile file(files.output);
     file.Stream() << SheetPdf(fmt::format("Linewright proof of {}", Readable(name)), entries);
     file.Keep();

@@ -2,8 +2,7 @@
 
 #include <string>
 
-#include "cli/Encoding.h"
-#include "cli/Service.h"
+#include "requests/BarcodeOutcome.h"
 
 namespace linewright {
 
@@ -18,7 +17,6 @@ struct ScannedBarcode {
 
 /** Makes a barcode, draws it in memory with the fonts in the folder `fonts` and reads it back.
  *  Throws Failure where there is no renderer (Windows). */
-ScannedBarcode EncodeAndScan(Service& service, const EncodeRequest& request, bool isStrict,
-                             const std::string& fonts);
+ScannedBarcode EncodeAndScan(Service& service, const BarcodeWish& wish, const std::string& fonts);
 
 }  // namespace linewright

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/Console.h"
-#include "cli/Service.h"
+#include "requests/Service.h"
 
 namespace linewright {
 

@@ -28,8 +28,8 @@ extern BarcodeTypeRegistry registry;
 /** Fills the registry, translating the display texts. Called once, at start-up. */
 void BuildTypeRegistry();
 
-/** The type code of the first entry whose name begins the query, byte for byte; 0 when only an
- *  empty entry does; -1 when none does. 0 and below mean an unknown type. */
+/** The type code of the first type whose name begins the query, byte for byte; 0, the code of the
+ *  empty entries, for an unknown type. */
 int32 LookupTypeByName(const PString& name);
 
 /** The first of all entries with this display text, an empty one for an empty text; nullptr when

@@ -2,7 +2,7 @@
 #include "classic/Code128.h"
 #include "classic/Code39.h"
 #include "classic/EanUpc.h"
-#include "classic/InterleavedTwoOfFive.h"
+#include "classic/Interleaved2of5.h"
 #include "classic/Msi.h"
 #include "classic/Postnet.h"
 #include "core/EncoderTable.h"
@@ -12,56 +12,92 @@
 #include "current/Code39.h"
 #include "current/Ean13.h"
 #include "current/Ean8.h"
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 #include "current/Msi.h"
 #include "current/Postnet.h"
 #include "current/UpcA.h"
 #include "current/UpcE.h"
 #include "imb/EncodeIntelligentMail.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
 namespace {
 
-// The one place that knows which encoder serves which type code, and with what.
-constexpr EncoderTable kEncoders = [] {
+// The one place that knows which encoder serves which type, and with what.
+constexpr Encoder EncoderOf(TypeCode code) {
     using Arguments = const EncoderArguments&;
+    switch (code) {
+        case TypeCode::kClassicPostnet:
+            return [](Arguments a) -> int32 { return EncodePostnetClassic(a.data); };
+        case TypeCode::kIntelligentMail:
+            return [](Arguments a) -> int32 {
+                return EncodeIntelligentMail(a.data, a.hint, a.humanReadable);
+            };
+        case TypeCode::kClassicCodabar:
+            return [](Arguments a) -> int32 {
+                return EncodeCodabarClassic(a.data, static_cast<char>(preferences.codabarStart),
+                                            static_cast<char>(preferences.codabarStop));
+            };
+        case TypeCode::kClassicCode128A:
+            return [](Arguments a) -> int32 { return EncodeCode128A(a.data); };
+        case TypeCode::kClassicCode128B:
+            return [](Arguments a) -> int32 { return EncodeCode128B(a.data); };
+        case TypeCode::kClassicCode128C:
+            return [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
+        case TypeCode::kClassicCode39:
+            return [](Arguments a) -> int32 {
+                return EncodeCode39Classic(a.data, false, preferences.code39CheckMode,
+                                           preferences.code39UseAsterisk != 0);
+            };
+        case TypeCode::kClassicCode39FullAscii:
+            return [](Arguments a) -> int32 {
+                return EncodeCode39Classic(a.data, true, preferences.code39CheckMode,
+                                           preferences.code39UseAsterisk != 0);
+            };
+        case TypeCode::kEan8: return EncodeEan8;
+        case TypeCode::kClassicEan13:
+            return [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
+        case TypeCode::kClassicInterleaved2of5:
+            return [](Arguments a) -> int32 {
+                return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0,
+                                                    false);
+            };
+        case TypeCode::kClassicInterleaved2of5Text:
+            return [](Arguments a) -> int32 {
+                return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
+            };
+        case TypeCode::kClassicJan13:
+            return [](Arguments a) -> int32 { return EncodeJan13Classic(a.data); };
+        case TypeCode::kClassicMsi:
+            return [](Arguments a) -> int32 {
+                return EncodeMsiClassic(a.data, preferences.msiFirstCheck,
+                                        preferences.msiSecondCheck);
+            };
+        case TypeCode::kClassicUpcA:
+            return [](Arguments a) -> int32 { return EncodeUpcAClassic(a.data); };
+        case TypeCode::kClassicUpcE:
+            return [](Arguments a) -> int32 { return EncodeUpcEClassic(a.data); };
+        case TypeCode::kCodabar: return EncodeCodabarCurrent;
+        case TypeCode::kCode39: return EncodeCode39Current;
+        case TypeCode::kCode128: return EncodeCode128Auto;
+        case TypeCode::kEan13: return EncodeEan13Current;
+        case TypeCode::kInterleaved2of5: return EncodeInterleaved2of5Current;
+        case TypeCode::kInterleaved2of5Text: return EncodeInterleaved2of5TextCurrent;
+        case TypeCode::kJan13: return EncodeEan13Current;
+        case TypeCode::kMsi: return EncodeMsiCurrent;
+        case TypeCode::kUpcA: return EncodeUpcACurrent;
+        case TypeCode::kUpcE: return EncodeUpcECurrent;
+        case TypeCode::kPostnet: return EncodePostnetCurrent;
+    }
+    return nullptr;
+}
+
+constexpr EncoderTable kEncoders = [] {
     EncoderTable table{};
-    table[1] = [](Arguments a) -> int32 { return EncodePostnetClassic(a.data); };
-    table[2] = [](Arguments a) -> int32 {
-        return EncodeIntelligentMail(a.data, a.hint, a.humanReadable);
-    };
-    table[3] = [](Arguments a) -> int32 { return EncodeCodabarClassic(a.data); };
-    table[4] = [](Arguments a) -> int32 { return EncodeCode128A(a.data); };
-    table[5] = [](Arguments a) -> int32 { return EncodeCode128B(a.data); };
-    table[6] = [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
-    table[7] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, false); };
-    table[8] = [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, true); };
-    table[9] = EncodeEan8;
-    table[10] = [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
-    table[11] = [](Arguments a) -> int32 {
-        return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, false);
-    };
-    table[12] = [](Arguments a) -> int32 {
-        return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
-    };
-    table[13] = [](Arguments a) -> int32 { return EncodeJan13Classic(a.data); };
-    table[14] = [](Arguments a) -> int32 {
-        return EncodeMsiClassic(a.data, preferences.msiFirstCheck, preferences.msiSecondCheck);
-    };
-    table[15] = [](Arguments a) -> int32 { return EncodeUpcAClassic(a.data); };
-    table[16] = [](Arguments a) -> int32 { return EncodeUpcEClassic(a.data); };
-    table[20] = EncodeCodabarCurrent;
-    table[21] = EncodeCode39Current;
-    table[22] = EncodeCode128Auto;
-    table[23] = EncodeEan13Current;
-    table[24] = EncodeInterleaved2of5Current;
-    table[25] = EncodeInterleaved2of5TextCurrent;
-    table[26] = EncodeEan13Current;
-    table[27] = EncodeMsiCurrent;
-    table[28] = EncodeUpcACurrent;
-    table[29] = EncodeUpcECurrent;
-    table[30] = EncodePostnetCurrent;
+    for (const BarcodeType& type : kBarcodeTypes) {
+        table[static_cast<std::size_t>(type.code)] = EncoderOf(type.code);
+    }
     return table;
 }();
 

@@ -24,7 +24,7 @@ constexpr double kDescent = 0.24;
 
 constexpr double kLeastHeight = 25;
 constexpr double kMostHeight = 400;
-constexpr double kMostReduction = 25;
+constexpr int kMostReduction = 25;
 
 struct Span {
     double from = 0;
@@ -43,32 +43,33 @@ std::string Rounded(double number) {
     return text.substr(0, text.find('.') + 3);
 }
 
-/** Says what is wrong with a shape; "" when nothing is. */
-std::string ProblemOf(const TypeDrawing& type, const FontShape& shape, double millimetres) {
-    if (type.HasFixedHeight() && shape.heightPercent != 100) {
-        return "postal bars have the heights that their standard gives";
-    }
+/** What is wrong with a shape, if anything. */
+std::optional<DrawingProblem> ProblemOf(const BarcodeType& type, const FontShape& shape,
+                                        double millimetres) {
+    using Reason = DrawingProblem::Reason;
+    if (type.HasFixedHeight() && shape.heightPercent != 100) return {{Reason::kFixedHeight}};
     if (!(shape.heightPercent >= kLeastHeight && shape.heightPercent <= kMostHeight)) {
-        return "the bars can be " + Rounded(millimetres * kLeastHeight / shape.heightPercent) +
-               " mm to " + Rounded(millimetres * kMostHeight / shape.heightPercent) +
-               " mm high at this X-dimension";
+        return {{Reason::kHeight,
+                 {Rounded(millimetres * kLeastHeight / shape.heightPercent),
+                  Rounded(millimetres * kMostHeight / shape.heightPercent)}}};
     }
     if (!(shape.reductionPercent >= 0 && shape.reductionPercent <= kMostReduction)) {
-        return "bars can be 0 % to 25 % of the narrowest bar narrower";
+        return {{Reason::kReduction, {std::to_string(kMostReduction)}}};
     }
-    return "";
+    return std::nullopt;
 }
 
 }  // namespace
 
 std::optional<BarcodeDrawing> BarcodeDrawing::Make(const std::filesystem::path& fonts,
-                                                   const TypeDrawing& type,
+                                                   const BarcodeType& type,
                                                    std::string_view fontString,
                                                    const DrawingOptions& options,
-                                                   std::string& problem) {
+                                                   DrawingProblem& problem) {
     BarcodeDrawing drawing;
     drawing.face = type.face;
-    drawing.module = options.xDimension.value_or(type.xDimension) / type.modulesPerX;
+    drawing.module =
+        options.xDimension.value_or(type.dimensions.xDimension) / type.dimensions.modulesPerX;
     if (type.face == nullptr) {
         drawing.PlaceText(type, std::string(fontString));
         return drawing;
@@ -77,8 +78,10 @@ std::optional<BarcodeDrawing> BarcodeDrawing::Make(const std::filesystem::path& 
     if (options.height) {
         shape.heightPercent = 100 * *options.height / (drawing.module * type.face->barHeight);
     }
-    problem = ProblemOf(type, shape, options.height.value_or(0) / kMillimetre);
-    if (!problem.empty()) return std::nullopt;
+    if (auto found = ProblemOf(type, shape, options.height.value_or(0) / kMillimetre)) {
+        problem = *std::move(found);
+        return std::nullopt;
+    }
     drawing.font = BarcodeFont::Load(fonts, *type.face, shape, problem);
     if (!drawing.font) return std::nullopt;
     if (drawing.font->IsVariable()) drawing.form = Form::kPaths;
@@ -93,14 +96,14 @@ double BarcodeDrawing::FontSize() const {
     return face == nullptr ? 0 : module * face->modulesPerEm;
 }
 
-void BarcodeDrawing::PlaceGlyphs(const TypeDrawing& type, std::string_view fontString,
+void BarcodeDrawing::PlaceGlyphs(const BarcodeType& type, std::string_view fontString,
                                  const DrawingOptions& options) {
     Span ink;
     Span bars;
     Span upright;
     double x = 0;
     for (const char byte : fontString) {
-        const bool isLarge = type.hasLargeFirstDigit && glyphs.empty();
+        const bool isLarge = type.trait == Trait::kLargeFirstDigit && glyphs.empty();
         const GlyphBox glyph = font->GlyphOf(static_cast<unsigned char>(byte), isLarge);
         glyphs.push_back({glyph.index, x, 0});
         if (glyph.right > glyph.left) {
@@ -113,27 +116,29 @@ void BarcodeDrawing::PlaceGlyphs(const TypeDrawing& type, std::string_view fontS
         x += glyph.advance;
     }
     const bool hasAddOn = type.face->printsText && fontString.find(kAddOnStart) != fontString.npos;
-    const double quietRight = hasAddOn ? kAddOnQuiet : type.quietRight;
+    const double quietRight = hasAddOn ? kAddOnQuiet : type.dimensions.quietRight;
     const auto quiet = [&](double usual) {
         return options.quietZone ? *options.quietZone / module : usual;
     };
-    const double left = std::floor(std::min(ink.from, bars.from - quiet(type.quietLeft)));
+    const double left =
+        std::floor(std::min(ink.from, bars.from - quiet(type.dimensions.quietLeft)));
     const double right = std::ceil(std::max(ink.to, bars.to + quiet(quietRight)));
-    const double above = std::ceil(upright.to + type.quietVertical);
+    const double above = std::ceil(upright.to + type.dimensions.quietVertical);
     width = static_cast<int>(right - left);
-    height = static_cast<int>(std::ceil(above - upright.from + type.quietVertical));
+    height = static_cast<int>(std::ceil(above - upright.from + type.dimensions.quietVertical));
     for (cairo_glyph_t& glyph : glyphs) {
         glyph.x -= left;
         glyph.y = above;
     }
 }
 
-void BarcodeDrawing::PlaceText(const TypeDrawing& type, const std::string& shownText) {
+void BarcodeDrawing::PlaceText(const BarcodeType& type, const std::string& shownText) {
     text = shownText;
-    textSize = (type.HasFixedHeight() ? kPostalTextSize : kTextSize) * type.modulesPerX;
+    textSize = (type.HasFixedHeight() ? kPostalTextSize : kTextSize) * type.dimensions.modulesPerX;
     double wide = TextWidth(text, textSize);
     if (type.face == nullptr) {
-        width = static_cast<int>(std::ceil(wide + type.quietLeft + type.quietRight));
+        width = static_cast<int>(
+            std::ceil(wide + type.dimensions.quietLeft + type.dimensions.quietRight));
     } else if (wide > width) {
         textSize *= width / wide;
         wide = width;

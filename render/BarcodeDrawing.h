@@ -12,7 +12,7 @@
 
 #include "render/BarcodeFont.h"
 #include "render/GreyRaster.h"
-#include "render/TypeDrawing.h"
+#include "types/BarcodeType.h"
 
 namespace linewright {
 
@@ -39,11 +39,12 @@ class BarcodeDrawing {
     /** How a page gets the bars: as text in the font, or as filled outlines. */
     enum class Form { kText, kPaths };
 
-    /** None, with a sentence in `problem`, when a font cannot be read or a height not be had.
+    /** None, with the reason in `problem`, when a font cannot be read or a height not be had.
      *  `fonts` is the folder that holds the fonts' files. */
     static std::optional<BarcodeDrawing> Make(const std::filesystem::path& fonts,
-                                              const TypeDrawing& type, std::string_view fontString,
-                                              const DrawingOptions& options, std::string& problem);
+                                              const BarcodeType& type, std::string_view fontString,
+                                              const DrawingOptions& options,
+                                              DrawingProblem& problem);
 
     int Width() const { return width; }
     int Height() const { return height; }
@@ -71,9 +72,9 @@ class BarcodeDrawing {
 
   private:
     BarcodeDrawing() = default;
-    void PlaceGlyphs(const TypeDrawing& type, std::string_view fontString,
+    void PlaceGlyphs(const BarcodeType& type, std::string_view fontString,
                      const DrawingOptions& options);
-    void PlaceText(const TypeDrawing& type, const std::string& shownText);
+    void PlaceText(const BarcodeType& type, const std::string& shownText);
 
     std::shared_ptr<const BarcodeFont> font;
     const BarcodeFace* face = nullptr;

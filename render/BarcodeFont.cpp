@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+#include "text/FontCharacters.h"
+
 namespace linewright {
 
 namespace {
@@ -45,16 +47,12 @@ double Number(FT_Pos position) {
     return static_cast<double>(position);
 }
 
-/** A character at which every byte's glyph is found, see docs/fonts.md. */
-FT_ULong CharacterOf(unsigned char byte) {
-    return byte >= 32 && byte <= 126 ? byte : 0xF000U + byte;
-}
-
 }  // namespace
 
 std::unique_ptr<const BarcodeFont> BarcodeFont::Load(const std::filesystem::path& folder,
                                                      const BarcodeFace& face,
-                                                     const FontShape& shape, std::string& problem) {
+                                                     const FontShape& shape,
+                                                     DrawingProblem& problem) {
     FontShape axes = shape;
     double stretch = 1;
     if (!face.printsText) {
@@ -63,12 +61,12 @@ std::unique_ptr<const BarcodeFont> BarcodeFont::Load(const std::filesystem::path
     const std::string path = FileOf(folder, face, axes).string();
     FT_Face file = nullptr;
     if (FT_New_Face(Library(), path.c_str(), 0, &file) != 0) {
-        problem = path + ": there is no such font, or it cannot be read";
+        problem = {DrawingProblem::Reason::kNoFont, {path}};
         return nullptr;
     }
     if (!SetShape(file, axes)) {
         FT_Done_Face(file);
-        problem = path + ": the font has not the axes that are asked for";
+        problem = {DrawingProblem::Reason::kNoAxes, {path}};
         return nullptr;
     }
     return std::unique_ptr<const BarcodeFont>(new BarcodeFont(file, face, axes, stretch));
@@ -94,7 +92,7 @@ BarcodeFont::~BarcodeFont() {
 }
 
 GlyphBox BarcodeFont::GlyphOf(unsigned char byte, bool isLarge) const {
-    FT_UInt index = FT_Get_Char_Index(file, CharacterOf(byte));
+    FT_UInt index = FT_Get_Char_Index(file, FontCharacter(byte));
     if (isLarge) {
         std::array<char, 64> name{};
         FT_Get_Glyph_Name(file, index, name.data(), name.size());

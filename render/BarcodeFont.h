@@ -7,7 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "render/BarcodeFace.h"
+#include "render/DrawingProblem.h"
+#include "types/BarcodeFace.h"
 
 namespace linewright {
 
@@ -29,10 +30,10 @@ struct GlyphBox {
 /** A barcode font from its file, in one shape. */
 class BarcodeFont {
   public:
-    /** None, with a sentence in `problem`, when the file is not there or is no font. */
+    /** None, with the reason in `problem`, when the file is not there or is no font. */
     static std::unique_ptr<const BarcodeFont> Load(const std::filesystem::path& folder,
                                                    const BarcodeFace& face, const FontShape& shape,
-                                                   std::string& problem);
+                                                   DrawingProblem& problem);
     BarcodeFont(const BarcodeFont&) = delete;
     BarcodeFont& operator=(const BarcodeFont&) = delete;
     ~BarcodeFont();

@@ -93,6 +93,12 @@ double PixelsPerModule(const BarcodeDrawing& drawing, double dotsPerInch) {
     return drawing.Module() / kInch * dotsPerInch;
 }
 
+int WholePixelsPerModule(const BarcodeDrawing& drawing, double dotsPerInch) {
+    const int step = drawing.HasHalfModules() ? 2 : 1;
+    const double steps = PixelsPerModule(drawing, dotsPerInch) / step;
+    return step * std::max(1, static_cast<int>(std::lround(steps)));
+}
+
 double DotsPerInch(const BarcodeDrawing& drawing, int pixelsPerModule) {
     return pixelsPerModule / drawing.Module() * kInch;
 }

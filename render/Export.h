@@ -20,6 +20,9 @@ std::string PngOf(const BarcodeDrawing& drawing, int pixelsPerModule);
 
 /** The pixels that a module has at a resolution; most often no whole number. */
 double PixelsPerModule(const BarcodeDrawing& drawing, double dotsPerInch);
+/** The whole number of pixels a module, even where there are half modules, that is nearest to a
+ *  resolution: 300 dpi is the usual one of pictures. */
+int WholePixelsPerModule(const BarcodeDrawing& drawing, double dotsPerInch = 300);
 /** The resolution at which a module has so many pixels. */
 double DotsPerInch(const BarcodeDrawing& drawing, int pixelsPerModule);
 

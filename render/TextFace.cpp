@@ -1,5 +1,7 @@
 #include "render/TextFace.h"
 
+#include "text/Utf8.h"
+
 namespace linewright {
 
 void SelectTextFace(cairo_t* context, double size, bool isBold) {
@@ -26,14 +28,14 @@ double TextWidth(const std::string& text, double size) {
 }
 
 std::string FittedText(const std::string& text, double size, double width) {
-    std::string fitted = text;
-    bool isCut = false;
-    while (!fitted.empty() && TextWidth(isCut ? fitted + "…" : fitted, size) > width) {
-        isCut = true;
-        while (fitted.size() > 1 && (fitted.back() & 0xC0) == 0x80) fitted.pop_back();
-        fitted.pop_back();
-    }
-    return isCut ? fitted + "…" : fitted;
+    if (text.empty() || TextWidth(text, size) <= width) return text;
+    std::u32string kept = CharactersFromUtf8(text);
+    std::string fitted;
+    do {
+        kept.pop_back();
+        fitted = Utf8FromCharacters(kept) + "…";
+    } while (!kept.empty() && TextWidth(fitted, size) > width);
+    return fitted;
 }
 
 }  // namespace linewright

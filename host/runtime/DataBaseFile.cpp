@@ -4,7 +4,7 @@
 
 #include "InterfacePtr.h"
 #include "host/runtime/FileStream.h"
-#include "host/runtime/Platform.h"
+#include "host/runtime/Paths.h"
 
 namespace fs = std::filesystem;
 
@@ -62,7 +62,7 @@ Records ReadRecords(const fs::path& file) {
     if (!stream) return records;
     if (!ReadAll(*stream.get(), fs::file_size(file), records)) {
         if (stream->GetStreamState() == kStreamStateFailure) return {};
-        throw std::runtime_error("the application database is damaged: " + ToUtf8(file) +
+        throw std::runtime_error("the application database is damaged: " + Utf8FromPath(file) +
                                  "; without this file the host starts with an empty one");
     }
     return records;

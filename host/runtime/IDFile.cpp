@@ -1,9 +1,9 @@
 #include "IDFile.h"
 
 #include "host/runtime/FilePath.h"
+#include "host/runtime/HostText.h"
 #include "host/runtime/Make.h"
-#include "host/runtime/Platform.h"
-#include "host/runtime/Utf8.h"
+#include "host/runtime/Paths.h"
 
 /** The path itself: its text is not always UTF-8. */
 struct IDFile::Path {
@@ -30,7 +30,7 @@ IDFile::~IDFile() {
 }
 
 PMString IDFile::GetString() const {
-    PMString text = host::PlainText(host::ToUtf8(fPath->path));
+    PMString text = host::PlainText(host::Utf8FromPath(fPath->path));
     text.SetTranslatable(kFalse);
     return text;
 }

@@ -11,7 +11,7 @@ namespace host {
 void Unreadable::Add(const fs::path& path, const std::string& reason) {
     if (!fPaths.insert(path).second) return;
     std::fprintf(stderr, "linewright-host: %s cannot be read: %s; it is left as it is\n",
-                 ToUtf8(path).c_str(), reason.c_str());
+                 Utf8FromPath(path).c_str(), reason.c_str());
 }
 
 bool Unreadable::Holds(const fs::path& path) const {

@@ -4,6 +4,7 @@
 #include "render/Export.h"
 #include "tests/TestHost.h"
 #include "tests/render/Drawn.h"
+#include "words/Words.h"
 
 namespace linewright {
 
@@ -39,9 +40,10 @@ bool IsPureBlackAndWhite(const GreyRaster& picture) {
 std::string ProblemWith(std::string_view type, const std::string& fontString,
                         const DrawingOptions& options,
                         const std::filesystem::path& fonts = LINEWRIGHT_FONTS) {
-    std::string problem;
-    EXPECT_FALSE(BarcodeDrawing::Make(fonts, *TypeDrawingOf(type), fontString, options, problem));
-    return problem;
+    DrawingProblem problem;
+    EXPECT_FALSE(
+        BarcodeDrawing::Make(fonts, *FindTypeByPrefix(type), fontString, options, problem));
+    return Sentence(DrawingFailure(problem), Language::kEnglish);
 }
 
 TEST(DrawingTest, BarsHaveWholePixelsAndNoGrey) {
@@ -84,7 +86,7 @@ TEST(DrawingTest, QuietZonesAreTheStandards) {
 }
 
 TEST(DrawingTest, TheQuietZoneCanBeChosen) {
-    const double x = TypeDrawingOf(kCode39)->xDimension;
+    const double x = FindTypeByPrefix(kCode39)->dimensions.xDimension;
     const GreyRaster picture = Drawn(kCode39, kCode39String, {.quietZone = 20 * x}).Raster(1);
     EXPECT_EQ(RunsAt(picture, 5).front(), 20);
     EXPECT_EQ(RunsAt(picture, 5).back(), 20);
@@ -131,7 +133,6 @@ TEST(DrawingTest, InkFillsNarrowerBarsAgain) {
         ASSERT_EQ(narrow.width, bare.width);
         // Above the text and below the tops.
         const int y = bare.height / 4;
-        GreyRaster inked = bare;
         for (int x = 1; x + 1 < narrow.width; ++x) {
             const bool isDark =
                 narrow.At(x - 1, y) == 0 || narrow.At(x, y) == 0 || narrow.At(x + 1, y) == 0;
@@ -190,14 +191,6 @@ TEST(DrawingTest, AnEmptyFontStringIsAnEmptyDrawing) {
 TEST(DrawingTest, SaysWhichFontIsMissing) {
     EXPECT_THAT(ProblemWith(kCode39, kCode39String, {}, "/nowhere"),
                 HasSubstr("/nowhere/LinewrightBars.ttf"));
-}
-
-TEST(DrawingTest, EveryTypeHasItsRow) {
-    EXPECT_EQ(TypeDrawings().size(), 27U);
-    EXPECT_EQ(BarcodeFaces().size(), 10U);
-    EXPECT_EQ(TypeDrawingOf("_BARCODE_NONE_"), nullptr);
-    EXPECT_EQ(TypeDrawingOf("_QVT_BARCODE_I2OF5_TEXT_")->face, nullptr);
-    EXPECT_EQ(TypeDrawingOf("_QVT_BARCODE_I2OF5_")->face, &kBarsFace);
 }
 
 }  // namespace

@@ -1,0 +1,72 @@
+#include "requests/BarcodeOutcome.h"
+
+#include <utility>
+
+#include "types/WrittenType.h"
+
+namespace linewright {
+
+namespace {
+
+/** The words of a marker such as "***Bad Code 39***"; "" for a text that is none. */
+std::string_view MarkerWords(std::string_view bytes) {
+    if (!bytes.starts_with("**")) return "";
+    const std::size_t first = bytes.find_first_not_of("* ");
+    if (first == std::string_view::npos) return "";
+    return bytes.substr(first, bytes.find_last_not_of("* ") - first + 1);
+}
+
+Refusal RefusalOf(const EncodeAnswer& answer) {
+    if (!answer.hint.empty()) return {RefusalReason::kPlugIn, {answer.hint}};
+    const std::string_view words = MarkerWords(answer.bytes);
+    if (words.empty()) return {RefusalReason::kPlugIn};
+    return {RefusalReason::kPlugIn, {std::string(words)}};
+}
+
+Refusal UnknownType(std::string_view written) {
+    const std::vector<std::string_view> nearest = NearestTypeNames(written);
+    return {RefusalReason::kUnknownType, {nearest.begin(), nearest.end()}};
+}
+
+/** The name that the plug-in gets: one of its own is sent as it was written. */
+std::string_view SentName(const BarcodeWish& wish, const BarcodeType& type) {
+    return wish.type.starts_with(type.name) ? std::string_view(wish.type) : type.name;
+}
+
+}  // namespace
+
+BarcodeOutcome MakeBarcode(Service& service, const BarcodeWish& wish) {
+    const WrittenType written = FindWrittenType(wish.type);
+    BarcodeOutcome outcome{.typeName = wish.type, .type = written.type};
+    if (written.type) outcome.typeName = SentName(wish, *written.type);
+    if (!written.type || outcome.typeName.size() > kMaxPStringLength) {
+        outcome.refusal = UnknownType(wish.type);
+        return outcome;
+    }
+    EncodeAnswer answer = service.Encode({.typeName = outcome.typeName,
+                                          .data = wish.data,
+                                          .isUtf8 = wish.isUtf8,
+                                          .checkCharacter = wish.checkCharacter,
+                                          .ratio = wish.ratio});
+    outcome.status = answer.status;
+    outcome.hint = answer.hint;
+    if (answer.status != 0) {
+        outcome.refusal = RefusalOf(answer);
+        return outcome;
+    }
+    outcome.meaning = MeaningOf({.type = *written.type,
+                                 .data = wish.data,
+                                 .isUtf8 = wish.isUtf8,
+                                 .isCheckWanted = wish.checkCharacter != 0,
+                                 .expectation = written.expectation,
+                                 .fontString = answer.bytes});
+    if (wish.isStrict && !outcome.Warnings().empty()) {
+        outcome.status.reset();
+        outcome.refusal = Refusal{RefusalReason::kStrict};
+        return outcome;
+    }
+    outcome.bytes = std::move(answer.bytes);
+    return outcome;
+}
+
+}  // namespace linewright

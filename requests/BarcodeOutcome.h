@@ -1,0 +1,64 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "meaning/Meaning.h"
+#include "requests/Service.h"
+#include "types/BarcodeType.h"
+
+namespace linewright {
+
+/** A barcode as a person wants it. */
+struct BarcodeWish {
+    /** A type name of the plug-in, or a name that people write. */
+    std::string type;
+    std::string data;
+    /** Whether the data is UTF-8, to be converted by the plug-in. */
+    bool isUtf8 = true;
+    uint8 checkCharacter = 0;
+    double ratio = 2.0;
+    /** Whether a warning is a refusal. */
+    bool isStrict = false;
+};
+
+enum class RefusalReason {
+    /** No type has the name; `texts` are the nearest names. */
+    kUnknownType,
+    /** The plug-in refused the data; `texts` has its hint or the words of its marker, or nothing.
+     */
+    kPlugIn,
+    /** There are warnings, and the wish is strict. */
+    kStrict,
+};
+
+struct Refusal {
+    RefusalReason reason;
+    std::vector<std::string> texts{};
+};
+
+/** What became of a wish. Texts are UTF-8. */
+struct BarcodeOutcome {
+    /** The type name that was sent, or what was written where it names no type. */
+    std::string typeName;
+    /** nullptr for an unknown type. */
+    const BarcodeType* type = nullptr;
+    /** The plug-in's status; none where it was not the plug-in that refused. */
+    std::optional<int32> status{};
+    /** The plug-in's hint on refused data. */
+    std::string hint{};
+    /** The font string; empty for a refusal. */
+    std::string bytes{};
+    std::optional<Refusal> refusal{};
+    /** What the data and the bars mean, with all warnings; of a font string that was made. */
+    Meaning meaning{};
+
+    bool IsMade() const { return !refusal; }
+    const std::vector<Warning>& Warnings() const { return meaning.warnings; }
+};
+
+/** Has the plug-in make a barcode. Throws RequestFailure. */
+BarcodeOutcome MakeBarcode(Service& service, const BarcodeWish& wish);
+
+}  // namespace linewright
