@@ -8,7 +8,8 @@
 
 namespace linewright {
 
-OutputFile::OutputFile(const std::string& fileName) : name(fileName), file(host::PathFromUtf8(fileName)) {
+OutputFile::OutputFile(const std::string& fileName)
+    : name(fileName), file(host::PathFromUtf8(fileName)) {
     if (!file.Error().empty()) Fail();
 }
 
