@@ -151,11 +151,11 @@ TEST_P(BarsTest, OfDamagedFontStringsAreNoticed) {
         const Meaning whole = barcode.MeaningOfIt();
         if (barcode.fontString.empty()) continue;
         const std::size_t place = random.Number(0, barcode.fontString.size() - 1);
-        const std::string damaged = random.Bytes(0, 255, 1);
+        const char damaged = random.Bytes(0, 255, 1).front();
         if (random.Number(0, 1) == 0) {
             barcode.fontString.resize(place);
         } else {
-            barcode.fontString.replace(place, 1, damaged);
+            barcode.fontString[place] = damaged;
         }
         const Bars bars = Read(barcode);
         const Meaning meaning = barcode.MeaningOfIt();
