@@ -58,7 +58,13 @@ struct BarcodeOutcome {
     const std::vector<Warning>& Warnings() const { return meaning.warnings; }
 };
 
-/** Has the plug-in make a barcode. Throws RequestFailure. */
+/** Has the plug-in make a barcode, and refuses one with warnings where the wish is strict. Throws
+ *  RequestFailure. */
 BarcodeOutcome MakeBarcode(Service& service, const BarcodeWish& wish);
+
+/** The same before it is decided whether warnings are a refusal, for who has more of them. */
+BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish);
+/** Makes a refusal of a barcode that was made, for its warnings. */
+void RefuseForWarnings(BarcodeOutcome& outcome);
 
 }  // namespace linewright

@@ -58,7 +58,7 @@ std::string RandomDataOf(const BarcodeType& type, RandomData& random) {
             return random.Number(0, 9) == 0 ? random.Text("12A ", length) : random.Digits(length);
         case Symbology::kPostnet: return random.Text("0123456789-", random.Number(5, 11));
         case Symbology::kIntelligentMail:
-            return "01" + random.Digits(18) + random.Digits(9 * random.Number(0, 1));
+            return random.Text("01", 2) + random.Digits(18 + 9 * random.Number(0, 1));
         case Symbology::kText:
         case Symbology::kInterleaved2of5: break;
     }
@@ -151,11 +151,11 @@ TEST_P(BarsTest, OfDamagedFontStringsAreNoticed) {
         const Meaning whole = barcode.MeaningOfIt();
         if (barcode.fontString.empty()) continue;
         const std::size_t place = random.Number(0, barcode.fontString.size() - 1);
-        const std::string damaged = random.Bytes(0, 255, 1);
+        const char damaged = random.Bytes(0, 255, 1).front();
         if (random.Number(0, 1) == 0) {
             barcode.fontString.resize(place);
         } else {
-            barcode.fontString.replace(place, 1, damaged);
+            barcode.fontString[place] = damaged;
         }
         const Bars bars = Read(barcode);
         const Meaning meaning = barcode.MeaningOfIt();
@@ -200,6 +200,17 @@ TEST(Readers, TakeNothingThatIsNoSymbol) {
                 << type.shortName << ' ' << fontString;
         }
     }
+}
+
+/** 1234567 has the check digit 0 (1*3+2+3*3+4+5*3+6+7*3 = 60), and the add-on 06 the number sets B
+ * and A. */
+TEST(RetailReader, SeesToCheckDigitAndAddOnParity) {
+    const auto read = [](std::string_view fontString) { return meaning::ReadRetail(fontString); };
+    EXPECT_EQ(read("(1234*PQRK(").text, "12345670");
+    EXPECT_EQ(read("(1234*PQRK(").symbol, Symbol::kRead);
+    EXPECT_EQ(read("(1234*PQRL(").symbol, Symbol::kWrongCheck);
+    EXPECT_EQ(read("(1234*PQRK(+z!.").addOn, "06");
+    EXPECT_EQ(read("(1234*PQRK(+\"!.").symbol, Symbol::kNone);
 }
 
 /** Symbols that no reader takes, each of which has its warning. */
