@@ -1,8 +1,9 @@
 #include "host/runtime/Unreadable.h"
 
+
 #include <cstdio>
 
-#include "host/runtime/Platform.h"
+#include "host/runtime/Paths.h"
 
 namespace fs = std::filesystem;
 
