@@ -1,39 +1,116 @@
 #include "render/TextFace.h"
 
+#include <fontconfig/fontconfig.h>
+
+#include <memory>
+#include <string_view>
+
 namespace linewright {
 
-void SelectTextFace(cairo_t* context, double size, bool isBold) {
-    cairo_font_options_t* const options = cairo_font_options_create();
-    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
-    cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
-    cairo_set_font_options(context, options);
-    cairo_font_options_destroy(options);
-    cairo_select_font_face(context, "monospace", CAIRO_FONT_SLANT_NORMAL,
-                           isBold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
-    cairo_set_font_size(context, size);
+namespace {
+
+constexpr const char* kFamily = "DejaVu Sans Mono";
+
+DrawingProblem Missing() {
+    return {DrawingProblem::Reason::kNoTextFace, {kFamily}};
 }
 
-double TextWidth(const std::string& text, double size) {
-    cairo_surface_t* const surface = cairo_recording_surface_create(CAIRO_CONTENT_ALPHA, nullptr);
-    cairo_t* const context = cairo_create(surface);
-    SelectTextFace(context, size);
-    cairo_text_extents_t extents{};
-    cairo_text_extents(context, text.c_str(), &extents);
-    cairo_destroy(context);
-    cairo_surface_destroy(surface);
-    return extents.x_advance;
-}
+using Pattern = std::unique_ptr<FcPattern, decltype(&FcPatternDestroy)>;
 
-std::string FittedText(const std::string& text, double size, double width) {
-    std::string fitted = text;
-    bool isCut = false;
-    while (!fitted.empty() && TextWidth(isCut ? fitted + "…" : fitted, size) > width) {
-        isCut = true;
-        while (fitted.size() > 1 && (fitted.back() & 0xC0) == 0x80) fitted.pop_back();
-        fitted.pop_back();
+/** What the pattern says under a name; fails where it says nothing. */
+std::string TextOf(const Pattern& pattern, const char* name) {
+    FcChar8* text = nullptr;
+    if (FcPatternGetString(pattern.get(), name, 0, &text) != FcResultMatch) {
+        throw DrawingFailure(Missing());
     }
-    return isCut ? fitted + "…" : fitted;
+    return reinterpret_cast<const char*>(text);
+}
+
+/** Where the face lies. Another one that stands in for it is none. */
+std::string FileOf(bool isBold) {
+    const Pattern wanted(FcPatternBuild(nullptr, FC_FAMILY, FcTypeString, kFamily, FC_WEIGHT,
+                                        FcTypeInteger, isBold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR,
+                                        FC_SLANT, FcTypeInteger, FC_SLANT_ROMAN, nullptr),
+                         FcPatternDestroy);
+    if (!wanted || FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern) == FcFalse) {
+        throw DrawingFailure(Missing());
+    }
+    FcDefaultSubstitute(wanted.get());
+    FcResult result{};
+    const Pattern found(FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy);
+    int weight = 0;
+    const bool isIt = found && TextOf(found, FC_FAMILY) == kFamily &&
+                      FcPatternGetInteger(found.get(), FC_WEIGHT, 0, &weight) == FcResultMatch &&
+                      (weight >= FC_WEIGHT_BOLD) == isBold;
+    if (!isIt) throw DrawingFailure(Missing());
+    return TextOf(found, FC_FILE);
+}
+
+/** The characters of UTF-8 text; a byte that belongs to none is U+FFFD. */
+std::u32string CharactersFromUtf8(const std::string& text) {
+    std::u32string characters;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto first = static_cast<unsigned char>(text[at]);
+        const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+        char32_t character = length == 1 ? first : first & (0x7FU >> length);
+        for (std::size_t i = 1; i < length && at + i < text.size(); ++i) {
+            character = character << 6 | (static_cast<unsigned char>(text[at + i]) & 0x3FU);
+        }
+        characters += character;
+        at += length;
+    }
+    return characters;
+}
+
+}  // namespace
+
+TextFace::TextFace(bool isBold) : file(FileOf(isBold), Missing()) {}
+
+TextLine TextFace::Set(const std::u32string& characters, double size) const {
+    TextLine line;
+    for (const char32_t character : characters) {
+        const unsigned int glyph = file.GlyphOf(character);
+        line.glyphs.push_back({glyph, line.width, 0});
+        line.width += file.AdvanceOf(glyph) * size;
+    }
+    return line;
+}
+
+TextLine TextFace::Set(const std::string& text, double size) const {
+    return Set(CharactersFromUtf8(text), size);
+}
+
+TextLine TextFace::SetWithin(const std::string& text, double size, double width) const {
+    std::u32string characters = CharactersFromUtf8(text);
+    TextLine line = Set(characters, size);
+    if (line.width <= width) return line;
+    while (!characters.empty() && line.width > width) {
+        characters.pop_back();
+        line = Set(characters + U"…", size);
+    }
+    return line;
+}
+
+void TextFace::Show(cairo_t* context, const TextLine& line, double size, double x, double y) const {
+    file.Select(context, size, size);
+    std::vector<cairo_glyph_t> glyphs = line.glyphs;
+    for (cairo_glyph_t& glyph : glyphs) {
+        glyph.x += x;
+        glyph.y += y;
+    }
+    cairo_show_glyphs(context, glyphs.data(), static_cast<int>(glyphs.size()));
+}
+
+void TextFace::AddTo(Outline& outline, const TextLine& line, double size, double x,
+                     double y) const {
+    for (const cairo_glyph_t& glyph : line.glyphs) {
+        const auto place = [&](Point point) {
+            return Point{x + glyph.x + point.x * size, y - point.y * size};
+        };
+        for (const PathStep& step : file.OutlineOf(static_cast<unsigned int>(glyph.index))) {
+            outline.push_back({step.kind, place(step.control), place(step.end)});
+        }
+    }
 }
 
 }  // namespace linewright
