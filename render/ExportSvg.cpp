@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <cmath>
+
 #include "render/Decimal.h"
 #include "render/Export.h"
 
@@ -69,7 +72,10 @@ class PathData {
     std::string data;
 
   private:
-    double Rounded(double number) const { return std::stod(Decimal(number, curveDigits)); }
+    double Rounded(double number) const {
+        const double parts = std::pow(10, curveDigits);
+        return std::round(number * parts) / parts;
+    }
 
     int curveDigits;
     Point reached;
@@ -77,9 +83,14 @@ class PathData {
     char last = 0;
 };
 
+/** As many as tell parts of 0.03 points apart. */
+int CurveDigits(double unit) {
+    constexpr double kPart = 0.03;
+    return std::max(0, static_cast<int>(std::ceil(std::log10(unit / kPart))));
+}
+
 std::string PathOf(const Shapes& shapes) {
-    constexpr double kSmallUnit = 0.25;
-    PathData path(shapes.unit < kSmallUnit ? 1 : 2);
+    PathData path(CurveDigits(shapes.unit));
     for (const Rectangle& bar : shapes.bars) {
         path.Command('M');
         path.Number(bar.left, kBarDigits);
