@@ -1,7 +1,6 @@
 #include "classic/Codabar.h"
 
 #include "core/FixedText.h"
-#include "core/PreferencesRecord.h"
 #include "core/Status.h"
 #include "standards/CodabarPatterns.h"
 
@@ -13,15 +12,15 @@ constexpr uint32 kLongestData = 250;
 
 }  // namespace
 
-int16 EncodeCodabarClassic(DataBlock data) {
+int16 EncodeCodabarClassic(DataBlock data, char start, char stop) {
     if (data.length > kLongestData)
         return FinishWith(data, "***Codabar Data Too Long***", kBadData);
     if (!ConsistsOf(data.View(), kCodabarDataCharacters))
         return FinishWith(data, "***Bad Codabar***", kBadData);
     FixedText<1 + kLongestData + 1> symbol;
-    symbol.Append(static_cast<char>(preferences.codabarStart));
+    symbol.Append(start);
     symbol.Append(data.View());
-    symbol.Append(static_cast<char>(preferences.codabarStop));
+    symbol.Append(stop);
     return FinishWith(data, symbol.View(), kEncoded);
 }
 

@@ -15,8 +15,9 @@ int16 EncodeCode128A(DataBlock data);
 int16 EncodeCode128B(DataBlock data);
 int16 EncodeCode128C(DataBlock data);
 
-/** Translate a string in place to font characters, the check character at its end and no start or
- *  stop; 0, or -1 with the string left alone. What exceeds 255 characters is cut. */
+/** Service, no caller of our own: translate a string in place to font characters, the check
+ *  character at its end and no start or stop; 0, or -1 with the string left alone. What exceeds 255
+ *  characters is cut. */
 int32 TranslateCode128A(PString& string);
 int32 TranslateCode128B(PString& string);
 int32 TranslateCode128C(PString& string);

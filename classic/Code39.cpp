@@ -4,9 +4,9 @@
 #include <iterator>
 #include <optional>
 
+#include "classic/FontLetters.h"
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
-#include "core/PreferencesRecord.h"
 #include "core/Status.h"
 #include "standards/CheckDigits.h"
 #include "standards/Code39Patterns.h"
@@ -18,7 +18,7 @@ namespace {
 constexpr std::string_view kBadDataMarker = "***Bad Code 39***";
 constexpr std::string_view kBadChecksumMarker = "***Bad Code 39 Checksum***";
 
-/** Values of the preference `code39CheckMode`; all others are modulo 43. */
+/** Values of `checkMode`; all others are modulo 43. */
 constexpr uint16 kNoCheck = 0;
 constexpr uint16 kNumericCheck = 1;
 
@@ -60,7 +60,7 @@ bool ExpandFullAscii(std::string_view data, TextArea& out) {
 }
 
 constexpr char FontCharacter(char character) {
-    return character == ' ' ? '!' : character;
+    return character == ' ' ? classic::kCode39Space : character;
 }
 
 /** Modulo 10 with the doubling anchored at the leftmost digit, unlike other such rules. */
@@ -94,8 +94,7 @@ bool AppendCharacters(std::string_view data, std::size_t& sum, TextArea& out) {
 }
 
 /** Appends data and check character. The result is empty, or the marker of data that is refused. */
-std::string_view AppendDataAndCheck(std::string_view data, TextArea& out) {
-    const uint16 mode = preferences.code39CheckMode;
+std::string_view AppendDataAndCheck(std::string_view data, uint16 mode, TextArea& out) {
     if (mode == kNumericCheck && !AreDigits(data)) return kBadDataMarker;
     std::size_t sum = 0;
     if (!AppendCharacters(data, sum, out)) return kBadDataMarker;
@@ -109,17 +108,17 @@ std::string_view AppendDataAndCheck(std::string_view data, TextArea& out) {
 
 }  // namespace
 
-int16 EncodeCode39Classic(DataBlock data, bool fullAscii) {
+int16 EncodeCode39Classic(DataBlock data, bool fullAscii, uint16 checkMode, bool useAsterisk) {
     if (data.length > (fullAscii ? kLongestFullAscii : kMaxPStringLength))
         return FinishWith(data, kBadDataMarker, kBadData);
     FixedText<2 * kLongestFullAscii> expanded;
     const bool isExpanded = fullAscii && ExpandFullAscii(data.View(), expanded);
 
-    const char startStop = preferences.code39UseAsterisk ? '*' : '#';
+    const char startStop = classic::kCode39StartStops[useAsterisk ? 0 : 1];
     FixedText<1 + kMaxPStringLength + 2> symbol;
     symbol.Append(startStop);
     const std::string_view marker =
-        AppendDataAndCheck(isExpanded ? expanded.View() : data.View(), symbol);
+        AppendDataAndCheck(isExpanded ? expanded.View() : data.View(), checkMode, symbol);
     if (!marker.empty()) return FinishWith(data, marker, kBadData);
     symbol.Append(startStop);
     return FinishWith(data, symbol.View(), kEncoded);

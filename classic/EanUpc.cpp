@@ -6,6 +6,7 @@
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/Status.h"
+#include "retail/RetailSymbol.h"
 #include "standards/CheckDigits.h"
 #include "standards/EanUpcParity.h"
 #include "standards/UpcEZeroSuppression.h"
@@ -14,100 +15,25 @@ namespace linewright {
 
 namespace {
 
-constexpr char kNormalGuard = '<';
-constexpr char kCentreGuard = '=';
-constexpr char kUpcERightGuard = '>';
-constexpr char kAddOnStart = '+';
-constexpr char kAddOnDelineator = '-';
-
-constexpr char Shifted(char digit, int distance) {
-    return static_cast<char>(digit + distance);
-}
-
-// The font's places for a digit.
-
-constexpr char OutsideBars(char digit) {
-    return Shifted(digit, 69);
-}
-constexpr char InLeftHalf(char digit, char numberSet) {
-    return Shifted(digit, numberSet == 'A' ? -15 : 59);
-}
-constexpr char InRightHalf(char digit) {
-    return Shifted(digit, 49);
-}
-/** UPC-A's check digit with long bars; the first digit with long bars is the digit itself. */
-constexpr char LongCheckDigit(char digit) {
-    return Shifted(digit, 17);
-}
-constexpr char InAddOn(char digit, char numberSet) {
-    return Shifted(digit, numberSet == 'A' ? 37 : 80);
-}
-
-constexpr std::size_t Value(char digit) {
-    return static_cast<std::size_t>(digit - '0');
-}
-
-void AppendLeftHalf(std::string_view digits, std::string_view numberSets, TextArea& out) {
-    for (std::size_t place = 0; place < digits.size(); ++place)
-        out.Append(InLeftHalf(digits[place], numberSets[place]));
-}
-
-void AppendRightHalf(std::string_view digits, TextArea& out) {
-    for (const char digit : digits) out.Append(InRightHalf(digit));
-}
-
-constexpr std::size_t kEan13Size = 16;
-
-void AppendEan13(std::string_view digits, TextArea& out) {
-    out.Append(OutsideBars(digits[0]));
-    out.Append(kNormalGuard);
-    AppendLeftHalf(digits.substr(1, 6), kEan13Parity[Value(digits[0])], out);
-    out.Append(kCentreGuard);
-    AppendRightHalf(digits.substr(7), out);
-    out.Append(InRightHalf(Modulo10CheckDigit(digits)));
-    out.Append(kNormalGuard);
-}
-
-constexpr std::size_t kUpcASize = 17;
-
-void AppendUpcA(std::string_view digits, TextArea& out) {
-    const char check = Modulo10CheckDigit(digits);
-    out.Append(OutsideBars(digits[0]));
-    out.Append(kNormalGuard);
-    out.Append(digits[0]);
-    AppendLeftHalf(digits.substr(1, 5), kEan13Parity[0], out);
-    out.Append(kCentreGuard);
-    AppendRightHalf(digits.substr(6), out);
-    out.Append(LongCheckDigit(check));
-    out.Append(kNormalGuard);
-    out.Append(OutsideBars(check));
-}
-
-constexpr std::size_t kLongestAddOn = 10;
-
-/** Nothing for no digits. */
-void AppendAddOn(std::string_view digits, TextArea& out) {
-    if (digits.empty()) return;
-    const int32 parity = digits.size() == 2 ? AddOn2Parity(digits) : AddOn5Parity(digits);
-    const std::string_view numberSets = parity < 5
-                                            ? kAddOn2Parity[static_cast<std::size_t>(parity - 1)]
-                                            : kAddOn5Parity[static_cast<std::size_t>(parity - 5)];
-    for (std::size_t place = 0; place < digits.size(); ++place) {
-        out.Append(place == 0 ? kAddOnStart : kAddOnDelineator);
-        out.Append(InAddOn(digits[place], numberSets[place]));
-    }
-}
+constexpr const RetailAlphabet& kAlphabet = kClassicRetailAlphabet;
 
 /** A symbology that takes an add-on. */
 struct Symbology {
     std::size_t digitCount;
     std::string_view marker;
-    void (*append)(std::string_view digits, TextArea& out);
+    void (*append)(std::string_view number, std::string_view addOn, TextArea& out);
 };
 
-constexpr Symbology kEan13{12, "***Bad EAN-13***", AppendEan13};
-constexpr Symbology kJan13{12, "***Bad JAN-13***", AppendEan13};
-constexpr Symbology kUpcA{11, "***Bad UPC-A***", AppendUpcA};
+void AppendEan(std::string_view number, std::string_view addOn, TextArea& out) {
+    AppendEan13(kAlphabet, number, addOn, out);
+}
+void AppendUpc(std::string_view number, std::string_view addOn, TextArea& out) {
+    AppendUpcA(kAlphabet, number, addOn, kAlphabet.guard, out);
+}
+
+constexpr Symbology kEan13{12, "***Bad EAN-13***", AppendEan};
+constexpr Symbology kJan13{12, "***Bad JAN-13***", AppendEan};
+constexpr Symbology kUpcA{11, "***Bad UPC-A***", AppendUpc};
 
 bool HasLengthFor(const Symbology& symbology, std::size_t length) {
     const std::size_t digitCount = symbology.digitCount;
@@ -118,15 +44,14 @@ int16 Encode(const Symbology& symbology, DataBlock data) {
     const std::string_view digits = data.View();
     if (!HasLengthFor(symbology, digits.size()) || !AreDigits(digits))
         return FinishWith(data, symbology.marker, kBadData);
-    FixedText<std::max(kEan13Size, kUpcASize) + kLongestAddOn> symbol;
-    symbology.append(digits.substr(0, symbology.digitCount), symbol);
-    AppendAddOn(digits.substr(symbology.digitCount), symbol);
+    FixedText<std::max(kLongestEan13, kLongestUpcA)> symbol;
+    symbology.append(digits.substr(0, symbology.digitCount), digits.substr(symbology.digitCount),
+                     symbol);
     return FinishWith(data, symbol.View(), kEncoded);
 }
 
 constexpr int16 kBadUpcEData = -2;
 constexpr int16 kBadUpcELength = -3;
-constexpr std::size_t kUpcESize = 10;
 constexpr uint32 kUpcEBlockSize = 24;
 
 int16 CheckUpcEData(std::string_view data) {
@@ -159,15 +84,17 @@ std::array<char, 6> PrintedUpcEDigits(const TenDigits& digits) {
     return printed;
 }
 
-void AppendUpcE(std::string_view data, TextArea& out) {
+void AppendSymbol(std::string_view data, TextArea& out) {
     const TenDigits digits = ExpandUpcEData(data.substr(1));
     const char check = Modulo10CheckDigit({digits.data(), digits.size()});
-    const std::array<char, 6> printed = PrintedUpcEDigits(digits);
-    out.Append(OutsideBars(data[0]));
-    out.Append(kNormalGuard);
-    AppendLeftHalf({printed.data(), printed.size()}, kUpcEParity[Value(check)], out);
-    out.Append(kUpcERightGuard);
-    out.Append(OutsideBars(check));
+    const auto printed = PrintedUpcEDigits(digits);
+    const auto numberSets = UpcENumberSets(data[0], check);
+    AppendUpcE(kAlphabet,
+               {.numberSystem = data[0],
+                .six = {printed.data(), printed.size()},
+                .numberSets = {numberSets.data(), numberSets.size()},
+                .checkDigit = check},
+               {}, out);
 }
 
 }  // namespace
@@ -185,13 +112,13 @@ int16 EncodeUpcAClassic(DataBlock data) {
 int16 EncodeUpcEClassic(DataBlock data) {
     if (const int16 status = CheckUpcEData(data.View()))
         return FinishWith(data, "***Bad UPC-E***", status);
-    FixedText<kUpcESize> symbol;
-    AppendUpcE(data.View(), symbol);
+    FixedText<kLongestUpcE> symbol;
+    AppendSymbol(data.View(), symbol);
     return ReplaceData(data, symbol.View(), kUpcEBlockSize) ? kEncoded : kInternalError;
 }
 
 int32 AddOn2Parity(std::string_view digits) {
-    return static_cast<int32>((10 * Value(digits[0]) + Value(digits[1])) % 4) + 1;
+    return static_cast<int32>(AddOn2CheckValue(digits)) + 1;
 }
 
 int32 AddOn5Parity(std::string_view digits) {

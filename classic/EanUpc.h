@@ -23,8 +23,8 @@ int16 EncodeUpcAClassic(DataBlock data);
  *  zeros as these have beyond four. */
 int16 EncodeUpcEClassic(DataBlock data);
 
-/** Which parity the digits of an add-on have: 1 to 4 for its value modulo 4, of exactly two digits;
- *  5 to 14 for its check value, of exactly five. */
+/** Service, no caller of our own: which parity the digits of an add-on have: 1 to 4 for its value
+ *  modulo 4, of exactly two digits; 5 to 14 for its check value, of exactly five. */
 int32 AddOn2Parity(std::string_view digits);
 int32 AddOn5Parity(std::string_view digits);
 

@@ -15,8 +15,8 @@ constexpr int16 kNoMsiMod11Check = -4;
  *  "***Invalid MSI Plessey Mod 11 Data***", status -4. Without a check any bytes pass. */
 int16 EncodeMsiClassic(DataBlock data, int16 firstCheck, int16 secondCheck);
 
-// The check digits, as characters. 0, or `check` left alone: -1 at what is no digit, and as said
-// below.
+// Service: no caller of our own. The check digits, as characters. 0, or `check` left alone: -1 at
+// what is no digit, and as said below.
 
 /** Doubles every second digit from the rightmost one on as one number; -1 also when that number
  *  needs more than nine digits. */

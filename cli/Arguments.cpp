@@ -1,17 +1,36 @@
 #include "cli/Arguments.h"
 
+#include <fmt/format.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <map>
-#include <set>
+#include <memory>
 
-#include "cli/Length.h"
+#include "cli/DrawingArguments.h"
+#include "cli/Failure.h"
+#include "text/Nearest.h"
 
 namespace linewright {
 
 namespace {
 
 constexpr int kNameColumn = 26;
+
+/** The library's form of a help text without the blank line above options, which a screen has no
+ *  room for, and with --no-text where it has --no-text{false}. */
+class HelpFormatter : public CLI::Formatter {
+  public:
+    std::string make_group(std::string group, bool isPositional,
+                           std::vector<const CLI::Option*> options) const override {
+        const std::string text = CLI::Formatter::make_group(group, isPositional, options);
+        return isPositional ? text : text.substr(1);
+    }
+    std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
+        return CLI::detail::find_and_replace(CLI::Formatter::make_option_name(option, isPositional),
+                                             "{false}", "");
+    }
+};
 
 void AddHostOptions(CLI::App& app, HostOptions& host, std::string& fonts) {
     const auto add = [&app](const char* name, std::string& value, const char* kind,
@@ -38,12 +57,13 @@ void AddTypes(CLI::App& app, Arguments& arguments) {
 }
 
 /** What all commands have that make one barcode. */
-void AddBarcode(CLI::App& command, EncodeOptions& encode) {
+CLI::Option* AddBarcode(CLI::App& command, EncodeOptions& encode) {
     command.add_option("TYPE", encode.type, "Name of the type, see linewright types")->required();
-    command
-        .add_option("DATA", encode.data,
-                    "UTF-8 text; - reads standard input; put -- before data that begins with -")
-        ->required();
+    CLI::Option* const data =
+        command
+            .add_option("DATA", encode.data,
+                        "UTF-8 text; - reads standard input; put -- before data that begins with -")
+            ->required();
     command.add_flag("--check", encode.isCheckWanted, "Add the check character a type leaves open");
     AddRatio(command, [&encode](const CLI::results_t& results) {
         encode.ratio = std::stod(results.front());
@@ -51,6 +71,7 @@ void AddBarcode(CLI::App& command, EncodeOptions& encode) {
     });
     command.add_flag("--bytes", encode.isBytes, "Send the data as it is, without conversion");
     command.add_flag("--strict", encode.isStrict, "Refuse what there is a warning about");
+    return data;
 }
 
 void AddEncode(CLI::App& app, Arguments& arguments) {
@@ -73,8 +94,9 @@ void AddStream(CLI::App& app) {
     CLI::App& command =
         *app.add_subcommand("stream", "Answer requests, a JSON object a line, as they come");
     command.footer(
-        "In:   \"type\" or \"typeHex\", \"data\" or \"hex\" (with \"utf8\"), \"check\", \"ratio\"\n"
-        "Out:  \"status\", \"recognised\", \"hex\", \"text\", \"hint\"\n\n"
+        "In:   \"type\" or \"typeHex\", \"data\" or \"hex\" (with \"utf8\"), \"check\", \"ratio\", "
+        "\"id\"\n"
+        "Out:  \"id\", \"status\", \"recognised\", \"hex\", \"text\", \"hint\"\n\n"
         "Example:  echo '{\"type\":\"_QVT_BARCODE_EAN13_\",\"data\":\"4006381333931\"}' "
         "| linewright stream");
 }
@@ -89,19 +111,11 @@ char DelimiterOf(const std::string& text) {
     throw CLI::ValidationError("--delimiter", "is one character, comma, semicolon or tab");
 }
 
-/** What all commands have that work on the rows of a file. */
-void AddRows(CLI::App& command, Arguments& arguments) {
-    BatchOptions& batch = arguments.batch;
-    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
-        ->required();
+/** Where the rows of a file have what. */
+void AddColumns(CLI::App& command, BatchOptions& batch) {
     command.add_option("--type", batch.type, "One type for all rows")->type_name("TYPE");
     command.add_option("--column", batch.dataColumn, "Column of the data; data unless stated")
         ->type_name("NAME");
-    command.add_flag("--check", batch.isCheckWanted, "Add the check character in all rows");
-    AddRatio(command, [&batch](const CLI::results_t& results) {
-        batch.ratio = std::stod(results.front());
-        return true;
-    });
     command
         .add_option(
             "--delimiter",
@@ -111,6 +125,19 @@ void AddRows(CLI::App& command, Arguments& arguments) {
             },
             "Between fields; found from the header unless stated")
         ->type_name("C");
+}
+
+/** What all commands have that work on the rows of a file. */
+void AddRows(CLI::App& command, Arguments& arguments) {
+    BatchOptions& batch = arguments.batch;
+    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
+        ->required();
+    AddColumns(command, batch);
+    command.add_flag("--check", batch.isCheckWanted, "Add the check character in all rows");
+    AddRatio(command, [&batch](const CLI::results_t& results) {
+        batch.ratio = std::stod(results.front());
+        return true;
+    });
     command.add_flag("--strict", batch.isStrict, "Refuse rows that there is a warning about");
 }
 
@@ -137,58 +164,22 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright prefs set msiFirstCheck=mod10");
 }
 
-/** The options of these commands fill a screen: --help is not among those that it lists. */
-void AddDrawing(CLI::App& command, DrawingWish& wish) {
-    command.get_help_ptr()->group("");
-    const auto add = [&command](const char* name, auto& value, const char* kind, auto parse,
-                                const char* help) {
-        command
-            .add_option_function<std::string>(
-                name, [&value, name, parse](const std::string& text) { value = parse(text, name); },
-                help)
-            ->type_name(kind);
-    };
-    const auto length = [](const std::string& text, const char* name) {
-        return LengthOf(text, name);
-    };
-    const auto lengthOrNone = [](const std::string& text, const char* name) {
-        return LengthOf(text, name, true);
-    };
-    add("--x-dimension", wish.xDimension, "LENGTH", XDimensionOf,
-        "Narrowest bar: 0.33mm, 10mil, 0.7pt");
-    add("--height", wish.height, "LENGTH", length, "Bars: 15mm, or 50x of the narrowest bar");
-    add("--quiet-zone", wish.quietZone, "LENGTH", lengthOrNone, "White on both sides");
-    add("--bar-width-reduction", wish.barWidthReduction, "A", ReductionOf,
-        "Narrower bars: by 10% of the narrowest, or 0.03mm");
-}
-
-void AddResolution(CLI::App& command, DrawOptions& draw) {
-    command.add_option("--dpi", draw.dotsPerInch, "Resolution of a picture, or:")
-        ->type_name("N")
-        ->check(CLI::Range(1, 100000).description(""));
-    command.add_option("--pixels-per-module", draw.pixelsPerModule, "The same by pixels")
-        ->type_name("N")
-        ->check(CLI::Range(1, 100).description(""));
-}
-
-void AddText(CLI::App& command, DrawingWish& wish) {
-    command.add_flag(
-        "--text,!--no-text", [&wish](std::int64_t count) { wish.isTextWanted = count > 0; },
-        "The data below the bars, or not");
-}
-
 void AddDraw(CLI::App& app, Arguments& arguments) {
     DrawOptions& draw = arguments.draw;
-    CLI::App& command = *app.add_subcommand("draw", "Draw one barcode into a file (Linux)");
-    AddBarcode(command, draw.encode);
-    command.add_option("-o,--output", draw.output, ".pdf, .eps, .svg or .png")
-        ->type_name("F")
-        ->required();
+    CLI::App& command =
+        *app.add_subcommand("draw", "Draw barcodes into files (Linux): TYPE DATA, or a CSV file");
+    CLI::Option* const data = AddBarcode(command, draw.encode)->required(false);
+    command.callback([&draw, data] { draw.hasData = data->count() > 0; });
+    AddColumns(command, draw.rows);
+    AddFile(command, draw);
     AddDrawing(command, draw.drawing);
+    AddSurroundings(command, draw.drawing);
     AddText(command, draw.drawing);
     AddResolution(command, draw);
     command.add_flag("--verify", draw.isVerified, "Say what scanners read of it");
-    command.footer("Example:  linewright draw ean13 4006381333931 -o pen.pdf --verify");
+    command.footer(
+        "Example:  linewright draw ean13 4006381333931 -o pen.pdf --verify\n"
+        "          linewright draw labels.csv -o \"{line}-{data}.pdf\"");
 }
 
 void AddVerify(CLI::App& app, Arguments& arguments) {
@@ -208,6 +199,9 @@ void AddProof(CLI::App& app, Arguments& arguments) {
     command.add_option("-o,--output", arguments.batchFiles.output, "PDF file to write")
         ->type_name("F")
         ->required();
+    command.add_option("--title", arguments.batch.titleColumn, "Column of titles")
+        ->type_name("NAME");
+    command.add_flag("--letter", arguments.draw.isLetter, "Letter paper in place of A4");
     AddDrawing(command, arguments.draw.drawing);
     AddText(command, arguments.draw.drawing);
     command.add_flag("--verify", arguments.draw.isVerified,
@@ -230,7 +224,7 @@ void AddDialog(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("dialog", "Use a dialog of the plug-in, step by step");
     command.add_option("ID", dialog.resource, "250, the preferences, or 251, the utility")
         ->required()
-        ->check(CLI::IsMember(std::set<uint32>{250, 251}).description(""));
+        ->check(CLI::IsMember({"250", "251"}).description(""));
     // Steps are taken down as they are read, so that they keep their order.
     const auto addStep = [&](const char* name, const char* type, const char* help, auto parse) {
         return command
@@ -275,6 +269,33 @@ void AddDialog(CLI::App& app, Arguments& arguments) {
         "Example:  linewright dialog 251 --set 0x12211D=EAN-13 --set 0x122119=400638133393 --ok");
 }
 
+/** The command that the words name, or as much of it as they do. */
+const CLI::App& Chosen(const CLI::App& app) {
+    const auto parts = app.get_subcommands();
+    return parts.empty() ? app : Chosen(*parts.front());
+}
+
+std::string NameOf(const CLI::App& command) {
+    const CLI::App* const parent = command.get_parent();
+    return (parent ? NameOf(*parent) + ' ' : "") + command.get_name();
+}
+
+/** What is wrong with a command line: its first word that means nothing, else what the library
+ *  says. */
+std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error) {
+    const std::vector<std::string> words = app.remaining(true);
+    const auto word =
+        std::find_if(words.begin(), words.end(), [](const auto& each) { return each != "--"; });
+    if (word == words.end()) return error.what();
+    const CLI::App& command = Chosen(app);
+    std::vector<std::string_view> parts;
+    for (const CLI::App* part : command.get_subcommands({})) parts.push_back(part->get_name());
+    if (parts.empty() || word->starts_with('-'))
+        return fmt::format("\"{}\" is not expected here", *word);
+    return fmt::format("there is no \"{0} {1}\"; nearest: {0} {2}", NameOf(command), *word,
+                       Nearest(*word, parts, 1).front());
+}
+
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
@@ -293,11 +314,11 @@ Arguments::Command CommandOf(const CLI::App& app) {
 
 }  // namespace
 
-std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Console& console,
-                                        ExitStatus& exitStatus) {
+std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Console& console) {
     std::optional<Arguments> result(std::in_place);
     CLI::App app("Turns data into the font strings of barcode fonts, by the plug-in in its host.",
                  "linewright");
+    app.formatter(std::make_shared<HelpFormatter>());
     app.get_formatter()->column_width(kNameColumn);
     app.set_version_flag("--version", "linewright " LINEWRIGHT_VERSION, "Print the version");
     app.require_subcommand(1);
@@ -315,13 +336,16 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
         "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");
-    app.get_help_ptr()->group("");
 
     try {
         std::reverse(arguments.begin(), arguments.end());
         app.parse(arguments);
     } catch (const CLI::ParseError& error) {
-        exitStatus = app.exit(error, console.out, console.err) == 0 ? kDone : kTrouble;
+        if (error.get_exit_code() != 0) {
+            throw Failure(
+                fmt::format("{}; see {} --help", WhatIsWrong(app, error), NameOf(Chosen(app))));
+        }
+        app.exit(error, console.out, console.err);
         return std::nullopt;
     }
     result->command = CommandOf(app);

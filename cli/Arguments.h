@@ -43,9 +43,8 @@ struct Arguments {
     std::string fonts;
 };
 
-/** Reads a command line (UTF-8, without the program's name). Answers --help, --version and mistakes
- *  itself: then there are no arguments, and `exitStatus` is set. */
-std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Console& console,
-                                        ExitStatus& exitStatus);
+/** Reads a command line (UTF-8, without the program's name). Answers --help and --version itself:
+ *  then there are no arguments. Throws Failure for a mistake. */
+std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Console& console);
 
 }  // namespace linewright

@@ -8,13 +8,14 @@
 
 #include "cli/Failure.h"
 #include "cli/ReadAll.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
 std::string ReadInput(const std::string& name, std::istream& standardInput) {
     if (name == "-") return ReadAll(standardInput);
-    const std::filesystem::path path = PathFromUtf8(name);
+    const std::filesystem::path path = host::PathFromUtf8(name);
     std::error_code error;
     std::ifstream file(path, std::ios::binary);
     if (!file || std::filesystem::is_directory(path, error)) {

@@ -6,13 +6,14 @@
 
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
+#include "cli/DrawingAdvice.h"
 #include "cli/Failure.h"
 #include "cli/FontsCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
-#include "cli/Utf8.h"
-#include "cli/Words.h"
+#include "host/runtime/Paths.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -20,13 +21,13 @@ namespace {
 
 /** Where the build tree and an installation alike have the fonts. */
 std::string FontsBeside(const std::filesystem::path& programFolder) {
-    return Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
+    return host::Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
 }
 
 /** The plug-in's place in the build tree and in an installation alike. */
 std::string PlugInBeside(const std::filesystem::path& programFolder) {
     const auto path = programFolder / ".." / "lib" / "linewright" / LINEWRIGHT_PLUGIN_FILE;
-    return Utf8FromPath(path.lexically_normal());
+    return host::Utf8FromPath(path.lexically_normal());
 }
 
 ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments,
@@ -59,23 +60,23 @@ void ReportLeaks(const host::Leaks& leaks, std::ostream& err) {
 
 ExitStatus SayTrouble(std::string_view sentence, Console& console) {
     console.out.flush();
-    console.err << "linewright: " << sentence << '\n';
+    console.err << "linewright: " << Readable(sentence) << '\n';
     return kTrouble;
 }
 
 ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::path& programFolder,
                Console& console) {
-    ExitStatus exitStatus = kDone;
-    std::optional<Arguments> arguments = ParseArguments(words, console, exitStatus);
-    if (!arguments) return exitStatus;
+    std::optional<Arguments> arguments = ParseArguments(words, console);
+    if (!arguments) return kDone;
+    console.language = LanguageOf(arguments->host.locale);
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
-    arguments->draw.drawing.fonts = arguments->fonts;
+    arguments->draw.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
-    exitStatus = RunOne(service, user, *arguments, console);
+    const ExitStatus exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
     if (!console.out.flush()) throw Failure("standard output could not be written to its end");
     return exitStatus;
@@ -88,9 +89,9 @@ int RunCommand(const std::vector<std::string>& arguments,
     try {
         return Run(arguments, programFolder, console);
     } catch (const RequestFailure& failure) {
-        return SayTrouble(Sentence(failure), console);
+        return SayTrouble(Sentence(failure, console.language), console);
     } catch (const DrawingFailure& failure) {
-        return SayTrouble(Sentence(failure), console);
+        return SayTrouble(AdvisedSentence(failure, console.language), console);
     } catch (const std::exception& failure) {
         return SayTrouble(failure.what(), console);
     }

@@ -3,6 +3,8 @@
 #include <istream>
 #include <ostream>
 
+#include "words/Words.h"
+
 namespace linewright {
 
 /** What a command reads from and writes to. The streams carry bytes: no line ending is changed. */
@@ -11,6 +13,8 @@ struct Console {
     std::ostream& out;
     std::ostream& err;
     bool isErrTerminal = false;
+    /** Of warnings and refusals, as the plug-in's hints are in the host's locale. */
+    Language language = Language::kEnglish;
 };
 
 /** Exit statuses of the command. */

@@ -4,7 +4,7 @@
 
 #include "cli/Failure.h"
 #include "cli/LineReader.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

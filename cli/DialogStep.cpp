@@ -6,7 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

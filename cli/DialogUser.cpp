@@ -8,10 +8,11 @@
 
 #include "CoreResTypes.h"
 #include "cli/Failure.h"
-#include "requests/HostText.h"
-#include "cli/Utf8.h"
 #include "core/IORTALinewright.h"
+#include "host/runtime/HostText.h"
 #include "host/runtime/Menus.h"
+#include "text/Readable.h"
+#include "text/Utf8.h"
 
 namespace linewright {
 
@@ -47,27 +48,16 @@ std::string HexID(WidgetID id) {
 }
 
 PMString HostTextFrom(const std::string& utf8) {
-    PMString text;
-    for (std::size_t i = 0; i < utf8.size();) {
-        const std::size_t length = Utf8CharacterLength(utf8, i);
-        if (length == 0) throw Failure(fmt::format("byte {} of the text is not UTF-8", i + 1));
-        const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(utf8[i + at]); };
-        UTF32TextChar character = byte(0);
-        if (length > 1) {
-            character &= 0x7FU >> length;
-            for (std::size_t k = 1; k < length; ++k) character = character << 6 | (byte(k) & 0x3FU);
-        }
-        text.AppendW(character);
-        i += length;
-    }
-    return text;
+    if (const auto invalid = FirstInvalidUtf8(utf8))
+        throw Failure(fmt::format("byte {} of the text is not UTF-8", *invalid + 1));
+    return host::PlainText(utf8);
 }
 
 ordered_json ItemsOf(const host::ShownWidget& widget) {
     ordered_json items = ordered_json::array();
     for (int32 i = 0; i < widget.CountItems(); ++i)
         items.push_back(
-            {{"text", Utf8FromHost(widget.GetItem(i))}, {"enabled", widget.IsItemEnabled(i)}});
+            {{"text", host::ToUtf8(widget.GetItem(i))}, {"enabled", widget.IsItemEnabled(i)}});
     return items;
 }
 
@@ -75,15 +65,15 @@ ordered_json StateOf(const host::ShownWidget& widget) {
     ordered_json state{{"id", HexID(widget.GetID())}, {"kind", NameOf(widget.GetKind())}};
     switch (widget.GetKind()) {
         case WidgetKind::kCheckBox:
-            state["text"] = Utf8FromHost(widget.GetText());
+            state["text"] = host::ToUtf8(widget.GetText());
             state["value"] = widget.GetState();
             break;
         case WidgetKind::kPopUp:
-            state["value"] = Utf8FromHost(widget.GetText());
+            state["value"] = host::ToUtf8(widget.GetText());
             state["index"] = widget.GetSelected();
             state["items"] = ItemsOf(widget);
             break;
-        default: state["value"] = Utf8FromHost(widget.GetText());
+        default: state["value"] = host::ToUtf8(widget.GetText());
     }
     state["enabled"] = widget.IsEnabled();
     state["visible"] = widget.IsVisible();
@@ -95,7 +85,7 @@ ordered_json StateOf(const host::ShownDialog& dialog, bool isOpen) {
     for (int32 i = 0; i < dialog.CountWidgets(); ++i)
         widgets.push_back(StateOf(*dialog.GetWidget(i)));
     return {{"dialog", dialog.GetResourceID()},
-            {"title", Utf8FromHost(dialog.GetTitle())},
+            {"title", host::ToUtf8(dialog.GetTitle())},
             {"open", isOpen},
             {"widgets", std::move(widgets)}};
 }
@@ -103,7 +93,7 @@ ordered_json StateOf(const host::ShownDialog& dialog, bool isOpen) {
 bool Choose(host::ShownWidget& widget, const std::string& value) {
     int32 number = -1;
     for (int32 i = 0; i < widget.CountItems(); ++i)
-        if (Utf8FromHost(widget.GetItem(i)) == value) return widget.Choose(i);
+        if (host::ToUtf8(widget.GetItem(i)) == value) return widget.Choose(i);
     const auto parsed = std::from_chars(value.data(), value.data() + value.size(), number);
     const bool isNumber =
         parsed.ec == std::errc() && parsed.ptr == value.data() + value.size() && !value.empty();

@@ -4,11 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/ReadAll.h"
-#include "cli/Words.h"
-#include "cli/WarningWords.h"
+#include "text/FontText.h"
 
 namespace linewright {
 
@@ -28,24 +26,33 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
     return data;
 }
 
-std::string JsonOf(const Outcome& outcome) {
-    std::vector<std::string> warnings;
-    for (const Warning& warning : outcome.Warnings()) warnings.push_back(Sentence(warning));
-    const nlohmann::ordered_json object{
+/** What was made or, of a refusal, why nothing was. */
+std::string JsonOf(const Outcome& outcome, Language language) {
+    nlohmann::ordered_json object{
         {"type", outcome.typeName},
-        {"shortName", outcome.type->shortName},
-        {"status", outcome.status.value()},
-        {"hex", ToHex(outcome.bytes)},
-        {"text", FontText(outcome.bytes)},
-        {"warnings", warnings},
+        {"shortName", outcome.type ? outcome.type->shortName : ""},
+        {"status", nullptr},
     };
+    if (outcome.status) object["status"] = *outcome.status;
+    if (outcome.IsMade()) {
+        object["hex"] = ToHex(outcome.bytes);
+        object["text"] = FontText(outcome.bytes);
+    } else {
+        object["message"] = WhyRefused(outcome, language);
+        object["hint"] = outcome.hint;
+    }
+    object["warnings"] = nlohmann::json::array();
+    for (const Warning& warning : outcome.Warnings()) {
+        object["warnings"].push_back(Sentence(warning, language));
+    }
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-void Print(const Outcome& outcome, EncodeOptions::Form form, std::ostream& out) {
+void Print(const Outcome& outcome, EncodeOptions::Form form, Console& console) {
+    std::ostream& out = console.out;
     switch (form) {
         case EncodeOptions::Form::kText: out << FontText(outcome.bytes) << '\n'; break;
-        case EncodeOptions::Form::kJson: out << JsonOf(outcome) << '\n'; break;
+        case EncodeOptions::Form::kJson: out << JsonOf(outcome, console.language) << '\n'; break;
         case EncodeOptions::Form::kHex: out << ToHex(outcome.bytes) << '\n'; break;
         case EncodeOptions::Form::kRaw: out << outcome.bytes; break;
     }
@@ -59,27 +66,28 @@ BarcodeWish WishOf(const EncodeOptions& options, Console& console) {
         .data = DataOf(options, console.in),
         .isUtf8 = !options.isBytes,
         .checkCharacter = static_cast<uint8>(options.isCheckWanted ? 1 : 0),
-        .ratio = options.ratio,
+        .ratio = options.ratio.value_or(2.0),
         .isStrict = options.isStrict,
     };
 }
 
 void ReportOutcome(const Outcome& outcome, Console& console) {
     for (const Warning& warning : outcome.Warnings()) {
-        console.err << "linewright: warning: " << Sentence(warning) << '\n';
+        console.err << "linewright: warning: " << Sentence(warning, console.language) << '\n';
     }
     if (outcome.IsMade()) return;
     console.err << "linewright: refused"
                 << (outcome.status ? fmt::format(" (status {})", *outcome.status) : "") << ": "
-                << WhyRefused(outcome) << '\n';
+                << WhyRefused(outcome, console.language) << '\n';
 }
 
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
     const Outcome outcome = MakeBarcode(service, WishOf(options, console));
     ReportOutcome(outcome, console);
-    if (!outcome.IsMade()) return kRefused;
-    Print(outcome, options.form, console.out);
-    return kDone;
+    if (outcome.IsMade() || options.form == EncodeOptions::Form::kJson) {
+        Print(outcome, options.form, console);
+    }
+    return outcome.IsMade() ? kDone : kRefused;
 }
 
 }  // namespace linewright

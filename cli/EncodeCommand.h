@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "cli/Console.h"
@@ -14,7 +15,7 @@ struct EncodeOptions {
     /** "-" reads standard input. */
     std::string data;
     bool isCheckWanted = false;
-    double ratio = 2.0;
+    std::optional<double> ratio;
     bool isBytes = false;
     bool isStrict = false;
     Form form = Form::kText;
@@ -27,7 +28,7 @@ BarcodeWish WishOf(const EncodeOptions& options, Console& console);
 void ReportOutcome(const Outcome& outcome, Console& console);
 
 /** Makes one barcode: the font string to standard output, warnings and refusals to standard error,
- *  kRefused for a refusal. */
+ *  kRefused for a refusal, of which the JSON form has an object too. */
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console);
 
 }  // namespace linewright

@@ -7,7 +7,7 @@
 
 #include "cli/Failure.h"
 #include "cli/UserFonts.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {
@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 fs::path FileOf(const std::string& fonts, const BarcodeFace& face) {
-    return PathFromUtf8(fonts) / (std::string(face.fileStem) + ".ttf");
+    return host::PathFromUtf8(fonts) / (std::string(face.fileStem) + ".ttf");
 }
 
 /** The types of a font by their short names, and the size that they are drawn at. */
@@ -57,12 +57,13 @@ ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
             fs::copy_file(file, installed, fs::copy_options::overwrite_existing, error);
         }
         if (error) {
-            throw Failure(fmt::format("{}: cannot be installed as {}: {}", Utf8FromPath(file),
-                                      Utf8FromPath(installed), error.message()));
+            throw Failure(fmt::format("{}: cannot be installed as {}: {}", host::Utf8FromPath(file),
+                                      host::Utf8FromPath(installed), error.message()));
         }
         AnnounceFont(installed, std::string(face->family));
     }
-    console.out << fmt::format("{} fonts in {}\n", kBarcodeFaces.size(), Utf8FromPath(folder));
+    console.out << fmt::format("{} fonts in {}\n", kBarcodeFaces.size(),
+                               host::Utf8FromPath(folder));
     return kDone;
 }
 

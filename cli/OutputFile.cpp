@@ -5,7 +5,8 @@
 #include <system_error>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -15,7 +16,7 @@ namespace {
 
 /** The file itself where the name is a link to one. */
 fs::path TargetOf(const std::string& name) {
-    const fs::path path = PathFromUtf8(name);
+    const fs::path path = host::PathFromUtf8(name);
     std::error_code error;
     fs::path real = fs::canonical(path, error);
     return error ? path : real;

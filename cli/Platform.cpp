@@ -15,7 +15,7 @@
 #include <unistd.h>
 #endif
 
-#include "cli/Utf8.h"
+#include "text/Utf16.h"
 
 namespace linewright {
 
@@ -26,7 +26,8 @@ std::vector<std::string> CommandLineArguments(int, char**) {
     wchar_t** const values = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i) {
-        arguments.push_back(Utf8FromPath(std::filesystem::path(values[i])));
+        const std::wstring_view value = values[i];
+        arguments.push_back(Utf8FromUtf16(std::u16string(value.begin(), value.end())));
     }
     LocalFree(values);
     return arguments;

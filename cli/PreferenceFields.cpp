@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "cli/Failure.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 
 namespace linewright {
 

@@ -5,11 +5,10 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Failure.h"
-#include "cli/FontText.h"
 #include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
-#include "cli/Words.h"
+#include "text/FontText.h"
 
 namespace linewright {
 
@@ -18,6 +17,12 @@ namespace {
 using nlohmann::ordered_json;
 
 constexpr std::size_t kMaxLineLength = 64U << 20;
+
+/** An answer, with the id of its request in front where there is one. */
+std::string LineOf(const ordered_json& answer, const std::string& id) {
+    const std::string object = answer.dump();
+    return id.empty() ? object : fmt::format("{{\"id\":{},{}", id, object.substr(1));
+}
 
 ordered_json AnswerOf(const EncodeAnswer& answer) {
     return {
@@ -42,20 +47,21 @@ ExitStatus RunStream(Service& service, Console& console) {
         const LineReader::Result result = reader.Next(line, kMaxLineLength);
         if (result == LineReader::Result::kEnd) break;
         ++number;
+        std::string id;
         ordered_json answer;
         try {
             if (result == LineReader::Result::kTooLong) {
                 throw Failure(fmt::format("longer than {} bytes", kMaxLineLength));
             }
-            answer = AnswerOf(service.Encode(ParseStreamRequest(line)));
+            answer = AnswerOf(service.Encode(ParseStreamRequest(line, id)));
         } catch (const Failure& failure) {
             answer = ErrorAt(number, failure.what());
             exitStatus = kTrouble;
         } catch (const RequestFailure& failure) {
-            answer = ErrorAt(number, Sentence(failure));
+            answer = ErrorAt(number, Sentence(failure, console.language));
             exitStatus = kTrouble;
         }
-        console.out << answer.dump() << '\n';
+        console.out << LineOf(answer, id) << '\n';
     }
     return exitStatus;
 }

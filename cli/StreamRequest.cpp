@@ -8,7 +8,7 @@
 
 #include "cli/Failure.h"
 #include "cli/Hex.h"
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -16,29 +16,69 @@ namespace {
 
 using nlohmann::json;
 
-/** Stops at the first list or object within a line: a request is flat, and what is nested deeply
- *  costs nothing. */
-bool RefuseNesting(int depth, json::parse_event_t event, json& /*value*/) {
-    if (event == json::parse_event_t::array_start && depth == 0) {
-        throw Failure("a list stands where an object is expected");
-    }
-    const bool isStart =
-        event == json::parse_event_t::array_start || event == json::parse_event_t::object_start;
-    if (isStart && depth > 0) throw Failure("a member is a list or an object; none may be");
-    return true;
-}
+/** Takes the members of a flat object. The first mistake is kept and reading goes on, for the sake
+ *  of an `id` behind it; what is nested, however deeply, costs nothing. */
+class RequestReader : public nlohmann::json_sax<json> {
+  public:
+    json members = json::object();
+    /** The member `id` as JSON text, with a number's digits as they were written. */
+    std::string id;
+    std::string mistake;
 
-json ParseObject(std::string_view line) {
-    try {
-        json object = json::parse(line, RefuseNesting);
-        if (!object.is_object()) throw Failure("no object stands here");
-        return object;
-    } catch (const json::parse_error& error) {
-        throw Failure(fmt::format("no valid JSON from byte {} on", error.byte));
-    } catch (const json::out_of_range&) {
-        throw Failure("a number is too large");
+    bool null() override { return Take(nullptr); }
+    bool boolean(bool value) override { return Take(value); }
+    bool number_integer(json::number_integer_t value) override { return Take(value); }
+    bool number_unsigned(json::number_unsigned_t value) override { return Take(value); }
+    bool number_float(json::number_float_t value, const std::string& digits) override {
+        return Take(value, digits);
     }
-}
+    bool string(std::string& value) override { return Take(std::move(value)); }
+    bool binary(json::binary_t& /*value*/) override { return false; }
+    bool start_object(std::size_t /*size*/) override { return Enter(); }
+    bool end_object() override { return Leave(); }
+    bool start_array(std::size_t /*size*/) override {
+        if (depth == 0) Refuse("a list stands where an object is expected");
+        return Enter();
+    }
+    bool end_array() override { return Leave(); }
+    bool key(std::string& value) override {
+        if (depth == 1) name = value;
+        return true;
+    }
+    bool parse_error(std::size_t position, const std::string& /*token*/,
+                     const json::exception& error) override {
+        const bool isTooLarge = dynamic_cast<const json::out_of_range*>(&error) != nullptr;
+        Refuse(isTooLarge ? "a number is too large"
+                          : fmt::format("no valid JSON from byte {} on", position));
+        return false;
+    }
+
+  private:
+    void Refuse(std::string sentence) {
+        if (mistake.empty()) mistake = std::move(sentence);
+    }
+    bool Enter() {
+        if (depth > 0) Refuse("a member is a list or an object; none may be");
+        ++depth;
+        return true;
+    }
+    bool Leave() {
+        --depth;
+        return true;
+    }
+    bool Take(json value, const std::string& digits = "") {
+        if (depth == 0) Refuse("no object stands here");
+        if (depth != 1) return true;
+        const auto [member, isFirst] = members.emplace(name, std::move(value));
+        if (!isFirst) Refuse(fmt::format("the member \"{}\" stands twice", Readable(name)));
+        if (name != "id") return true;
+        id = !isFirst ? "" : digits.empty() ? member->dump() : digits;
+        return true;
+    }
+
+    std::size_t depth = 0;
+    std::string name;
+};
 
 /** A member's text; nullptr when it is not there. */
 const std::string* TextOf(const json& object, const char* name) {
@@ -83,8 +123,8 @@ bool Utf8FlagOf(const json& value) {
 }
 
 void RefuseUnknownMembers(const json& object) {
-    constexpr std::array<std::string_view, 7> kMembers{"type", "typeHex", "data", "hex",
-                                                       "utf8", "check",   "ratio"};
+    constexpr std::array<std::string_view, 8> kMembers{"type", "typeHex", "data",  "hex",
+                                                       "utf8", "check",   "ratio", "id"};
     for (const auto& [name, value] : object.items()) {
         if (std::find(kMembers.begin(), kMembers.end(), name) == kMembers.end()) {
             throw Failure(fmt::format("there is no member \"{}\"; the members are {}",
@@ -95,8 +135,12 @@ void RefuseUnknownMembers(const json& object) {
 
 }  // namespace
 
-EncodeRequest ParseStreamRequest(std::string_view line) {
-    const json object = ParseObject(line);
+EncodeRequest ParseStreamRequest(std::string_view line, std::string& id) {
+    RequestReader reader;
+    json::sax_parse(line, &reader);
+    id = reader.id;
+    if (!reader.mistake.empty()) throw Failure(reader.mistake);
+    const json& object = reader.members;
     RefuseUnknownMembers(object);
     EncodeRequest request;
     request.typeName = TextOrHex(object, "type", "typeHex").first;

@@ -2,7 +2,7 @@
 
 namespace linewright {
 
-/** Sounds the system's default beep. */
+/** Sounds the system's default beep. Service: no caller of our own. */
 void Beep();
 
 }  // namespace linewright

@@ -25,13 +25,16 @@ bool ReplaceData(DataBlock data, std::string_view text, uint32 blockSize);
 /** ReplaceData as the last step of an encoder: its status, or kInternalError without memory. */
 int16 FinishWith(DataBlock data, std::string_view text, int16 status);
 
+/** Removes leading and trailing spaces. Data made only of spaces stays as it is. */
+bool TrimSpaces(DataBlock data);
+
+// Service: no caller of our own.
+
 /** Puts fill bytes in front until there are `target` bytes. */
 bool PadLeft(DataBlock data, int32 target, uint8 fill);
 /** Puts one fill byte in front when the length is not odd (`wantOdd` non-zero) or even (0). */
 bool PadToParity(DataBlock data, int16 wantOdd, uint8 fill);
 /** Drops the last byte, whatever it is, of data of exactly n + 1 bytes. */
 bool DropExtraLastChar(DataBlock data, uint32 n);
-/** Removes leading and trailing spaces. Data made only of spaces stays as it is. */
-bool TrimSpaces(DataBlock data);
 
 }  // namespace linewright

@@ -12,7 +12,7 @@ namespace linewright {
 namespace {
 
 int16 EncodeByCode(int32 code, const EncoderArguments& arguments) {
-    if (code < 1 || code >= static_cast<int32>(encoders->size())) return kEncoded;
+    if (code >= static_cast<int32>(encoders->size())) return kEncoded;
     const Encoder encoder = (*encoders)[static_cast<std::size_t>(code)];
     return encoder ? static_cast<int16>(encoder(arguments)) : EncodeNotSupported(arguments.data);
 }
@@ -30,10 +30,14 @@ int16 EncodeBarcodeData(uint8** data, const PString& typeName, uint32* length, u
     const DataBlock block{*data, *length};
 
     const int32 code = LookupTypeByName(typeName);
-    const bool isKnown = code > 0;
-    if (isKnown && recognised) *recognised = 1;
+    if (code <= 0) {
+        // No barcode is wanted that could fail: without memory the data keeps its spaces.
+        TrimSpaces(block);
+        return kEncoded;
+    }
+    if (recognised) *recognised = 1;
 
-    const bool convert = isKnown && (options & 0xFF) != 0;
+    const bool convert = (options & 0xFF) != 0;
     const bool prepared = (!convert || ConvertUtf8Data(block)) && TrimSpaces(block);
     const int16 status =
         prepared ? EncodeByCode(code, {block, checkCharacter, ratio, hint, humanReadable})

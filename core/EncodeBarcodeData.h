@@ -22,7 +22,8 @@ namespace linewright {
  * @param humanReadable   receives the text under the bars; may be nullptr
  * @return the status. Without data or a length reference, or with a length but no block, it is
  *         kInternalError and nothing is touched; so it is when memory runs out, and the caller
- *         keeps the data, at most converted and trimmed.
+ *         keeps the data, at most converted and trimmed. An unknown name is kEncoded, the data
+ *         trimmed if there is memory for it.
  */
 int16 EncodeBarcodeData(uint8** data, const PString& typeName, uint32* length, uint64 options,
                         uint16* recognised, uint16 checkCharacter, double ratio, uint16 showAlerts,

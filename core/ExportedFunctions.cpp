@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "core/ScratchRing.h"
+
 char* LinewrightStrrev(char* text) {
     if (!text) return nullptr;
     const std::size_t length = std::strlen(text);
@@ -12,7 +14,9 @@ char* LinewrightStrrev(char* text) {
 
 char* LinewrightStrupr(char* text) {
     if (!text) return nullptr;
-    for (char* c = text; *c; ++c)
-        if (*c >= 'a' && *c <= 'z') *c = static_cast<char>(*c - 'a' + 'A');
+    for (char* c = text; *c; ++c) {
+        const char character = *linewright::MidString(c, 1, 1);
+        if (character >= 'a' && character <= 'z') *c = static_cast<char>(character - 'a' + 'A');
+    }
     return text;
 }

@@ -15,7 +15,7 @@ uint8* AllocConversionBlock(uint32 size);
 void FreeBlock(void* block);
 /** Changes a block's size in place; false, and no change, when it cannot grow there. */
 bool ResizeBlock(void* block, uint32 size);
-/** The size of a block in bytes; 0 for nullptr. */
+/** The size of a block in bytes; 0 for nullptr. Service: no caller of our own. */
 uint32 BlockSize(const void* block);
 
 }  // namespace linewright

@@ -24,7 +24,7 @@ char* MidString(const char* text, int32 position, int32 count) {
     char* const slot = ring.slots[ring.index].data();
     const auto limit =
         static_cast<std::size_t>(std::clamp<int32>(count, 0, static_cast<int32>(kSlotSize) - 1));
-    if (position >= 1 && static_cast<std::size_t>(position) <= std::strlen(text)) {
+    if (position >= 1 && !std::memchr(text, 0, static_cast<std::size_t>(position))) {
         std::strncpy(slot, text + position - 1, limit);
     } else {
         slot[0] = 0;

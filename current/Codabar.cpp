@@ -10,7 +10,7 @@ namespace {
 
 constexpr FrontRule kFront{
     .length = Between(4, 255),
-    .characters = {kDigits, "-$:/.+", "0x122100kLWRBarCodeDataDigitsPlusHint"},
+    .characters = {kDigits, "-$:/.+", hints::kDigitsPlus},
     .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildCodabarCurrent(text, arguments.ratio, "A", "B", symbol);
     }};

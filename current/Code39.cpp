@@ -10,8 +10,7 @@ namespace {
 
 constexpr FrontRule kFront{
     .length = AtMost(255),
-    .characters = {kDigits | kUpperCase, " -.$/+%",
-                   "0x122100kLWRBarCodeDataDigitsUpperCasePlusSpacesHint"},
+    .characters = {kDigits | kUpperCase, " -.$/+%", hints::kUpperCasePlusSpaces},
     .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildCode39Current(text, arguments.ratio, arguments.checkCharacter != 0, symbol);
     }};

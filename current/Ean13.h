@@ -7,9 +7,6 @@ namespace linewright {
 
 // EAN-13 and JAN-13 (ISO/IEC 15420) for the EAN/UPC font.
 
-/** First digit, guard, six digits, centre guard, six digits, guard; a gap and an add-on. */
-constexpr std::size_t kEan13Capacity = 16 + 1 + kAddOnCapacity;
-
 /** Appends the symbol of the digits in the data: 12, or 13 with the check digit, which is not
  *  looked at, and 2 or 5 more for an add-on. Any other number of digits counts as zeros. The result
  *  is kEncoded, or kNoDigits for no data. */

@@ -1,7 +1,6 @@
 #include "current/Ean8.h"
 
 #include "current/Front.h"
-#include "standards/CheckDigits.h"
 
 namespace linewright {
 
@@ -26,17 +25,12 @@ int16 BuildEan8(const char* data, TextArea& symbol) {
     const std::string_view number =
         isComplete ? digits.View().substr(0, kMainLength) : kTooFewDigits;
 
-    symbol.Append(kGuard);
-    for (const char digit : number.substr(0, 4)) symbol.Append(InSet('A', digit));
-    symbol.Append(kCentreGuard);
-    for (const char digit : number.substr(4)) symbol.Append(InSet('C', digit));
-    symbol.Append(InSet('C', Modulo10CheckDigit(number)));
-    symbol.Append(kGuard);
+    AppendEan8(kCurrentRetailAlphabet, number, symbol);
     return kEncoded;
 }
 
 int32 EncodeEan8(const EncoderArguments& arguments) {
-    FixedText<kEan8Capacity> symbol;
+    FixedText<kLongestEan8> symbol;
     return EncodeByRule(kFront, arguments, symbol);
 }
 

@@ -7,9 +7,6 @@ namespace linewright {
 
 // EAN-8 (ISO/IEC 15420) for the EAN/UPC font.
 
-/** Guard, four digits, centre guard, four digits, guard. */
-constexpr std::size_t kEan8Capacity = 11;
-
 /** Appends the symbol of the first 7 digits in the data; fewer count as 0005000. The result is
  *  kEncoded, or kNoDigits for no data. */
 int16 BuildEan8(const char* data, TextArea& symbol);

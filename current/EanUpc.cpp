@@ -1,27 +1,10 @@
 #include "current/EanUpc.h"
 
 #include "core/CharClasses.h"
-#include "standards/CheckDigits.h"
-#include "standards/EanUpcParity.h"
 
 namespace linewright {
 
 namespace {
-
-constexpr char kAddOnStart = '+';
-constexpr char kDelineator = '!';
-constexpr std::string_view kAddOnSetA = "\"#$%&,./:;";
-constexpr std::string_view kAddOnSetB = "z=?@[\\]_{}";
-static_assert(kAddOnSetA.size() == 10 && kAddOnSetB.size() == 10);
-
-std::size_t ValueOf(char digit) {
-    return static_cast<std::size_t>(digit - '0');
-}
-
-std::string_view ParityOf(std::string_view addOn) {
-    if (addOn.size() == 5) return kAddOn5Parity[AddOn5CheckValue(addOn)];
-    return kAddOn2Parity[(10 * ValueOf(addOn[0]) + ValueOf(addOn[1])) % 4];
-}
 
 constexpr std::size_t AddOnLength(std::size_t digitsBehindMain) {
     switch (digitsBehindMain) {
@@ -47,14 +30,13 @@ EanUpcNumber SplitNumber(std::string_view digits, std::size_t mainLength) {
             behind < 2 || addOnLength > 0};
 }
 
-void AppendAddOn(std::string_view addOn, TextArea& symbol) {
-    if (addOn.empty()) return;
-    const std::string_view parity = ParityOf(addOn);
-    for (std::size_t place = 0; place < addOn.size(); ++place) {
-        symbol.Append(place == 0 ? kAddOnStart : kDelineator);
-        const std::string_view set = parity[place] == 'A' ? kAddOnSetA : kAddOnSetB;
-        symbol.Append(set[ValueOf(addOn[place])]);
+EanUpcNumber SplitNumberOrZeros(std::string_view digits, std::size_t mainLength) {
+    constexpr std::string_view kZeros = "000000000000";
+    if (digits.size() >= mainLength) {
+        const EanUpcNumber number = SplitNumber(digits, mainLength);
+        if (number.isKnownLength) return number;
     }
+    return {kZeros.substr(0, mainLength), {}, true};
 }
 
 }  // namespace linewright

@@ -10,10 +10,6 @@ namespace linewright {
 
 namespace {
 
-constexpr const char* kLengthError = "** Barcode Length Error **";
-constexpr const char* kDataError = "** Barcode Data Error **";
-constexpr const char* kProcessError = "** Barcode Process Error **";
-
 /** The longest data, a "0" in front of it and the terminator. */
 using NormalisedText = FixedText<kMaxFrontLength + 2>;
 

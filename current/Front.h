@@ -9,6 +9,7 @@
 #include "core/CharClasses.h"
 #include "core/EncoderTable.h"
 #include "core/FixedText.h"
+#include "core/Refusals.h"
 
 namespace linewright {
 
@@ -43,11 +44,10 @@ struct LengthRule {
 };
 
 constexpr LengthRule AtMost(int32 longest) {
-    return {
-        .hintKey = "0x122100kLWRBarCodeLengthLessThanHint", .first = {longest}, .longest = longest};
+    return {.hintKey = hints::kLessThan, .first = {longest}, .longest = longest};
 }
 constexpr LengthRule Between(int32 shortest, int32 longest) {
-    return {.hintKey = "0x122100kLWRBarCodeLengthBetweenHint",
+    return {.hintKey = hints::kBetween,
             .first = {shortest},
             .second = {longest},
             .shortest = shortest,
@@ -55,7 +55,7 @@ constexpr LengthRule Between(int32 shortest, int32 longest) {
 }
 /** At most so many digits, or one more with the check digit. */
 constexpr LengthRule AtMostOrCheckDigit(int32 longest) {
-    return {.hintKey = "0x122100kLWRBarCodeLengthLessThanOrCheckDigitHint",
+    return {.hintKey = hints::kLessThanOrCheckDigit,
             .first = {longest},
             .second = {longest + 1},
             .longest = longest + 1,
@@ -63,7 +63,7 @@ constexpr LengthRule AtMostOrCheckDigit(int32 longest) {
 }
 /** One of these lengths, or one of those with the check digit. */
 constexpr LengthRule OneOf(Numbers lengths, Numbers withCheckDigit) {
-    return {.hintKey = "0x122100kLWRBarCodeLengthMustBeHint",
+    return {.hintKey = hints::kMustBe,
             .first = lengths,
             .second = withCheckDigit,
             .checkDigitAt = withCheckDigit};
@@ -76,7 +76,7 @@ struct CharacterRule {
     const char* hintKey;  // nullptr: every byte is allowed
 };
 
-constexpr CharacterRule kDigitsOnly{kDigits, nullptr, "0x122100kLWRBarCodeDataDigitsOnlyHint"};
+constexpr CharacterRule kDigitsOnly{kDigits, nullptr, hints::kDigitsOnly};
 constexpr CharacterRule kEveryByte{0, nullptr, nullptr};
 
 /** How a symbology's data is examined and normalised, and what makes the symbol of it. */

@@ -10,8 +10,8 @@ namespace linewright {
 /** A letter for the start, four for each digit and for the check digit, two for the stop. */
 constexpr std::size_t kMsiCapacity = 1 + 4 * (kMaxBuilderText + 1) + 2;
 
-/** The modulo-10 check digit of the digits in a text, as a C string that stays valid until the next
- *  call. Main thread only. */
+/** Service, no caller of our own: the modulo-10 check digit of the digits in a text, as a C string
+ *  that stays valid until the next call. Main thread only. */
 const char* MsiCheckDigit(const char* digits);
 
 /** Appends the symbol of the digits in the data; kEncoded, kNoData, or kEmptyData where there is no

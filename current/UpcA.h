@@ -10,16 +10,10 @@ namespace linewright {
 /** Digits of the number without its check digit. */
 constexpr std::size_t kUpcALength = 11;
 
-/** First digit, guard, six digits, centre guard, six digits, guard, last digit; an add-on. */
-constexpr std::size_t kUpcACapacity = 17 + kAddOnCapacity;
-
 /** Appends the symbol of the digits in the data: 11, or 12 with the check digit, which is not
  *  looked at, and 2 or 5 more for an add-on. Any other number of digits counts as zeros. The result
  *  is kEncoded, or kNoDigits for no data. */
 int16 BuildUpcA(const char* data, TextArea& symbol);
-
-/** Appends the symbol of 11 digits, without an add-on. */
-void AppendUpcA(std::string_view number, char rightGuard, TextArea& symbol);
 
 /** The type's encoder: 11, 13 or 16 digits, or 12, 14 or 17. Then the last one is dropped, also
  *  where it belongs to an add-on. */

@@ -1,7 +1,6 @@
 #include "current/UpcE.h"
 
-#include <array>
-#include <optional>
+#include <algorithm>
 
 #include "current/BuilderText.h"
 #include "current/Front.h"
@@ -12,6 +11,8 @@
 namespace linewright {
 
 namespace {
+
+constexpr const RetailAlphabet& kAlphabet = kCurrentRetailAlphabet;
 
 constexpr std::size_t kMaxText = 20;
 
@@ -30,40 +31,17 @@ void ExpandNumber(EanUpcDigits& digits) {
     digits.Append({expanded.data(), expanded.size()});
 }
 
-using SixDigits = std::array<char, 6>;
-
-/** What `six` must be, its last digit given, if the manufacturer and product digits are its
- *  expansion. */
-SixDigits ReadBack(std::string_view expanded, char last) {
-    SixDigits six{};
-    const std::string_view places = kUpcEExpansion[static_cast<std::size_t>(last - '0')];
-    for (std::size_t index = 0; index < places.size(); ++index)
-        if (places[index] != '0')
-            six[static_cast<std::size_t>(places[index] - '1')] = expanded[index];
-    six[5] = last;
-    return six;
-}
-
-/** The first six digits, by the last of them, that expand to these manufacturer and product digits;
- *  none when zeros cannot be suppressed. */
-std::optional<SixDigits> SuppressZeros(std::string_view expanded) {
-    for (char last = '0'; last <= '9'; ++last) {
-        const SixDigits six = ReadBack(expanded, last);
-        if (UpcEExpandsTo({six.data(), six.size()}, expanded)) return six;
-    }
-    return std::nullopt;
-}
-
-void AppendSuppressed(char numberSystem, const SixDigits& six, char checkDigit, TextArea& symbol) {
-    const std::string_view parity = kUpcEParity[static_cast<std::size_t>(checkDigit - '0')];
-    symbol.Append(BesideSymbol(numberSystem == '0' ? '0' : '1'));
-    symbol.Append(kGuard);
-    for (std::size_t place = 0; place < six.size(); ++place) {
-        const char set = numberSystem == '1' ? OppositeNumberSet(parity[place]) : parity[place];
-        symbol.Append(InSet(set, six[place]));
-    }
-    symbol.Append(kSpecialGuard);
-    symbol.Append(BesideSymbol(checkDigit));
+/** Any number system but 0 is printed as 1; the number sets of 1 are only those of 1 itself. */
+void AppendSuppressed(const EanUpcNumber& number, std::string_view six, TextArea& symbol) {
+    const char numberSystem = number.main[0];
+    const char checkDigit = Modulo10CheckDigit(number.main);
+    const auto numberSets = UpcENumberSets(numberSystem, checkDigit);
+    AppendUpcE(kAlphabet,
+               {.numberSystem = numberSystem == '0' ? '0' : '1',
+                .six = six,
+                .numberSets = {numberSets.data(), numberSets.size()},
+                .checkDigit = checkDigit},
+               number.addOn, symbol);
 }
 
 }  // namespace
@@ -77,17 +55,17 @@ int16 BuildUpcE(const char* data, TextArea& symbol) {
 
     const EanUpcNumber number = SplitNumber(digits.View(), kUpcALength);
     if (!number.isKnownLength && digits.View().size() != 18) return kEncoded;
-    if (const auto six = SuppressZeros(number.main.substr(1))) {
-        AppendSuppressed(number.main[0], *six, Modulo10CheckDigit(number.main), symbol);
+    if (const auto six = SuppressUpcE(number.main.substr(1))) {
+        AppendSuppressed(number, {six->data(), six->size()}, symbol);
     } else {
-        AppendUpcA(number.main, kSpecialGuard, symbol);
+        AppendUpcA(kAlphabet, number.main, number.addOn, kAlphabet.upcERightGuard, symbol);
     }
-    AppendAddOn(number.addOn, symbol);
     return kEncoded;
 }
 
 int32 EncodeUpcECurrent(const EncoderArguments& arguments) {
-    FixedText<kUpcECapacity> symbol;
+    // A number that no zeros can be left out of is written as long as UPC-A.
+    FixedText<std::max(kLongestUpcA, kLongestUpcE)> symbol;
     return EncodeByRule(kFront, arguments, symbol);
 }
 

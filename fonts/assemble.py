@@ -1,28 +1,43 @@
 """A font file from a design, with fontTools; the same design gives the same bytes."""
 
+import re
 from array import array
 
 from design import Bar, Glyph, Level
 from fontTools.fontBuilder import FontBuilder
+from fontTools.ttLib import newTable
 from fontTools.ttLib.tables._g_l_y_f import Glyph as FileGlyph
 from fontTools.ttLib.tables._g_l_y_f import GlyphCoordinates
 from fontTools.ttLib.tables.ttProgram import Program
 from fontTools.ttLib.tables.TupleVariation import TupleVariation
 
-VERSION = "1.000"
 # Seconds since 1904, as the head table counts: 1 January 2024.
 CREATED = 3786912000
 
 HEIGHT_AXIS = ("BHGT", 25, 100, 400, "Bar Height")
 REDUCTION_AXIS = ("BWRD", 0, 0, 25, "Bar Width Reduction")
+NAMED_REDUCTIONS = {f"Reduction {percent}": percent for percent in (5, 10, 15, 20, 25)}
+
+# What a layout program may make of a character as it is typed. No font has a byte of its own there.
+TYPESET_FORMS = {" ": "\u00a0", '"': "\u201c\u201d", "'": "\u2018\u2019", "-": "\u2011"}
+
+# A family of symbols, of the kind "industry specific"; all else is open.
+OPEN = "bWeight bProportion bContrast bStrokeVariation bArmStyle bLetterForm bMidline bXHeight"
+PANOSE = {"bFamilyType": 5, "bSerifStyle": 12, **dict.fromkeys(OPEN.split(), 0)}
+
+# Windows knows a family by no more of its name.
+LONGEST_FAMILY = 31
 
 
-def assemble(design, path, variable=False):
+def assemble(design, version, path, variable=False):
     glyphs = [_notdef(design)] + design.glyphs
     names = [glyph.name for glyph in glyphs]
     builder = FontBuilder(design.unitsPerEm, isTTF=True)
     builder.setupHead(
-        unitsPerEm=design.unitsPerEm, created=CREATED, modified=CREATED, fontRevision=float(VERSION)
+        unitsPerEm=design.unitsPerEm,
+        created=CREATED,
+        modified=CREATED,
+        fontRevision=float(revision(version)),
     )
     builder.setupGlyphOrder(names)
     builder.setupCharacterMap(character_map(design.glyphOfByte))
@@ -32,14 +47,23 @@ def assemble(design, path, variable=False):
         {glyph.name: (glyph.advance, _left(table, glyph)) for glyph in glyphs}
     )
     builder.setupHorizontalHeader(ascent=design.ascent, descent=0, lineGap=0)
-    builder.setupNameTable(_names(design, variable))
+    builder.setupNameTable(_names(design, version, variable))
     _setup_os2(builder, design)
-    builder.setupPost()
+    _setup_post(builder, design)
+    _setup_gasp(builder)
     if design.features:
         builder.addOpenTypeFeatures(design.features)
     if variable:
-        _setup_variations(builder, glyphs, design.narrowBar)
+        _setup_variations(builder, glyphs, design)
     builder.save(path)
+
+
+def revision(version):
+    """The decimal that a font file counts by: 1.2.3 is 1.0203."""
+    parts = re.fullmatch(r"(\d+)\.(\d{1,2})\.(\d{1,2})", version)
+    if not parts:
+        raise ValueError(f'"{version}" is no version such as 1.2.3')
+    return f"{parts[1]}.{parts[2]:0>2}{parts[3]:0>2}"
 
 
 def character_map(glyphOfByte):
@@ -56,7 +80,7 @@ def code_points(byte):
     if byte == 127:
         return [0x2421, private]
     if byte < 127:
-        return [byte]
+        return [byte, *map(ord, TYPESET_FORMS.get(chr(byte), ""))]
     windows = bytes([byte]).decode("cp1252", "ignore")
     return sorted({byte, private, *map(ord, windows)})
 
@@ -96,17 +120,27 @@ def _left(table, glyph):
     return getattr(table[glyph.name], "xMin", 0)
 
 
-def _names(design, variable):
+def _names(design, version, variable):
     family = design.family + (" Variable" if variable else "")
-    postScript = family.replace(" ", "") + "-Regular"
-    return {
+    postScriptFamily = file_stem(family)
+    names = {
         "familyName": family,
         "styleName": "Regular",
-        "uniqueFontIdentifier": f"{VERSION};{postScript}",
+        "uniqueFontIdentifier": f"{version};{postScriptFamily}-Regular",
         "fullName": family,
-        "version": f"Version {VERSION}",
-        "psName": postScript,
+        "version": f"Version {revision(version)}; Linewright {version}",
+        "psName": f"{postScriptFamily}-Regular",
+        "manufacturer": "Linewright",
+        "description": f"Draws the strings that Linewright makes for {design.use}. Font size: "
+        f"{design.size}. Set without tracking, hyphenation and typographer's quotes.",
     }
+    if len(family) > LONGEST_FAMILY:
+        names["familyName"] = design.family + " VF"
+        names["typographicFamily"] = family
+        names["typographicSubfamily"] = "Regular"
+    if variable:
+        names["variationsPostScriptNamePrefix"] = postScriptFamily
+    return names
 
 
 def _setup_os2(builder, design):
@@ -117,6 +151,7 @@ def _setup_os2(builder, design):
         fsType=0,
         fsSelection=regular | useTypoMetrics,
         achVendID="LWR ",
+        panose=PANOSE,
         sTypoAscender=design.ascent,
         sTypoDescender=0,
         sTypoLineGap=0,
@@ -130,19 +165,42 @@ def _setup_os2(builder, design):
     os2.recalcAvgCharWidth(builder.font)
 
 
-def _setup_variations(builder, glyphs, narrowBar):
-    builder.setupFvar([HEIGHT_AXIS, REDUCTION_AXIS], [])
+def _setup_post(builder, design):
+    """The underline is a thirty-second of an em thick, and as far below all bars."""
+    line = design.unitsPerEm // 32
+    builder.setupPost(underlinePosition=-line, underlineThickness=line)
+
+
+def _setup_gasp(builder):
+    """At all sizes: edges are smoothed, and none is moved to a pixel."""
+    smoothed, smoothedBothWays = 2, 8
+    table = builder.font["gasp"] = newTable("gasp")
+    table.version = 1
+    table.gaspRange = {0xFFFF: smoothed | smoothedBothWays}
+
+
+def _setup_variations(builder, glyphs, design):
+    axes = {HEIGHT_AXIS: design.heights, REDUCTION_AXIS: NAMED_REDUCTIONS}
+    usual = {tag: default for tag, _, default, _, _ in axes}
+    instances = [{"stylename": "Regular", "location": usual}]
+    instances += [
+        {"stylename": name, "location": {**usual, axis[0]: value}}
+        for axis, named in axes.items()
+        for name, value in named.items()
+    ]
+    builder.setupFvar(list(axes), instances)
     builder.setupStat(
         [
             {
                 "tag": tag,
-                "name": name,
-                "values": [{"value": default, "name": "Regular", "flags": 2}],
+                "name": axisName,
+                "values": [{"value": default, "name": "Regular", "flags": 2}]
+                + [{"value": value, "name": name} for name, value in named.items()],
             }
-            for tag, _, default, _, name in (HEIGHT_AXIS, REDUCTION_AXIS)
+            for (tag, _, default, _, axisName), named in axes.items()
         ]
     )
-    builder.setupGvar({glyph.name: _variations(glyph, narrowBar) for glyph in glyphs})
+    builder.setupGvar({glyph.name: _variations(glyph, design.narrowBar) for glyph in glyphs})
 
 
 def _variations(glyph, narrowBar):

@@ -16,13 +16,15 @@ from assemble import assemble, file_stem  # noqa: E402
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--out", type=Path, required=True, help="the folder that gets the fonts")
-    folder = parser.parse_args().out
+    parser.add_argument("--version", required=True, help="major.minor.patch")
+    arguments = parser.parse_args()
+    folder, version = arguments.out, arguments.version
     (folder / "variable").mkdir(parents=True, exist_ok=True)
     for group in (width_fonts, retail_fonts, postal_fonts):
         for design in group.designs():
             stem = file_stem(design.family)
-            assemble(design, folder / f"{stem}.ttf")
-            assemble(design, folder / "variable" / f"{stem}-Variable.ttf", variable=True)
+            assemble(design, version, folder / f"{stem}.ttf")
+            assemble(design, version, folder / "variable" / f"{stem}-Variable.ttf", variable=True)
 
 
 if __name__ == "__main__":

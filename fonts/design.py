@@ -54,13 +54,19 @@ class Glyph:
 
 @dataclass
 class FontDesign:
+    """`use` and `size` are words of the font's description; `heights` are the bar heights that have
+    a name in the variable font, in per cent."""
+
     family: str
+    use: str
+    size: str
     unitsPerEm: int
     narrowBar: int
     ascent: int
     glyphs: list
     glyphOfByte: dict
     features: str = ""
+    heights: dict = field(default_factory=lambda: {"Half Height": 50, "Double Height": 200})
 
 
 def bars_of(widths, module, bottom, top, beginsWithBar=True, start=0):

@@ -36,25 +36,36 @@ def designs():
 def postal():
     extents = {letter: [extent] for letter, extent in FOUR_STATES.items()}
     extents.update({letter: _postnet(bars) for letter, bars in BAR_PAIRS.items()})
-    return _design("Linewright Postal", extents)
+    return _design("Linewright Postal", "Intelligent Mail and current Postnet", extents)
 
 
 def classic_postnet():
     extents = {str(digit): _postnet(bars) for digit, bars in enumerate(postnet_bars())}
     extents["/"] = _postnet("1")
-    return _design("Linewright Classic Postnet", extents)
+    return _design("Linewright Classic Postnet", "classic Postnet", extents)
 
 
 def _postnet(bars):
     return [(BASE, TALL if bar == "1" else SHORT) for bar in bars]
 
 
-def _design(family, extents):
+def _design(family, use, extents):
+    """No height but the post's own has a name."""
     glyphs = [_glyph(f"byte{ord(character):03}", extent) for character, extent in extents.items()]
     glyphs.append(Glyph("space", PITCH))
     glyphOfByte = {ord(character): f"byte{ord(character):03}" for character in extents}
     glyphOfByte[ord(" ")] = "space"
-    return FontDesign(family, UNITS_PER_EM, BAR, UNITS_PER_EM, glyphs, glyphOfByte)
+    return FontDesign(
+        family,
+        use,
+        "11.5 pt",
+        UNITS_PER_EM,
+        narrowBar=BAR,
+        ascent=UNITS_PER_EM,
+        glyphs=glyphs,
+        glyphOfByte=glyphOfByte,
+        heights={},
+    )
 
 
 def _glyph(name, extents):

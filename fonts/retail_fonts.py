@@ -1,8 +1,8 @@
 """Linewright EAN UPC and Linewright Classic EAN UPC: digits with their text, guards and add-ons.
 
 A hundred and twenty-eight modules make an em, high enough for all of a symbol. In modules above the
-baseline, which is that of the text: guards reach down to 4, digits' bars to 9, all bars up to 78.
-Add-on bars go from 4 to 69 with their text above them.
+baseline, which is that of the text: guards reach down to 4, digits' bars to 9, and these are of
+the height that ISO/IEC 15420 gives. Add-on bars stand on 4 with their text above them.
 """
 
 from design import FontDesign, Glyph, Level, bars_of, placed
@@ -22,12 +22,18 @@ UNITS_PER_EM = 4096
 MODULE = UNITS_PER_EM // 128
 GUARD_BOTTOM = Level(fixed=4 * MODULE)
 BAR_BOTTOM = Level(fixed=9 * MODULE)
-BAR_TOP = Level(fixed=9 * MODULE, stretch=69 * MODULE)
-ADD_ON_TOP = Level(fixed=0, stretch=69 * MODULE)
+# 22.85 mm, an add-on's bars 21.90 mm, EAN-8's 18.23 mm, with a module of 0.33 mm.
+BAR_HEIGHT = 2216
+ADD_ON_HEIGHT = 2124
+EAN8_HEIGHT = 1768
+BAR_TOP = Level(fixed=BAR_BOTTOM.fixed, stretch=BAR_HEIGHT)
+# What the height axis adds to the bars of digits it adds to those of add-ons.
+ADD_ON_TOP = Level(fixed=GUARD_BOTTOM.fixed + ADD_ON_HEIGHT - BAR_HEIGHT, stretch=BAR_HEIGHT)
 TEXT_LINE = Level()
 TEXT_HEIGHT = 8.25 * MODULE
 TEXT_STROKE = MODULE
-ADD_ON_TEXT_LINE = Level(fixed=round(0.75 * MODULE), stretch=69 * MODULE)
+ADD_ON_TEXT_LINE = ADD_ON_TOP._replace(fixed=ADD_ON_TOP.fixed + MODULE // 2)
+ASCENT = ADD_ON_TEXT_LINE.height + round(TEXT_HEIGHT)
 DIGIT_WIDTH = 7
 
 
@@ -58,7 +64,10 @@ def ean_upc():
         _glyph("addOnGuard", ADD_ON_GUARD, GUARD_BOTTOM, ADD_ON_TOP),
         Glyph("space", 9 * MODULE),
     ]
-    return _design("Linewright EAN UPC", glyphs, characters)
+    use = "current EAN-13, JAN-13, EAN-8, UPC-A and UPC-E"
+    design = _design("Linewright EAN UPC", use, glyphs, characters)
+    design.heights["EAN-8"] = 100 * EAN8_HEIGHT / BAR_HEIGHT
+    return design
 
 
 def classic_ean_upc():
@@ -86,7 +95,8 @@ def classic_ean_upc():
     glyphs = _symbol_glyphs() + _outer_glyphs(advance=3, height=4, stroke=0.6, fullAt=-3)
     glyphs.append(_glyph("addOnGuard", ADD_ON_GUARD, GUARD_BOTTOM, ADD_ON_TOP, gap=7))
     glyphs.append(Glyph("space", DIGIT_WIDTH * MODULE))
-    return _design("Linewright Classic EAN UPC", glyphs, characters)
+    use = "classic EAN-13, JAN-13, UPC-A and UPC-E"
+    return _design("Linewright Classic EAN UPC", use, glyphs, characters)
 
 
 def _run(name, first):
@@ -97,10 +107,18 @@ def _named(name, characters):
     return {character: f"{name}{value}" for value, character in enumerate(characters)}
 
 
-def _design(family, glyphs, characters):
+def _design(family, use, glyphs, characters):
     glyphOfByte = {ord(character): name for character, name in characters.items()}
     return FontDesign(
-        family, UNITS_PER_EM, MODULE, BAR_TOP.height, glyphs, glyphOfByte, _FULL_SIZE_FIRST_DIGIT
+        family,
+        use,
+        "128 times the X-dimension",
+        UNITS_PER_EM,
+        narrowBar=MODULE,
+        ascent=ASCENT,
+        glyphs=glyphs,
+        glyphOfByte=glyphOfByte,
+        features=_FULL_SIZE_FIRST_DIGIT,
     )
 
 

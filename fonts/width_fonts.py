@@ -40,7 +40,8 @@ def bars():
         for space in range(4)
     }
     pairs.update({"W": (1, 1), "X": (1, 2.5), "Y": (2.5, 1), "Z": (2.5, 2.5)})
-    return _design("Linewright Bars", pairs)
+    use = "current Code 128, Code 39, Codabar, Interleaved 2 of 5 and MSI Plessey"
+    return _design("Linewright Bars", use, pairs)
 
 
 def classic_code128():
@@ -50,8 +51,7 @@ def classic_code128():
     ]
     glyphs.append(_glyph("stop", map(int, CODE128_STOP_WIDTHS)))
     glyphs.append(Glyph("space", 11 * MODULE))
-    family = "Linewright Classic Code 128"
-    return FontDesign(family, UNITS_PER_EM, MODULE, UNITS_PER_EM, glyphs, _code128_bytes())
+    return _font("Linewright Classic Code 128", "classic Code 128", glyphs, _code128_bytes())
 
 
 def _code128_bytes():
@@ -74,7 +74,7 @@ def classic_code39():
     }
     elements["!"] = elements.pop(" ")
     elements["#"] = elements["*"]
-    return _design("Linewright Classic Code 39", elements, space=16)
+    return _design("Linewright Classic Code 39", "classic Code 39", elements, space=16)
 
 
 def classic_codabar():
@@ -82,35 +82,46 @@ def classic_codabar():
     elements = {
         character: _widths(pattern + "n") for character, pattern in CODABAR_PATTERNS.items()
     }
-    return _design("Linewright Classic Codabar", elements)
+    return _design("Linewright Classic Codabar", "classic Codabar", elements)
 
 
 def classic_i2of5():
     """One letter is one bar and one space, as the digit pairs interleave."""
     patterns = {"A": "nn", "B": "nw", "C": "wn", "D": "ww", "<": "nnnn", ">": "wnn"}
-    return _design(
-        "Linewright Classic I2of5", {key: _widths(value) for key, value in patterns.items()}
-    )
+    elements = {key: _widths(value) for key, value in patterns.items()}
+    return _design("Linewright Classic I2of5", "classic Interleaved 2 of 5", elements)
 
 
 def classic_msi():
     patterns = {str(digit): msi_pattern(digit) for digit in range(10)}
     patterns.update({"<": "wn", ">": "nwn"})
-    return _design(
-        "Linewright Classic MSI", {key: _widths(value) for key, value in patterns.items()}
-    )
+    elements = {key: _widths(value) for key, value in patterns.items()}
+    return _design("Linewright Classic MSI", "classic MSI Plessey", elements)
 
 
 def _widths(pattern):
     return [WIDE if element == "w" else 1 for element in pattern]
 
 
-def _design(family, elements, space=QUIET_ZONE):
+def _design(family, use, elements, space=QUIET_ZONE):
     glyphs = [_glyph(f"byte{ord(character):03}", widths) for character, widths in elements.items()]
     glyphs.append(Glyph("space", space * MODULE))
     glyphOfByte = {ord(character): f"byte{ord(character):03}" for character in elements}
     glyphOfByte[ord(" ")] = "space"
-    return FontDesign(family, UNITS_PER_EM, MODULE, UNITS_PER_EM, glyphs, glyphOfByte)
+    return _font(family, use, glyphs, glyphOfByte)
+
+
+def _font(family, use, glyphs, glyphOfByte):
+    return FontDesign(
+        family,
+        use,
+        "32 times the X-dimension",
+        UNITS_PER_EM,
+        narrowBar=MODULE,
+        ascent=UNITS_PER_EM,
+        glyphs=glyphs,
+        glyphOfByte=glyphOfByte,
+    )
 
 
 def _glyph(name, widths):

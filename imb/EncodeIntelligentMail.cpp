@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/CharClasses.h"
+#include "core/Refusals.h"
 #include "core/ReplaceMarkers.h"
 #include "core/Status.h"
 #include "imb/ImbBarMap.h"
@@ -11,34 +12,28 @@ namespace linewright {
 
 namespace {
 
-constexpr std::size_t kTrackingLength = 20;
-constexpr std::size_t kLongestRouting = 11;
-constexpr int32 kShortestData = kTrackingLength;
-constexpr int32 kLongestData = kTrackingLength + kLongestRouting;
+constexpr int32 kShortestData = kImbTrackingLength;
+constexpr int32 kLongestData = kImbTrackingLength + kImbLongestRouting;
 
 constexpr const char* kBadRoutingLength =
     "The Routing String is an invalid length. Must be 0, 5, 9, or 11 characters in length and "
     "contain all digits.";
 
-constexpr bool IsRoutingLength(std::size_t length) {
-    return length == 0 || length == 5 || length == 9 || length == kLongestRouting;
-}
-
 int16 RefuseLength(DataBlock data, PMString* message) {
     if (message) {
-        message->SetKey("0x122100kLWRBarCodeLengthBetweenHint");
+        message->SetKey(hints::kBetween);
         PMString shortest;
         PMString longest;
         shortest.AsNumber(kShortestData);
         longest.AsNumber(kLongestData);
         ReplaceMarkers(*message, &shortest, &longest);
     }
-    return FinishWith(data, "** Barcode Length Error **", kBadLength);
+    return FinishWith(data, kLengthError, kBadLength);
 }
 
 int16 RefuseCharacters(DataBlock data, PMString* message) {
-    if (message) message->SetKey("0x122100kLWRBarCodeDataDigitsOnlyHint");
-    return FinishWith(data, "** Barcode Data Error **", kInvalidData);
+    if (message) message->SetKey(hints::kDigitsOnly);
+    return FinishWith(data, kDataError, kInvalidData);
 }
 
 /** The only refusal that leaves the data alone. */
@@ -48,17 +43,17 @@ int16 RefuseRouting(PMString* message) {
 }
 
 int16 EncodeDigits(DataBlock data, PMString* message) {
-    std::array<char, kTrackingLength + 1> tracking{};
-    std::array<char, kLongestRouting + 1> routing{};
-    data.View().copy(tracking.data(), kTrackingLength);
-    data.View().substr(kTrackingLength).copy(routing.data(), kLongestRouting);
+    std::array<char, kImbTrackingLength + 1> tracking{};
+    std::array<char, kImbLongestRouting + 1> routing{};
+    data.View().copy(tracking.data(), kImbTrackingLength);
+    data.View().substr(kImbTrackingLength).copy(routing.data(), kImbLongestRouting);
 
     std::array<char, kImbBarCount + 1> bars{};
     const ImbResult result = ImbEncode(tracking.data(), routing.data(), bars.data());
     if (result == USPS_FSB_ENCODER_API_SUCCESS)
         return FinishWith(data, {bars.data(), kImbBarCount}, kEncoded);
     if (message) message->SetCString(ImbErrorMessage(result));
-    return FinishWith(data, "** Barcode Process Error **", kInternalError);
+    return FinishWith(data, kProcessError, kInternalError);
 }
 
 }  // namespace
@@ -69,7 +64,7 @@ int16 EncodeIntelligentMail(DataBlock data, PMString* message, PMString* humanRe
     if (!IsInRange(length, kShortestData, kLongestData)) return RefuseLength(data, message);
     if (!CheckCharClasses(data.bytes, length, kDigits, nullptr))
         return RefuseCharacters(data, message);
-    if (!IsRoutingLength(data.length - kTrackingLength)) return RefuseRouting(message);
+    if (!IsImbRoutingLength(data.length - kImbTrackingLength)) return RefuseRouting(message);
 
     const std::string_view digits = data.View();
     if (humanReadable) humanReadable->SetString(digits.data(), length);

@@ -10,7 +10,8 @@ inline constexpr std::size_t kImbCharacterCount = 10;
 inline constexpr std::size_t kImbBitsPerCharacter = 13;
 inline constexpr std::size_t kImbBarCount = 65;
 
-/// A place in the ten characters A to J: the character's index (0 to 9) and a bit of it (0 to 12).
+/** A place in the ten characters A to J: the character's index (0 to 9) and a bit of it (0 to
+ *  12). */
 struct ImbBit {
     std::uint8_t character;
     std::uint8_t bit;
@@ -18,7 +19,7 @@ struct ImbBit {
     constexpr bool operator==(const ImbBit&) const = default;
 };
 
-/// The two places that decide whether a bar reaches down and whether it reaches up.
+/** The two places that decide whether a bar reaches down and whether it reaches up. */
 struct ImbBar {
     ImbBit descender;
     ImbBit ascender;
@@ -26,7 +27,7 @@ struct ImbBar {
     constexpr bool operator==(const ImbBar&) const = default;
 };
 
-/// USPS-B-3200, bar-to-character mapping: one row per bar, from left to right.
+/** USPS-B-3200, bar-to-character mapping: one row per bar, from left to right. */
 inline constexpr std::array<ImbBar, kImbBarCount> kImbBarMap{{
     // clang-format off
     // descender, ascender
@@ -105,7 +106,7 @@ inline constexpr std::array<ImbBar, kImbBarCount> kImbBarMap{{
     // clang-format on
 }};
 
-/// Whether every bit of every character decides exactly one half of one bar.
+/** Whether every bit of every character decides exactly one half of one bar. */
 constexpr bool ImbBarMapUsesEachBitOnce() {
     std::array<bool, kImbCharacterCount * kImbBitsPerCharacter> used{};
     for (const ImbBar& bar : kImbBarMap) {

@@ -7,13 +7,11 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/CharClasses.h"
 #include "imb/ImbBarMap.h"
 
 namespace linewright {
 namespace {
-
-constexpr std::size_t kTrackingLength = 20;
-constexpr std::size_t kLongestRouting = 11;
 
 constexpr std::uint32_t kCharacterBits = 0x1FFF;
 constexpr std::uint32_t kCodewordARange = 659;
@@ -23,7 +21,7 @@ constexpr std::uint32_t kCodewordJRange = 636;
 using Codewords = std::array<std::uint32_t, kImbCharacterCount>;
 using Characters = std::array<std::uint32_t, kImbCharacterCount>;
 
-/// A character table, built on first use.
+/** A character table, built on first use. */
 template <int kBitCount, int kLength>
 struct CharacterTable {
     std::array<std::uint32_t, kLength> entries{};
@@ -39,26 +37,18 @@ constinit CharacterTable<5, 1287> fiveOf13;
 constinit CharacterTable<2, 78> twoOf13;
 constinit bool selfTestPassed = false;
 
-/// The text, or as much of it as shows that it is longer than `limit`.
+/** The text, or as much of it as shows that it is longer than `limit`. */
 std::string_view Bounded(const char* text, std::size_t limit) {
     std::size_t length = 0;
     while (length <= limit && text[length] != '\0') ++length;
     return {text, length};
 }
 
-bool IsDigits(std::string_view text) {
-    return text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-bool IsRoutingLength(std::size_t length) {
-    return length == 0 || length == 5 || length == 9 || length == 11;
-}
-
 std::uint32_t DigitValue(char digit) {
     return static_cast<std::uint32_t>(digit - '0');
 }
 
-/// Numbers the routing codes through: none is 0, then come those of 5, of 9 and of 11 digits.
+/** Numbers the routing codes through: none is 0, then come those of 5, of 9 and of 11 digits. */
 std::uint64_t RoutingValue(std::string_view routing) {
     std::uint64_t value = 0;
     for (const char digit : routing) value = value * 10 + DigitValue(digit);
@@ -77,7 +67,7 @@ void MultiplyAdd(ImbBinaryValue& value, std::uint32_t factor, std::uint64_t summ
     }
 }
 
-/// Divides the value in place and returns the remainder.
+/** Divides the value in place and returns the remainder. */
 std::uint32_t DivideBy(ImbBinaryValue& value, std::uint32_t divisor) {
     std::uint32_t remainder = 0;
     for (std::uint8_t& byte : value) {
@@ -97,7 +87,7 @@ ImbBinaryValue BinaryValue(std::string_view tracking, std::string_view routing) 
     return value;
 }
 
-/// Codewords A to J. The frame check sequence's bit 10 goes into codeword A.
+/** Codewords A to J. The frame check sequence's bit 10 goes into codeword A. */
 ImbResult MakeCodewords(ImbBinaryValue value, std::uint32_t frameCheckSequence,
                         Codewords& codewords) {
     codewords.back() = DivideBy(value, kCodewordJRange);
@@ -113,7 +103,7 @@ ImbResult MakeCodewords(ImbBinaryValue value, std::uint32_t frameCheckSequence,
     return USPS_FSB_ENCODER_API_SUCCESS;
 }
 
-/// Characters A to J. The frame check sequence's bits 0 to 9 turn them into their complements.
+/** Characters A to J. The frame check sequence's bits 0 to 9 turn them into their complements. */
 ImbResult MakeCharacters(const Codewords& codewords, std::uint32_t frameCheckSequence,
                          Characters& characters) {
     for (std::size_t index = 0; index < codewords.size(); ++index) {
@@ -135,7 +125,7 @@ char BarLetter(const ImbBar& bar, const Characters& characters) {
     return isSet(bar.descender) ? 'D' : 'T';
 }
 
-/// The four examples that USPS-B-3200 publishes, one for each routing length.
+/** The four examples that USPS-B-3200 publishes, one for each routing length. */
 bool PassesSelfTest() {
     struct Example {
         const char* routing;
@@ -156,15 +146,15 @@ bool PassesSelfTest() {
 }
 
 ImbResult CheckTracking(std::string_view tracking) {
-    if (tracking.size() != kTrackingLength) return USPS_FSB_ENCODER_API_TRACK_STRING_BAD_LENGTH;
-    if (!IsDigits(tracking)) return USPS_FSB_ENCODER_API_TRACK_STRING_NOT_DIGITS;
+    if (tracking.size() != kImbTrackingLength) return USPS_FSB_ENCODER_API_TRACK_STRING_BAD_LENGTH;
+    if (!AreDigits(tracking)) return USPS_FSB_ENCODER_API_TRACK_STRING_NOT_DIGITS;
     if (tracking[1] > '4') return USPS_FSB_ENCODER_API_TRACK_STRING_BAD_DIGIT2;
     return USPS_FSB_ENCODER_API_SUCCESS;
 }
 
 ImbResult CheckRouting(std::string_view routing) {
-    if (!IsRoutingLength(routing.size())) return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
-    if (!IsDigits(routing)) return USPS_FSB_ENCODER_API_ROUTE_STRING_NOT_DIGITS;
+    if (!IsImbRoutingLength(routing.size())) return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
+    if (!AreDigits(routing)) return USPS_FSB_ENCODER_API_ROUTE_STRING_NOT_DIGITS;
     return USPS_FSB_ENCODER_API_SUCCESS;
 }
 
@@ -178,16 +168,18 @@ ImbResult ImbEncode(const char* tracking, const char* routing, char* bars) {
     if (routing == nullptr) return USPS_FSB_ENCODER_API_ROUTE_STRING_IS_NULL;
     if (bars == nullptr) return USPS_FSB_ENCODER_API_BAR_STRING_IS_NULL;
 
-    if (const ImbResult result = CheckTracking(Bounded(tracking, kTrackingLength))) return result;
-    if (const ImbResult result = CheckRouting(Bounded(routing, kLongestRouting))) return result;
+    if (const ImbResult result = CheckTracking(Bounded(tracking, kImbTrackingLength)))
+        return result;
+    if (const ImbResult result = CheckRouting(Bounded(routing, kImbLongestRouting))) return result;
     return ImbEncodeCore(tracking, routing, bars);
 }
 
 ImbResult ImbEncodeCore(const char* tracking, const char* routing, char* bars) {
-    const std::string_view routingDigits = Bounded(routing, kLongestRouting);
-    if (!IsRoutingLength(routingDigits.size())) return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
+    const std::string_view routingDigits = Bounded(routing, kImbLongestRouting);
+    if (!IsImbRoutingLength(routingDigits.size()))
+        return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
 
-    const ImbBinaryValue value = BinaryValue({tracking, kTrackingLength}, routingDigits);
+    const ImbBinaryValue value = BinaryValue({tracking, kImbTrackingLength}, routingDigits);
     const std::uint32_t frameCheckSequence = ImbFrameCheckSequence(value);
 
     if (!fiveOf13.Retrieve() || !twoOf13.Retrieve()) {

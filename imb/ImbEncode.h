@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 // USPS Intelligent Mail barcode: the four-state encoding of USPS-B-3200. Plain arithmetic on fixed
@@ -8,6 +9,14 @@
 // of a passed self-test are process-wide, and all calls come from the host's main thread.
 
 namespace linewright {
+
+inline constexpr std::size_t kImbTrackingLength = 20;
+inline constexpr std::size_t kImbLongestRouting = 11;
+
+/** None, ZIP, ZIP+4 and delivery point. */
+constexpr bool IsImbRoutingLength(std::size_t length) {
+    return length == 0 || length == 5 || length == 9 || length == kImbLongestRouting;
+}
 
 enum ImbResult : std::int32_t {
     USPS_FSB_ENCODER_API_SUCCESS = 0,
@@ -26,23 +35,25 @@ enum ImbResult : std::int32_t {
     USPS_FSB_ENCODER_API_ROUTE_STRING_NOT_DIGITS = 13,
 };
 
-/// Tracking and routing code as one unsigned big-endian integer of 104 bits (the data takes 102).
+/** Tracking and routing code as one unsigned big-endian integer of 104 bits (the data takes
+ *  102). */
 using ImbBinaryValue = std::array<std::uint8_t, 13>;
 
-/// Encodes a tracking code of 20 digits and a routing code of 0, 5, 9 or 11 digits, both
-/// NUL-terminated, into 65 letters of "A", "D", "F" and "T" and a NUL. `bars`: at least 66 bytes of
-/// the caller's, of no meaning unless the result is USPS_FSB_ENCODER_API_SUCCESS.
-/// Until it has passed once, every call begins with the self-test, whatever its arguments.
+/** Encodes a tracking code of 20 digits and a routing code of 0, 5, 9 or 11 digits, both
+ *  NUL-terminated, into 65 letters of "A", "D", "F" and "T" and a NUL. `bars`: at least 66 bytes of
+ *  the caller's, of no meaning unless the result is USPS_FSB_ENCODER_API_SUCCESS. Until it has
+ *  passed once, every call begins with the self-test, whatever its arguments. */
 ImbResult ImbEncode(const char* tracking, const char* routing, char* bars);
 
-/// The encoding without the self-test and without any test of the arguments but the routing length.
+/** The encoding without the self-test and without any test of the arguments but the routing
+ *  length. */
 ImbResult ImbEncodeCore(const char* tracking, const char* routing, char* bars);
 
-/// The 11-bit frame check sequence (CRC-11) of the low 102 bits.
+/** The 11-bit frame check sequence (CRC-11) of the low 102 bits. */
 std::uint32_t ImbFrameCheckSequence(const ImbBinaryValue& value);
 
-/// Fills a table with the 13-bit values that have `bitCount` bits set, in the order of USPS-B-3200.
-/// Returns 1 when there are exactly `tableLength` of them, else 0; never writes past the table.
+/** Fills a table with the 13-bit values that have `bitCount` bits set, in the order of USPS-B-3200.
+ *  Returns 1 when there are exactly `tableLength` of them, else 0; never writes past the table. */
 int ImbBuildNof13Table(std::uint32_t* table, int bitCount, int tableLength);
 
 }  // namespace linewright

@@ -2,7 +2,7 @@
 #include "classic/Code128.h"
 #include "classic/Code39.h"
 #include "classic/EanUpc.h"
-#include "classic/InterleavedTwoOfFive.h"
+#include "classic/Interleaved2of5.h"
 #include "classic/Msi.h"
 #include "classic/Postnet.h"
 #include "core/EncoderTable.h"
@@ -12,7 +12,7 @@
 #include "current/Code39.h"
 #include "current/Ean13.h"
 #include "current/Ean8.h"
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 #include "current/Msi.h"
 #include "current/Postnet.h"
 #include "current/UpcA.h"
@@ -35,7 +35,10 @@ constexpr Encoder EncoderOf(TypeCode code) {
                 return EncodeIntelligentMail(a.data, a.hint, a.humanReadable);
             };
         case TypeCode::kClassicCodabar:
-            return [](Arguments a) -> int32 { return EncodeCodabarClassic(a.data); };
+            return [](Arguments a) -> int32 {
+                return EncodeCodabarClassic(a.data, static_cast<char>(preferences.codabarStart),
+                                            static_cast<char>(preferences.codabarStop));
+            };
         case TypeCode::kClassicCode128A:
             return [](Arguments a) -> int32 { return EncodeCode128A(a.data); };
         case TypeCode::kClassicCode128B:
@@ -43,19 +46,26 @@ constexpr Encoder EncoderOf(TypeCode code) {
         case TypeCode::kClassicCode128C:
             return [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
         case TypeCode::kClassicCode39:
-            return [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, false); };
+            return [](Arguments a) -> int32 {
+                return EncodeCode39Classic(a.data, false, preferences.code39CheckMode,
+                                           preferences.code39UseAsterisk != 0);
+            };
         case TypeCode::kClassicCode39FullAscii:
-            return [](Arguments a) -> int32 { return EncodeCode39Classic(a.data, true); };
+            return [](Arguments a) -> int32 {
+                return EncodeCode39Classic(a.data, true, preferences.code39CheckMode,
+                                           preferences.code39UseAsterisk != 0);
+            };
         case TypeCode::kEan8: return EncodeEan8;
         case TypeCode::kClassicEan13:
             return [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
-        case TypeCode::kClassicInterleavedTwoOfFive:
+        case TypeCode::kClassicInterleaved2of5:
             return [](Arguments a) -> int32 {
-                return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, false);
+                return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0,
+                                                    false);
             };
-        case TypeCode::kClassicInterleavedTwoOfFiveText:
+        case TypeCode::kClassicInterleaved2of5Text:
             return [](Arguments a) -> int32 {
-                return EncodeI2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
+                return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
             };
         case TypeCode::kClassicJan13:
             return [](Arguments a) -> int32 { return EncodeJan13Classic(a.data); };
@@ -72,8 +82,8 @@ constexpr Encoder EncoderOf(TypeCode code) {
         case TypeCode::kCode39: return EncodeCode39Current;
         case TypeCode::kCode128: return EncodeCode128Auto;
         case TypeCode::kEan13: return EncodeEan13Current;
-        case TypeCode::kInterleavedTwoOfFive: return EncodeInterleaved2of5Current;
-        case TypeCode::kInterleavedTwoOfFiveText: return EncodeInterleaved2of5TextCurrent;
+        case TypeCode::kInterleaved2of5: return EncodeInterleaved2of5Current;
+        case TypeCode::kInterleaved2of5Text: return EncodeInterleaved2of5TextCurrent;
         case TypeCode::kJan13: return EncodeEan13Current;
         case TypeCode::kMsi: return EncodeMsiCurrent;
         case TypeCode::kUpcA: return EncodeUpcACurrent;

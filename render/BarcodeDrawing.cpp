@@ -86,7 +86,7 @@ void CheckKind(const BarcodeType& type, const DrawingOptions& options) {
     if (type.face == nullptr && (options.height || options.barWidthReduction != 0)) {
         throw DrawingFailure(Reason::kNoBars);
     }
-    if (options.hasBearerBars && type.symbology != Symbology::kInterleavedTwoOfFive) {
+    if (options.hasBearerBars && type.symbology != Symbology::kInterleaved2of5) {
         throw DrawingFailure(Reason::kNoBearer);
     }
     const bool isEan = type.trait == Trait::kLargeFirstDigit || type.code == TypeCode::kEan8;
@@ -114,6 +114,7 @@ BarcodeDrawing BarcodeDrawing::Make(Fonts& fonts, const BarcodeType& type,
     drawing.reduction = ReductionOf(options.barWidthReduction) / 100 * type.dimensions.modulesPerX;
     drawing.font = fonts.Barcode(*type.face, type.face->printsText ? 100 : heightPercent);
     const auto shaped = fonts.Barcode(*type.face, heightPercent);
+    drawing.barHeight = shaped->BarHeight() * drawing.module;
     const bool isEveryModuleWhole = !options.dotsPerInch || !type.HasFixedHeight();
     drawing.isFontText = shaped == drawing.font && drawing.reduction == 0 && isEveryModuleWhole &&
                          !options.hasBearerBars && !options.hasMarginMarks;
@@ -208,7 +209,7 @@ void BarcodeDrawing::PlaceGlyphs(const BarcodeFont& shaped, const BarcodeType& t
     }
     if (options.hasMarginMarks) PlaceMarginMarks(type, above);
     warnings = WarningsOf(type, {.xDimension = module * row.modulesPerX,
-                                 .barHeight = shaped.BarHeight() * module,
+                                 .barHeight = barHeight,
                                  .length = (bar.to - bar.from) * module,
                                  .quietZone = quietZone,
                                  .standardQuietLeft = row.quietLeft,

@@ -53,6 +53,8 @@ class BarcodeDrawing {
     double Height() const { return height; }
     /** The width of a module in points. */
     double Module() const { return module; }
+    /** Of the bars that carry data, in points; 0 without bars. */
+    double BarHeight() const { return barHeight; }
     /** The size of the font in points; 0 without a font. */
     double FontSize() const;
     /** The resolution that it was made for. */
@@ -109,6 +111,7 @@ class BarcodeDrawing {
     double width = 0;
     double height = 0;
     double module = 0;
+    double barHeight = 0;
     /** In modules. */
     double reduction = 0;
     std::optional<double> dotsPerInch;

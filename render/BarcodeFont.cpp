@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/FontCharacters.h"
+
 namespace linewright {
 
 namespace {
@@ -14,11 +16,6 @@ std::filesystem::path FileOf(const std::filesystem::path& folder, const BarcodeF
     const std::string stem(face.fileStem);
     if (isStatic) return folder / (stem + ".ttf");
     return folder / "variable" / (stem + "-Variable.ttf");
-}
-
-/** A character at which every byte's glyph is found, see docs/fonts.md. */
-char32_t CharacterOf(unsigned char byte) {
-    return byte >= 32 && byte <= 126 ? byte : 0xF000U + byte;
 }
 
 /** Whether a contour is four sides along the axes, the last one back to its start. */
@@ -54,7 +51,7 @@ BarcodeFont::BarcodeFont(const std::filesystem::path& folder, const BarcodeFace&
 }
 
 BarcodeGlyph BarcodeFont::GlyphOf(unsigned char byte, bool isLarge) const {
-    BarcodeGlyph glyph{.index = file.GlyphOf(CharacterOf(byte))};
+    BarcodeGlyph glyph{.index = file.GlyphOf(FontCharacter(byte))};
     if (isLarge) glyph.index = file.LargerOf(glyph.index);
     glyph.advance = file.AdvanceOf(glyph.index) * face.modulesPerEm;
     Outline outline = file.OutlineOf(glyph.index);

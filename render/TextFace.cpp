@@ -5,6 +5,8 @@
 #include <memory>
 #include <string_view>
 
+#include "text/Utf8.h"
+
 namespace linewright {
 
 namespace {
@@ -44,22 +46,6 @@ std::string FileOf(bool isBold) {
                       (weight >= FC_WEIGHT_BOLD) == isBold;
     if (!isIt) throw DrawingFailure(Missing());
     return TextOf(found, FC_FILE);
-}
-
-/** The characters of UTF-8 text; a byte that belongs to none is U+FFFD. */
-std::u32string CharactersFromUtf8(const std::string& text) {
-    std::u32string characters;
-    for (std::size_t at = 0; at < text.size();) {
-        const auto first = static_cast<unsigned char>(text[at]);
-        const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-        char32_t character = length == 1 ? first : first & (0x7FU >> length);
-        for (std::size_t i = 1; i < length && at + i < text.size(); ++i) {
-            character = character << 6 | (static_cast<unsigned char>(text[at + i]) & 0x3FU);
-        }
-        characters += character;
-        at += length;
-    }
-    return characters;
 }
 
 }  // namespace

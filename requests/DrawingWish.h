@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 namespace linewright {
 
@@ -15,16 +14,20 @@ struct Length {
 
 /** How a barcode is to be drawn; what is not wished for is as its type has it. */
 struct DrawingWish {
-    /** The folder that holds the fonts' files, UTF-8. */
-    std::string fonts;
     /** In points. */
-    std::optional<double> xDimension;
-    std::optional<Length> height;
-    std::optional<Length> quietZone;
+    std::optional<double> xDimension{};
+    std::optional<Length> height{};
+    std::optional<Length> quietZone{};
     /** How much narrower each bar is. */
-    std::optional<Length> barWidthReduction;
+    std::optional<Length> barWidthReduction{};
     /** Data below the bars; where nothing is said, if the font prints none. */
-    std::optional<bool> isTextWanted;
+    std::optional<bool> isTextWanted{};
+    /** Of the device; the bars end on its dots. */
+    std::optional<double> dotsPerInch{};
+    /** Whether the nearest X-dimension that has whole dots will do. */
+    bool isFitted = false;
+    bool hasBearerBars = false;
+    bool hasMarginMarks = false;
 };
 
 }  // namespace linewright

@@ -12,7 +12,8 @@ namespace linewright {
  */
 class HostBlock {
   public:
-    /** A block that holds a copy of `bytes`. Throws RequestFailure when the host has no memory for it. */
+    /** A block that holds a copy of `bytes`. Throws RequestFailure when the host has no memory for
+     * it. */
     explicit HostBlock(std::string_view bytes);
     HostBlock(const HostBlock&) = delete;
     HostBlock& operator=(const HostBlock&) = delete;

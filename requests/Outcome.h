@@ -26,7 +26,8 @@ struct BarcodeWish {
 enum class RefusalReason {
     /** No type has the name; `texts` are the nearest names. */
     kUnknownType,
-    /** The plug-in refused the data; `texts` has its hint or the words of its marker, or nothing. */
+    /** The plug-in refused the data; `texts` has its hint or the words of its marker, or nothing.
+     */
     kPlugIn,
     /** There are warnings, and the wish is strict. */
     kStrict,

@@ -4,8 +4,8 @@
 
 #include "CreateObject.h"
 #include "PMString.h"
+#include "host/runtime/HostText.h"
 #include "requests/HostBlock.h"
-#include "requests/HostText.h"
 #include "requests/RequestFailure.h"
 
 namespace linewright {
@@ -64,7 +64,7 @@ EncodeAnswer Service::Encode(const EncodeRequest& request) {
     std::copy_n(request.typeName.begin(), nameLength, params.typeName.text);
     const int32 status = Send(kEncodeRequest, params);
     data.length = params.dataLength;
-    return {status, isRecognised != 0, std::string(data.Bytes()), Utf8FromHost(hint)};
+    return {status, isRecognised != 0, std::string(data.Bytes()), host::ToUtf8(hint)};
 }
 
 std::string Service::ClassicTypeName(int16 index) {
@@ -82,7 +82,7 @@ std::string Service::DisplayTextOf(const std::string& typeName) {
     params.slot1 = &name;
     params.slot2 = &displayText;
     Send(kDisplayTextRequest, params);
-    return Utf8FromHost(displayText);
+    return host::ToUtf8(displayText);
 }
 
 TypeDescription Service::CurrentType(int16 index) {
@@ -100,7 +100,7 @@ TypeDescription Service::CurrentType(int16 index) {
     PMString name;
     params.slot2 = &name;
     Send(kTypeNameRequest, params);
-    return {Utf8FromHost(name), Utf8FromHost(displayText), flags};
+    return {host::ToUtf8(name), host::ToUtf8(displayText), flags};
 }
 
 std::vector<TypeDescription> Service::Types() {

@@ -8,12 +8,12 @@
 
 namespace linewright {
 
-/// The digit that brings a sum to a multiple of ten.
+/** The digit that brings a sum to a multiple of ten. */
 constexpr char Modulo10Complement(std::size_t sum) {
     return static_cast<char>('0' + (10 - sum % 10) % 10);
 }
 
-/// Sum of the digits times weights that alternate from the right: `rightmost`, `next`, ...
+/** Sum of the digits times weights that alternate from the right: `rightmost`, `next`, ... */
 constexpr std::size_t AlternatingSum(std::string_view digits, std::size_t rightmost,
                                      std::size_t next) {
     std::size_t sum = 0;
@@ -24,25 +24,30 @@ constexpr std::size_t AlternatingSum(std::string_view digits, std::size_t rightm
     return sum;
 }
 
-/// EAN, UPC and Interleaved 2 of 5 (ISO/IEC 15420 and 16390; GS1 General Specifications, 7.9): the
-/// rightmost digit weighs 3, the next one 1, and so on.
+/** EAN, UPC and Interleaved 2 of 5 (ISO/IEC 15420 and 16390; GS1 General Specifications, 7.9): the
+ *  rightmost digit weighs 3, the next one 1, and so on. */
 constexpr char Modulo10CheckDigit(std::string_view digits) {
     return Modulo10Complement(AlternatingSum(digits, 3, 1));
 }
 
-/// Five-digit add-on (ISO/IEC 15420): weights 3 and 9, the last digit of the sum (0 to 9). It is
-/// not printed, but chooses the parity.
+/** Two-digit add-on (ISO/IEC 15420): its value modulo 4 (0 to 3), which chooses the parity. */
+constexpr std::size_t AddOn2CheckValue(std::string_view digits) {
+    return AlternatingSum(digits, 1, 10) % 4;
+}
+
+/** Five-digit add-on (ISO/IEC 15420): weights 3 and 9, the last digit of the sum (0 to 9). It is
+ *  not printed, but chooses the parity. */
 constexpr std::size_t AddOn5CheckValue(std::string_view digits) {
     return AlternatingSum(digits, 3, 9) % 10;
 }
 
-/// Postnet: all digits weigh the same.
+/** Postnet: all digits weigh the same. */
 constexpr char PostnetCheckDigit(std::string_view digits) {
     return Modulo10Complement(AlternatingSum(digits, 1, 1));
 }
 
-/// MSI modulo 10: the rightmost digit and every second one are doubled, and a double of two digits
-/// counts as their sum.
+/** MSI modulo 10: the rightmost digit and every second one are doubled, and a double of two digits
+ *  counts as their sum. */
 constexpr char MsiModulo10CheckDigit(std::string_view digits) {
     std::size_t sum = 0;
     for (std::size_t place = 0; place < digits.size(); ++place) {
@@ -59,6 +64,7 @@ static_assert(Modulo10CheckDigit("590123412345") == '7');
 static_assert(Modulo10CheckDigit("03600029145") == '2');
 // 3 + 2 + 15 = 20, and nothing at all: multiples of ten
 static_assert(Modulo10CheckDigit("125") == '0' && Modulo10CheckDigit("") == '0');
+static_assert(AddOn2CheckValue("05") == 1 && AddOn2CheckValue("99") == 3);
 // 15 + 18 + 12 + 81 + 15 = 141
 static_assert(AddOn5CheckValue("52495") == 1);
 static_assert(PostnetCheckDigit("123456789") == '5' && PostnetCheckDigit("55") == '0');

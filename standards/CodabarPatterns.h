@@ -9,14 +9,14 @@
 
 namespace linewright {
 
-/// ANSI/AIM BC3-1995 (EN 798): the characters in the order of their values, the four start/stop
-/// characters last.
+/** ANSI/AIM BC3-1995 (EN 798): the characters in the order of their values, the four start/stop
+ *  characters last. */
 inline constexpr std::string_view kCodabarCharacters = "0123456789-$:/.+ABCD";
 
-/// What may stand between the start and the stop character.
+/** What may stand between the start and the stop character. */
 inline constexpr std::string_view kCodabarDataCharacters = kCodabarCharacters.substr(0, 16);
 
-/// ANSI/AIM BC3-1995 (EN 798): seven elements (bar, space, ... bar), narrow or wide, by value.
+/** ANSI/AIM BC3-1995 (EN 798): seven elements (bar, space, ... bar), narrow or wide, by value. */
 inline constexpr std::array<std::string_view, 20> kCodabarPatterns{
     // clang-format off
     // 0
@@ -28,15 +28,15 @@ inline constexpr std::array<std::string_view, 20> kCodabarPatterns{
     // clang-format on
 };
 
-/// The value of a data or start/stop character (capital letter), none for any other character.
+/** The value of a data or start/stop character (capital letter), none for any other character. */
 constexpr std::optional<std::size_t> CodabarValue(char character) {
     const std::size_t value = kCodabarCharacters.find(character);
     if (value == std::string_view::npos) return std::nullopt;
     return value;
 }
 
-/// Wide bars and spaces by value: one of each for the digits, "-" and "$", three bars for ":/.+",
-/// a bar and two spaces for the start/stop characters.
+/** Wide bars and spaces by value: one of each for the digits, "-" and "$", three bars for ":/.+", a
+ *  bar and two spaces for the start/stop characters. */
 constexpr bool IsCodabarTable() {
     for (std::size_t value = 0; value < kCodabarPatterns.size(); ++value) {
         const std::string_view pattern = kCodabarPatterns[value];

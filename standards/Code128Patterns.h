@@ -8,14 +8,14 @@
 
 namespace linewright {
 
-/// Symbol values of the three start characters; the check character is a sum modulo 103.
+/** Symbol values of the three start characters; the check character is a sum modulo 103. */
 inline constexpr std::size_t kCode128StartA = 103;
 inline constexpr std::size_t kCode128StartB = 104;
 inline constexpr std::size_t kCode128StartC = 105;
 inline constexpr std::size_t kCode128Modulus = 103;
 
-/// ISO/IEC 15417:2007, table 1: element widths in modules (bar, space, bar, space, bar, space) by
-/// symbol value, the three start characters included.
+/** ISO/IEC 15417:2007, table 1: element widths in modules (bar, space, bar, space, bar, space) by
+ *  symbol value, the three start characters included. */
 inline constexpr std::array<std::string_view, 106> kCode128Widths{
     // clang-format off
     // 0
@@ -54,10 +54,11 @@ inline constexpr std::array<std::string_view, 106> kCode128Widths{
     // clang-format on
 };
 
-/// The stop character has a fourth bar.
+/** The stop character has a fourth bar. */
 inline constexpr std::string_view kCode128StopWidths = "2331112";
 
-/// Six elements of one to four modules, 11 modules together, of which the bars take an even number.
+/** Six elements of one to four modules, 11 modules together, of which the bars take an even
+ *  number. */
 constexpr bool IsCode128Character(std::string_view widths) {
     return widths.size() == 6 && ConsistsOf(widths, "1234") && ModuleCount(widths) == 11 &&
            ModuleCount(widths, 2) % 2 == 0;

@@ -9,15 +9,15 @@
 
 namespace linewright {
 
-/// ISO/IEC 16388:2007, table 1: the data characters in the order of their values, 0 to 42.
-/// The check character is the one whose value is the sum of all values modulo their number.
+/** ISO/IEC 16388:2007, table 1: the data characters in the order of their values, 0 to 42. The
+ *  check character is the one whose value is the sum of all values modulo their number. */
 inline constexpr std::string_view kCode39Characters = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%";
 
-/// The row of the start/stop character, which has no value of its own.
+/** The row of the start/stop character, which has no value of its own. */
 inline constexpr std::size_t kCode39StartStop = 43;
 
-/// ISO/IEC 16388:2007, table 1: nine elements (bar, space, ... bar), narrow or wide, by value, and
-/// the start/stop character after them.
+/** ISO/IEC 16388:2007, table 1: nine elements (bar, space, ... bar), narrow or wide, by value, and
+ *  the start/stop character after them. */
 inline constexpr std::array<std::string_view, 44> kCode39Patterns{
     // clang-format off
     // 0
@@ -37,14 +37,14 @@ inline constexpr std::array<std::string_view, 44> kCode39Patterns{
     // clang-format on
 };
 
-/// The value of a data character, none for any other character.
+/** The value of a data character, none for any other character. */
 constexpr std::optional<std::size_t> Code39Value(char character) {
     const std::size_t value = kCode39Characters.find(character);
     if (value == std::string_view::npos) return std::nullopt;
     return value;
 }
 
-/// Three wide elements of nine: two bars and a space, or three spaces.
+/** Three wide elements of nine: two bars and a space, or three spaces. */
 constexpr bool IsCode39Character(std::string_view pattern) {
     const std::size_t wideBars = WideBars(pattern);
     return pattern.size() == 9 && ConsistsOf(pattern, "nw") &&

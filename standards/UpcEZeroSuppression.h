@@ -2,20 +2,21 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace linewright {
 
-/// ISO/IEC 15420:2009, UPC-E: the ten digits (manufacturer and product) behind the number system
-/// digit that six UPC-E digits stand for, by the sixth of them. "1" to "6" is the digit in that
-/// place of the six, "0" a suppressed zero.
+/** ISO/IEC 15420:2009, UPC-E: the ten digits (manufacturer and product) behind the number system
+ *  digit that six UPC-E digits stand for, by the sixth of them. "1" to "6" is the digit in that
+ *  place of the six, "0" a suppressed zero. */
 inline constexpr std::array<std::string_view, 10> kUpcEExpansion{
     // 0
     "1260000345", "1260000345", "1260000345", "1230000045", "1234000005",
     "1234500006", "1234500006", "1234500006", "1234500006", "1234500006",
 };
 
-/// The ten manufacturer and product digits of a UPC-E number. `digits`: exactly six digits.
+/** The ten manufacturer and product digits of a UPC-E number. `digits`: exactly six digits. */
 constexpr std::array<char, 10> ExpandUpcE(std::string_view digits) {
     std::array<char, 10> expanded{};
     const std::string_view places = kUpcEExpansion[static_cast<std::size_t>(digits[5] - '0')];
@@ -31,6 +32,21 @@ constexpr bool UpcEExpandsTo(std::string_view digits, std::string_view expected)
     return std::string_view(expanded.data(), expanded.size()) == expected;
 }
 
+/** The six digits, by the last of them, that stand for these ten manufacturer and product digits;
+ *  none when zeros cannot be suppressed. */
+constexpr std::optional<std::array<char, 6>> SuppressUpcE(std::string_view expanded) {
+    for (char last = '0'; last <= '9'; ++last) {
+        std::array<char, 6> six{};
+        const std::string_view places = kUpcEExpansion[static_cast<std::size_t>(last - '0')];
+        for (std::size_t index = 0; index < places.size(); ++index)
+            if (places[index] != '0')
+                six[static_cast<std::size_t>(places[index] - '1')] = expanded[index];
+        six[5] = last;
+        if (UpcEExpandsTo({six.data(), six.size()}, expanded)) return six;
+    }
+    return std::nullopt;
+}
+
 // Worked out by hand from the rule of zero suppression, one for each case.
 static_assert(UpcEExpandsTo("987650", "9800000765"));
 static_assert(UpcEExpandsTo("425261", "4210000526"));
@@ -39,5 +55,7 @@ static_assert(UpcEExpandsTo("987653", "9870000065"));
 static_assert(UpcEExpandsTo("987654", "9876000005"));
 static_assert(UpcEExpandsTo("123456", "1234500006"));
 static_assert(UpcEExpandsTo("987659", "9876500009"));
+static_assert(SuppressUpcE("4210000526") == std::array{'4', '2', '5', '2', '6', '1'});
+static_assert(!SuppressUpcE("1234567890"));
 
 }  // namespace linewright

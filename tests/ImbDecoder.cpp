@@ -24,8 +24,8 @@ Character Mirrored(const Character& character) {
     return mirrored;
 }
 
-/// The characters of one weight as the standard lists them: pairs of mirror images by the smaller
-/// one, then the palindromes from the largest down.
+/** The characters of one weight as the standard lists them: pairs of mirror images by the smaller
+ *  one, then the palindromes from the largest down. */
 std::vector<Character> CharactersOfWeight(std::size_t weight) {
     std::vector<Character> pairs;
     std::vector<Character> palindromes;
@@ -43,7 +43,7 @@ std::vector<Character> CharactersOfWeight(std::size_t weight) {
     return pairs;
 }
 
-/// Codeword by character: 0 to 1286 for weight 5, 1287 to 1364 for weight 2.
+/** Codeword by character: 0 to 1286 for weight 5, 1287 to 1364 for weight 2. */
 const std::map<unsigned long, unsigned>& CodewordByCharacter() {
     static const std::map<unsigned long, unsigned> codewords = [] {
         std::map<unsigned long, unsigned> result;
@@ -70,7 +70,7 @@ std::optional<Characters> ReadCharacters(std::string_view bars) {
     return characters;
 }
 
-/// Remainder of the 102 bits, the first 11 of them inverted, by the generator polynomial.
+/** Remainder of the 102 bits, the first 11 of them inverted, by the generator polynomial. */
 unsigned FrameCheckSequence(BinaryValue value) {
     BinaryValue dividend = (value ^ BinaryValue{0x7FF} << 91) << 11;
     for (int bit = 112; bit >= 11; --bit) {

@@ -16,7 +16,7 @@ inline std::string RandomDigits(std::mt19937& random, std::size_t length) {
     return digits;
 }
 
-/// A valid code; the same on every platform for the same state of `random`.
+/** A valid code; the same on every platform for the same state of `random`. */
 inline ImbCode RandomImbCode(std::mt19937& random, std::size_t routingLength) {
     ImbCode code{RandomDigits(random, 20), RandomDigits(random, routingLength)};
     code.tracking[1] = static_cast<char>('0' + random() % 5);

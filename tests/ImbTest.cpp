@@ -30,7 +30,7 @@ std::string Encoded(const ImbCode& code) {
     return std::string(bars.data(), kImbBarCount);
 }
 
-/// Random codes of every routing length, and the smallest and largest of each.
+/** Random codes of every routing length, and the smallest and largest of each. */
 std::vector<ImbCode> Codes(int randomPerLength) {
     std::mt19937 random(20240521);
     std::vector<ImbCode> codes;
@@ -248,7 +248,7 @@ TEST(ImbRoundTrip, FindsEverySingleWrongBar) {
     }
 }
 
-/// The bars with all 13 bits of one character inverted.
+/** The bars with all 13 bits of one character inverted. */
 std::string WithInvertedCharacter(std::string bars, std::size_t character) {
     constexpr std::string_view kLetters = "TADF";  // bit 0: ascender, bit 1: descender
     for (std::size_t index = 0; index < bars.size(); ++index) {

@@ -14,8 +14,8 @@
 namespace linewright {
 namespace {
 
-/// What libzint draws for a code, as bar letters; empty when it refuses the code. Its symbol has
-/// three rows (ascenders, trackers, descenders) with a bar in every second module.
+/** What libzint draws for a code, as bar letters; empty when it refuses the code. Its symbol has
+ *  three rows (ascenders, trackers, descenders) with a bar in every second module. */
 std::string ZintBars(const ImbCode& code) {
     const std::unique_ptr<zint_symbol, decltype(&ZBarcode_Delete)> symbol(ZBarcode_Create(),
                                                                           &ZBarcode_Delete);

@@ -27,6 +27,13 @@ std::string Narrow(const std::string& utf8) {
 
 }  // namespace
 
+std::string RowFields::Unread() const {
+    std::string names;
+    for (const auto& [name, value] : object.items())
+        if (!asked.contains(name)) names += '"' + name + "\" ";
+    return names;
+}
+
 bool RegisterCalls(const Calls& calls) {
     AllCalls().insert(calls.begin(), calls.end());
     return true;

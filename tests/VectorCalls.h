@@ -4,9 +4,36 @@
 #include <map>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace linewright {
+
+/** The members of a row, which notes the ones that are asked for. */
+class RowFields {
+  public:
+    explicit RowFields(nlohmann::json row) : object(std::move(row)) {}
+
+    bool Contains(const std::string& name) const {
+        asked.insert(name);
+        return object.contains(name);
+    }
+    /** Throws where there is no such member. */
+    const nlohmann::json& At(const std::string& name) const {
+        asked.insert(name);
+        return object.at(name);
+    }
+    template <typename T>
+    T Value(const std::string& name, const T& otherwise) const {
+        return Contains(name) ? object.at(name).get<T>() : otherwise;
+    }
+    /** The members that nobody asked for, each in quotes. */
+    std::string Unread() const;
+
+  private:
+    nlohmann::json object;
+    mutable std::set<std::string> asked;
+};
 
 /** The input of one row; texts are bytes. */
 struct Row {
@@ -14,7 +41,7 @@ struct Row {
     std::string data;
     int check = 0;
     double ratio = 2.0;
-    nlohmann::json fields;  // the whole row
+    RowFields fields;  // the whole row
 };
 
 /** What came of it; what a call does not have stays empty. */

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 
@@ -9,6 +10,7 @@
 #include "core/IORTALinewright.h"
 #include "core/PreferencesRecord.h"
 #include "tests/HostStrings.h"
+#include "tests/JsonLines.h"
 #include "tests/TestBlock.h"
 #include "tests/TestHost.h"
 #include "tests/VectorCalls.h"
@@ -51,11 +53,11 @@ class PreferencesGuard {
 };
 
 bool IsUtf8(const Row& row) {
-    return row.fields.value("utf8", false);
+    return row.fields.Value("utf8", false);
 }
 
 Outcome EncodeHere(const Row& row) {
-    const PreferencesGuard guard(row.fields.value("prefs", nlohmann::json::object()));
+    const PreferencesGuard guard(row.fields.Value("prefs", nlohmann::json::object()));
     TestBlock block(row.data);
     uint16 recognised = 0;
     PMString hint;
@@ -87,9 +89,10 @@ Outcome EncodeThere(const Row& row) {
     return {request.result, block.Text(), Latin1(hint), std::nullopt, recognised == 1};
 }
 
-Row RowOf(const nlohmann::json& fields) {
-    return {fields.at("call").get<std::string>(), BytesOf(fields.value("data", nlohmann::json(""))),
-            fields.value("check", 0), fields.value("ratio", 2.0), fields};
+Row RowOf(const nlohmann::json& object) {
+    const RowFields fields(object);
+    return {fields.At("call").get<std::string>(), BytesOf(fields.Value("data", nlohmann::json(""))),
+            fields.Value("check", 0), fields.Value("ratio", 2.0), fields};
 }
 
 Outcome RunHere(const Row& row) {
@@ -101,7 +104,7 @@ Outcome RunHere(const Row& row) {
 }
 
 bool MeetsThePlugIn(const Row& row) {
-    return !RegisteredCalls().contains(row.call) && !row.fields.contains("prefs");
+    return !RegisteredCalls().contains(row.call) && !row.fields.Contains("prefs");
 }
 
 /** The outcome as a row's fields. */
@@ -122,14 +125,19 @@ Json Expected(const nlohmann::json& field) {
     return field.is_array() ? Json(TextOf(BytesOf(field))) : Json(field);
 }
 
+bool HasExpectation(const Row& row) {
+    return std::any_of(std::begin(kExpectations), std::end(kExpectations),
+                       [&row](const char* name) { return row.fields.Contains(name); });
+}
+
 /** Compares the expectations that stand in the row; `absent` names one that this way has none of.
  */
 void Compare(const Row& row, const Outcome& outcome, const char* where,
              std::string_view absent = {}) {
     const Json fields = FieldsOf(outcome);
     for (const char* const name : kExpectations) {
-        if (!row.fields.contains(name) || absent == name) continue;
-        EXPECT_EQ(Expected(row.fields.at(name)).dump(), fields.value(name, Json()).dump())
+        if (!row.fields.Contains(name) || absent == name) continue;
+        EXPECT_EQ(Expected(row.fields.At(name)).dump(), fields.value(name, Json()).dump())
             << name << " " << where;
     }
 }
@@ -139,29 +147,20 @@ class RowTest : public testing::Test {
     explicit RowTest(nlohmann::json rowFields) : fields(std::move(rowFields)) {}
 
     void TestBody() override {
-        ASSERT_TRUE(fields.contains("from")) << "a row says where its expectation comes from";
         const Row row = RowOf(fields);
+        ASSERT_TRUE(row.fields.Contains("from")) << "a row says where its expectation comes from";
+        ASSERT_TRUE(HasExpectation(row)) << "a row says what must come of it";
         const auto before = host::CountMemory().liveBlocks;
         const Outcome here = RunHere(row);
         Compare(row, here, "of the rooms linked in");
         if (MeetsThePlugIn(row)) Compare(row, EncodeThere(row), "of the loaded plug-in", "hr");
         EXPECT_EQ(host::CountMemory().liveBlocks, before);
+        EXPECT_EQ(row.fields.Unread(), "") << "nothing reads these members";
     }
 
   private:
     nlohmann::json fields;
 };
-
-std::vector<std::string> LinesOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) lines.push_back(line);
-    return lines;
-}
-
-bool IsRow(const std::string& line) {
-    return !line.empty() && line[0] != '#';
-}
 
 std::vector<fs::path> VectorFiles() {
     std::vector<fs::path> files;
@@ -171,16 +170,18 @@ std::vector<fs::path> VectorFiles() {
     return files;
 }
 
+/** A filter of GoogleTest takes colons and hyphens for its own. */
+std::string SuiteOf(const fs::path& file) {
+    std::string name = file.stem().string();
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
 void RegisterRows(const fs::path& file) {
-    const auto lines = LinesOf(file);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (!IsRow(lines[i])) continue;
-        const std::string name = file.filename().string() + ":" + std::to_string(i + 1);
-        const auto fields = nlohmann::json::parse(lines[i], nullptr, false);
-        if (fields.is_discarded()) throw std::runtime_error(name + ": this line is not JSON");
-        testing::RegisterTest("Vectors", name.c_str(), nullptr, nullptr, file.string().c_str(),
-                              static_cast<int>(i + 1),
-                              [fields]() -> testing::Test* { return new RowTest(fields); });
+    for (const JsonLine& row : ReadJsonLines(file)) {
+        testing::RegisterTest(
+            SuiteOf(file).c_str(), NameOf(row).c_str(), nullptr, nullptr, file.string().c_str(),
+            row.number, [fields = row.fields]() -> testing::Test* { return new RowTest(fields); });
     }
 }
 
@@ -218,15 +219,21 @@ class HostEnvironment : public testing::Environment {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    std::vector<std::string> words(argv + 1, argv + argc);
+    const bool isWritten = !words.empty() && words.front() == "--write";
+    if (isWritten) words.erase(words.begin());
     try {
-        const bool write = argc > 1 && std::string(argv[1]) == "--write";
-        for (const auto& file : linewright::VectorFiles())
-            write ? linewright::WriteAnew(file) : linewright::RegisterRows(file);
-        if (write) return 0;
+        const std::vector<std::filesystem::path> files(words.begin(), words.end());
+        for (const auto& file : files.empty() ? linewright::VectorFiles() : files)
+            isWritten ? linewright::WriteAnew(file) : linewright::RegisterRows(file);
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;
     }
+    if (isWritten) return 0;
     testing::AddGlobalTestEnvironment(new linewright::HostEnvironment);
-    return RUN_ALL_TESTS();
+    const int failure = RUN_ALL_TESTS();
+    if (testing::UnitTest::GetInstance()->test_to_run_count() > 0) return failure;
+    std::cerr << "no row has such a name\n";
+    return 1;
 }

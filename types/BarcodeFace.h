@@ -18,7 +18,7 @@ struct BarcodeFace {
 };
 
 inline constexpr BarcodeFace kBarsFace{"Linewright Bars", "LinewrightBars", 32, 32};
-inline constexpr BarcodeFace kEanUpcFace{"Linewright EAN UPC", "LinewrightEANUPC", 128, 69, true};
+inline constexpr BarcodeFace kEanUpcFace{"Linewright EAN UPC", "LinewrightEANUPC", 128, 69.25, true};
 inline constexpr BarcodeFace kPostalFace{"Linewright Postal", "LinewrightPostal", 32, 29};
 inline constexpr BarcodeFace kClassicCode128Face{"Linewright Classic Code 128",
                                                  "LinewrightClassicCode128", 32, 32};
@@ -27,7 +27,7 @@ inline constexpr BarcodeFace kClassicCode39Face{"Linewright Classic Code 39",
 inline constexpr BarcodeFace kClassicCodabarFace{"Linewright Classic Codabar",
                                                  "LinewrightClassicCodabar", 32, 32};
 inline constexpr BarcodeFace kClassicEanUpcFace{"Linewright Classic EAN UPC",
-                                                "LinewrightClassicEANUPC", 128, 69, true};
+                                                "LinewrightClassicEANUPC", 128, 69.25, true};
 inline constexpr BarcodeFace kClassicI2of5Face{"Linewright Classic I2of5", "LinewrightClassicI2of5",
                                                32, 32};
 inline constexpr BarcodeFace kClassicMsiFace{"Linewright Classic MSI", "LinewrightClassicMSI", 32,

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "text/Nearest.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {
@@ -22,15 +23,16 @@ constexpr OtherName kOtherNames[]{
     {"gs1128", TypeCode::kCode128, Expectation::kIdentifiers},
     {"isbn", TypeCode::kEan13},
     {"issn", TypeCode::kEan13},
-    {"itf", TypeCode::kInterleavedTwoOfFive},
-    {"itf14", TypeCode::kInterleavedTwoOfFive, Expectation::kFourteenDigits},
-    {"interleaved2of5", TypeCode::kInterleavedTwoOfFive},
+    {"itf", TypeCode::kInterleaved2of5},
+    {"itf14", TypeCode::kInterleaved2of5, Expectation::kFourteenDigits},
+    {"interleaved2of5", TypeCode::kInterleaved2of5},
     {"intelligentmail", TypeCode::kIntelligentMail},
 };
 
-/** How many names are offered, and how much of a text is looked at. */
+/** How many names are offered. */
 constexpr std::size_t kOffered = 3;
-constexpr std::size_t kComparedLength = 40;
+/** No name of a type is longer, however it is written. */
+constexpr std::size_t kLongestName = 40;
 
 constexpr char LowerCase(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
@@ -51,28 +53,11 @@ const BarcodeType* TypeOf(TypeCode code) {
                         [code](const BarcodeType& type) { return type.code == code; });
 }
 
-/** The edit distance of Levenshtein, blind to case. */
-std::size_t Distance(std::string_view a, std::string_view b) {
-    std::vector<std::size_t> row(b.size() + 1);
-    for (std::size_t j = 0; j <= b.size(); ++j) row[j] = j;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        std::size_t diagonal = row[0];
-        row[0] = i + 1;
-        for (std::size_t j = 0; j < b.size(); ++j) {
-            const bool same = LowerCase(a[i]) == LowerCase(b[j]);
-            const std::size_t replaced = diagonal + (same ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
-        }
-    }
-    return row[b.size()];
-}
-
 }  // namespace
 
 WrittenType FindWrittenType(std::string_view written) {
     if (const BarcodeType* const type = FindTypeByPrefix(written)) return {type};
-    if (written.size() > kComparedLength) return {};
+    if (written.size() > kLongestName) return {};
     const std::string plain = PlainName(written);
     for (const BarcodeType& type : kBarcodeTypes) {
         if (PlainName(type.shortName) == plain) return {&type};
@@ -85,16 +70,11 @@ WrittenType FindWrittenType(std::string_view written) {
 
 std::vector<std::string_view> NearestTypeNames(std::string_view written) {
     const bool isTypeName = written.starts_with('_');
-    std::vector<std::pair<std::size_t, std::string_view>> ranked;
-    for (const BarcodeType& type : kBarcodeTypes) {
-        const std::string_view name = isTypeName ? type.name : type.shortName;
-        ranked.emplace_back(Distance(written.substr(0, kComparedLength), name), name);
-    }
-    std::stable_sort(ranked.begin(), ranked.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<std::string_view> names;
-    for (std::size_t i = 0; i < kOffered; ++i) names.push_back(ranked[i].second);
-    return names;
+    for (const BarcodeType& type : kBarcodeTypes) {
+        names.push_back(isTypeName ? type.name : type.shortName);
+    }
+    return Nearest(written, std::move(names), kOffered);
 }
 
 }  // namespace linewright

@@ -14,11 +14,13 @@
 #include <array>
 #include <cmath>
 
-#include "cli/DrawnBarcode.h"
-#include "cli/Failure.h"
-#include "cli/FontText.h"
+#include "host/runtime/Paths.h"
 #include "render/Export.h"
+#include "requests/DrawnBarcode.h"
+#include "scanners/Verification.h"
+#include "text/FontText.h"
 #include "types/BarcodeTypes.h"
+#include "words/Words.h"
 #include "workbench/Text.h"
 
 namespace linewright {
@@ -39,30 +41,19 @@ QString FromUtf8(const std::string& text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/** The whole number of pixels a module that is nearest to a usual resolution. */
-int PixelsForPng(const BarcodeDrawing& drawing) {
-    constexpr double kUsualResolution = 300;
-    const int step = drawing.HasHalfModules() ? 2 : 1;
-    const double steps = PixelsPerModule(drawing, kUsualResolution) / step;
-    return step * std::max(1, static_cast<int>(std::lround(steps)));
-}
-
 std::string FileContent(const BarcodeDrawing& drawing, const QString& file) {
-    if (file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) return SvgOf(drawing);
-    if (file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        return PngOf(drawing, PixelsForPng(drawing));
-    return PdfOf(drawing);
+    return FileOf(drawing, FormatOf(file.toStdString()).value_or(FileFormat::kPdf), {});
 }
 
 }  // namespace
 
-BarcodePage::BarcodePage(Service& service, QSettings& settings, std::string fonts,
+BarcodePage::BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
                          const QString& locale)
-    : fService(service),
-      fSettings(settings),
-      fFonts(std::move(fonts)),
-      fLocale(locale),
-      fTypes(service.Types()) {
+    : service(plugIn),
+      settings(userSettings),
+      fonts(host::PathFromUtf8(fontFolder)),
+      language(locale),
+      types(plugIn.Types()) {
     MakeFields();
     MakeActions();
     Arrange();
@@ -72,43 +63,43 @@ BarcodePage::BarcodePage(Service& service, QSettings& settings, std::string font
 }
 
 void BarcodePage::MakeFields() {
-    fType = new QComboBox(this);
-    fType->setObjectName(QStringLiteral("type"));
-    fType->setMaxVisibleItems(static_cast<int>(fTypes.size()));
-    for (const TypeDescription& type : fTypes) fType->addItem(FromUtf8(type.displayText));
-    fData = new QLineEdit(this);
-    fData->setObjectName(QStringLiteral("data"));
-    fData->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    fCheckDigit = new QCheckBox(Words(Phrase::kPageCheckDigit), this);
-    fCheckDigit->setObjectName(QStringLiteral("checkDigit"));
-    fRatio = new QComboBox(this);
-    fRatio->setObjectName(QStringLiteral("ratio"));
+    typeBox = new QComboBox(this);
+    typeBox->setObjectName(QStringLiteral("type"));
+    typeBox->setMaxVisibleItems(static_cast<int>(types.size()));
+    for (const TypeDescription& type : types) typeBox->addItem(FromUtf8(type.displayText));
+    dataBox = new QLineEdit(this);
+    dataBox->setObjectName(QStringLiteral("data"));
+    dataBox->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    checkDigitBox = new QCheckBox(Words(Phrase::kPageCheckDigit), this);
+    checkDigitBox->setObjectName(QStringLiteral("checkDigit"));
+    ratioBox = new QComboBox(this);
+    ratioBox->setObjectName(QStringLiteral("ratio"));
     for (const double ratio : kRatios)
-        fRatio->addItem(NumberText(ratio, 1, fLocale) + QLatin1String(" : 1"));
-    fMessage = new QLabel(this);
-    fMessage->setObjectName(QStringLiteral("message"));
-    fMessage->setWordWrap(true);
-    fMessage->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    fMessage->setMinimumHeight(2 * fMessage->fontMetrics().lineSpacing());
+        ratioBox->addItem(NumberText(ratio, 1, language) + QLatin1String(" : 1"));
+    message = new QLabel(this);
+    message->setObjectName(QStringLiteral("message"));
+    message->setWordWrap(true);
+    message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    message->setMinimumHeight(2 * message->fontMetrics().lineSpacing());
 }
 
 void BarcodePage::MakeActions() {
     constexpr int kLargestZoom = 8;
-    fView = new BarcodeView(this);
-    fView->setObjectName(QStringLiteral("drawing"));
-    fFont = new QLabel(this);
-    fFont->setObjectName(QStringLiteral("font"));
-    fFont->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    fBadge = new QLabel(this);
-    fBadge->setObjectName(QStringLiteral("badge"));
-    fZoom = new QSlider(Qt::Horizontal, this);
-    fZoom->setObjectName(QStringLiteral("zoom"));
-    fZoom->setRange(1, kLargestZoom);
-    fZoom->setPageStep(1);
-    fCopy = new QPushButton(Words(Phrase::kPageCopy), this);
-    fCopy->setObjectName(QStringLiteral("copy"));
-    fExport = new QPushButton(Words(Phrase::kPageExport), this);
-    fExport->setObjectName(QStringLiteral("export"));
+    view = new BarcodeView(this);
+    view->setObjectName(QStringLiteral("drawing"));
+    fontLabel = new QLabel(this);
+    fontLabel->setObjectName(QStringLiteral("font"));
+    fontLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    badge = new QLabel(this);
+    badge->setObjectName(QStringLiteral("badge"));
+    zoomSlider = new QSlider(Qt::Horizontal, this);
+    zoomSlider->setObjectName(QStringLiteral("zoom"));
+    zoomSlider->setRange(1, kLargestZoom);
+    zoomSlider->setPageStep(1);
+    copyButton = new QPushButton(Words(Phrase::kPageCopy), this);
+    copyButton->setObjectName(QStringLiteral("copy"));
+    exportButton = new QPushButton(Words(Phrase::kPageExport), this);
+    exportButton->setObjectName(QStringLiteral("export"));
 }
 
 void BarcodePage::Arrange() {
@@ -123,35 +114,35 @@ void BarcodePage::Arrange() {
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(kSpacing);
     grid->setColumnStretch(1, 1);
-    grid->addWidget(labelFor(Phrase::kPageType, fType), 0, 0);
-    grid->addWidget(fType, 0, 1);
-    grid->addWidget(labelFor(Phrase::kPageRatio, fRatio), 0, 2);
-    grid->addWidget(fRatio, 0, 3);
-    grid->addWidget(labelFor(Phrase::kPageData, fData), 1, 0);
-    grid->addWidget(fData, 1, 1);
-    grid->addWidget(fCheckDigit, 1, 2, 1, 2);
-    grid->addWidget(fMessage, 2, 1, 1, 3);
+    grid->addWidget(labelFor(Phrase::kPageType, typeBox), 0, 0);
+    grid->addWidget(typeBox, 0, 1);
+    grid->addWidget(labelFor(Phrase::kPageRatio, ratioBox), 0, 2);
+    grid->addWidget(ratioBox, 0, 3);
+    grid->addWidget(labelFor(Phrase::kPageData, dataBox), 1, 0);
+    grid->addWidget(dataBox, 1, 1);
+    grid->addWidget(checkDigitBox, 1, 2, 1, 2);
+    grid->addWidget(message, 2, 1, 1, 3);
 
     auto* const area = new QScrollArea(this);
     area->setObjectName(QStringLiteral("area"));
-    area->setWidget(fView);
+    area->setWidget(view);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::StrongFocus);
     area->setAccessibleName(SpokenText(Words(Phrase::kPageDrawing)));
 
     auto* const state = new QHBoxLayout;
     state->setSpacing(kSpacing);
-    state->addWidget(fBadge);
-    state->addWidget(fFont);
+    state->addWidget(badge);
+    state->addWidget(fontLabel);
     state->addStretch();
-    state->addWidget(labelFor(Phrase::kPageZoom, fZoom));
-    state->addWidget(fZoom);
+    state->addWidget(labelFor(Phrase::kPageZoom, zoomSlider));
+    state->addWidget(zoomSlider);
     auto* const buttons = new QHBoxLayout;
     buttons->addStretch();
-    for (QPushButton* const button : {fCopy, fExport})
+    for (QPushButton* const button : {copyButton, exportButton})
         button->setMinimumWidth(button->sizeHint().width() + 2 * kSpacing);
-    buttons->addWidget(fCopy);
-    buttons->addWidget(fExport);
+    buttons->addWidget(copyButton);
+    buttons->addWidget(exportButton);
 
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
@@ -161,134 +152,147 @@ void BarcodePage::Arrange() {
     column->addLayout(state);
     column->addLayout(buttons);
 
-    QWidget* last = fType;
-    for (QWidget* const next :
-         std::initializer_list<QWidget*>{fData, fRatio, fCheckDigit, area, fZoom, fCopy, fExport}) {
+    QWidget* last = typeBox;
+    for (QWidget* const next : std::initializer_list<QWidget*>{
+             dataBox, ratioBox, checkDigitBox, area, zoomSlider, copyButton, exportButton}) {
         setTabOrder(last, next);
         last = next;
     }
-    setFocusProxy(fData);
+    setFocusProxy(dataBox);
 }
 
 void BarcodePage::Connect() {
-    connect(fType, &QComboBox::currentIndexChanged, this, [this] { ChangeType(); });
-    connect(fData, &QLineEdit::textChanged, this, [this] { Refresh(); });
-    connect(fCheckDigit, &QCheckBox::toggled, this, [this] { Refresh(); });
-    connect(fRatio, &QComboBox::currentIndexChanged, this, [this] { Refresh(); });
-    connect(fZoom, &QSlider::valueChanged, this, [this] { Refresh(); });
-    connect(fCopy, &QPushButton::clicked, this,
-            [this] { QApplication::clipboard()->setText(fFontText); });
-    connect(fExport, &QPushButton::clicked, this, [this] { AskForExport(); });
+    connect(typeBox, &QComboBox::currentIndexChanged, this, [this] { ChangeType(); });
+    connect(dataBox, &QLineEdit::textChanged, this, [this] { Refresh(); });
+    connect(checkDigitBox, &QCheckBox::toggled, this, [this] { Refresh(); });
+    connect(ratioBox, &QComboBox::currentIndexChanged, this, [this] { Refresh(); });
+    connect(zoomSlider, &QSlider::valueChanged, this, [this] { Refresh(); });
+    connect(copyButton, &QPushButton::clicked, this,
+            [this] { QApplication::clipboard()->setText(fontText); });
+    connect(exportButton, &QPushButton::clicked, this, [this] { AskForExport(); });
 }
 
 void BarcodePage::Restore() {
-    const std::string name = fSettings.value(kTypeKey, kFirstType).toString().toStdString();
-    const auto found = std::find_if(fTypes.begin(), fTypes.end(),
+    const std::string name = settings.value(kTypeKey, kFirstType).toString().toStdString();
+    const auto found = std::find_if(types.begin(), types.end(),
                                     [&](const auto& type) { return type.typeName == name; });
-    if (found != fTypes.end()) fType->setCurrentIndex(static_cast<int>(found - fTypes.begin()));
-    fData->setText(fSettings.value(kDataKey, kFirstData).toString());
-    fZoom->setValue(fSettings.value(kZoomKey, kFirstZoom).toInt());
+    if (found != types.end()) typeBox->setCurrentIndex(static_cast<int>(found - types.begin()));
+    dataBox->setText(settings.value(kDataKey, kFirstData).toString());
+    zoomSlider->setValue(settings.value(kZoomKey, kFirstZoom).toInt());
 }
 
 void BarcodePage::ChangeType() {
     // The flags: the check digit can be chosen, it is on at first, the ratio can be chosen.
     const std::array<uint16, 3> flags =
-        fTypes[static_cast<std::size_t>(fType->currentIndex())].optionFlags.value_or(
+        types[static_cast<std::size_t>(typeBox->currentIndex())].optionFlags.value_or(
             std::array<uint16, 3>{});
     {
-        const QSignalBlocker checkDigit(fCheckDigit);
-        const QSignalBlocker ratio(fRatio);
-        fCheckDigit->setEnabled(flags[0] != 0);
-        fCheckDigit->setChecked(flags[1] != 0);
-        fRatio->setEnabled(flags[2] != 0);
-        fRatio->setCurrentIndex(0);
+        const QSignalBlocker checkDigit(checkDigitBox);
+        const QSignalBlocker ratio(ratioBox);
+        checkDigitBox->setEnabled(flags[0] != 0);
+        checkDigitBox->setChecked(flags[1] != 0);
+        ratioBox->setEnabled(flags[2] != 0);
+        ratioBox->setCurrentIndex(0);
     }
     Refresh();
 }
 
 void BarcodePage::Refresh() {
-    const TypeDescription& type = fTypes[static_cast<std::size_t>(fType->currentIndex())];
-    const EncodeRequest request{
-        .typeName = type.typeName,
-        .data = fData->text().toStdString(),
+    const TypeDescription& type = types[static_cast<std::size_t>(typeBox->currentIndex())];
+    const BarcodeWish wish{
+        .type = type.typeName,
+        .data = dataBox->text().toStdString(),
         .isUtf8 = true,
-        .checkCharacter = static_cast<uint8>(fCheckDigit->isChecked() ? 1 : 0),
-        .ratio = kRatios[static_cast<std::size_t>(fRatio->currentIndex())],
+        .checkCharacter = static_cast<uint8>(checkDigitBox->isChecked() ? 1 : 0),
+        .ratio = kRatios[static_cast<std::size_t>(ratioBox->currentIndex())],
     };
-    fSettings.setValue(kTypeKey, FromUtf8(type.typeName));
-    fSettings.setValue(kDataKey, fData->text());
-    fSettings.setValue(kZoomKey, fZoom->value());
-    DrawingWish wish;
-    wish.fonts = fFonts;
-    DrawnBarcode drawn;
+    settings.setValue(kTypeKey, FromUtf8(type.typeName));
+    settings.setValue(kDataKey, dataBox->text());
+    settings.setValue(kZoomKey, zoomSlider->value());
+    const Language spoken = LanguageOf(language.toStdString());
     try {
-        drawn = DrawBarcode(fService, request, false, wish);
-    } catch (const Failure& failure) {
-        drawn.outcome.isMade = false;
-        drawn.outcome.message = failure.what();
+        DrawnBarcode drawn = DrawBarcode(service, fonts, wish, {});
+        const bool isMade = drawn.outcome.IsMade();
+        ShowMessage(FromUtf8(isMade ? JoinedWarnings(drawn.outcome, spoken)
+                                    : WhyRefused(drawn.outcome, spoken)),
+                    !isMade);
+        Show(drawn);
+    } catch (const RequestFailure& failure) {
+        ShowFailure(Sentence(failure, spoken));
+    } catch (const DrawingFailure& failure) {
+        ShowFailure(Sentence(failure, spoken));
     }
-    Show(drawn);
+}
+
+void BarcodePage::ShowFailure(const std::string& sentence) {
+    ShowMessage(FromUtf8(sentence), true);
+    DrawnBarcode nothing{};
+    Show(nothing);
 }
 
 void BarcodePage::Show(DrawnBarcode& drawn) {
-    const BarcodeOutcome& outcome = drawn.outcome;
-    ShowMessage(FromUtf8(outcome.isMade ? Joined(outcome.warnings) : outcome.message),
-                !outcome.isMade);
+    const Outcome& outcome = drawn.outcome;
     ShowBadge(drawn);
-    fFontText = outcome.isMade ? FromUtf8(FontText(outcome.bytes)) : QString();
-    fCopy->setEnabled(outcome.isMade);
-    fExport->setEnabled(drawn.drawing.has_value());
-    fFont->clear();
+    fontText = FromUtf8(FontText(outcome.bytes));
+    copyButton->setEnabled(!fontText.isEmpty());
+    exportButton->setEnabled(drawn.drawing.has_value());
+    fontLabel->clear();
     double pixelsPerModule = 1;
     if (drawn.drawing) {
-        const BarcodeType& type = *FindTypeByPrefix(outcome.typeName);
-        pixelsPerModule = static_cast<double>(fZoom->value()) / type.dimensions.modulesPerX;
+        const BarcodeType& type = *outcome.type;
+        pixelsPerModule = static_cast<double>(zoomSlider->value()) / type.dimensions.modulesPerX;
         if (type.face != nullptr)
-            fFont->setText(QString::fromUtf8(type.face->family.data(),
-                                             static_cast<qsizetype>(type.face->family.size())) +
-                           QLatin1String(", ") + NumberText(drawn.drawing->FontSize(), 2, fLocale) +
-                           QLatin1String(" pt"));
+            fontLabel->setText(QString::fromUtf8(type.face->family.data(),
+                                                 static_cast<qsizetype>(type.face->family.size())) +
+                               QLatin1String(", ") +
+                               NumberText(drawn.drawing->FontSize(), 2, language) +
+                               QLatin1String(" pt"));
     }
-    fView->SetDrawing(std::move(drawn.drawing), pixelsPerModule);
+    view->SetDrawing(std::move(drawn.drawing), pixelsPerModule);
 }
 
 void BarcodePage::ShowMessage(const QString& text, bool isRefusal) {
-    fMessage->setText(text);
+    message->setText(text);
     QPalette colours = palette();
     constexpr QColor kRefusal(0xB0, 0x1E, 0x1E);
     constexpr QColor kWarning(0x7A, 0x4F, 0x00);
     colours.setColor(QPalette::WindowText, isRefusal ? kRefusal : kWarning);
-    fMessage->setPalette(colours);
+    message->setPalette(colours);
 }
 
 void BarcodePage::ShowBadge(const DrawnBarcode& drawn) {
-    fBadge->setVisible(drawn.drawing.has_value());
+    badge->setVisible(drawn.drawing.has_value());
     if (!drawn.drawing) return;
-    const Verification verification = Verify(*drawn.drawing, drawn.meaning);
+    const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
     const char* colour = "#666666";
     switch (verification.verdict) {
         case Verdict::kScans:
-            fBadge->setText(Words(Phrase::kScans));
+            badge->setText(Words(Phrase::kScans));
             colour = "#1B7F3B";
             break;
         case Verdict::kScansAs:
-            fBadge->setText(Words(Phrase::kScansAs).arg(FromUtf8(WhatWasRead(verification))));
+            badge->setText(Words(Phrase::kScansAs).arg(FromUtf8(verification.WhatWasRead())));
             colour = "#9A5B00";
             break;
         case Verdict::kDoesNotScan:
-            fBadge->setText(Words(Phrase::kDoesNotScan));
+            badge->setText(Words(Phrase::kDoesNotScan));
             colour = "#B01E1E";
             break;
-        case Verdict::kNoScanner: fBadge->setText(Words(Phrase::kNoScanner)); break;
+        case Verdict::kNoScanner: badge->setText(Words(Phrase::kNoScanner)); break;
     }
-    fBadge->setStyleSheet(
+    badge->setStyleSheet(
         QStringLiteral("background: %1; color: white; padding: 3px 8px; border-radius: 3px;")
             .arg(QLatin1String(colour)));
 }
 
 bool BarcodePage::Export(const QString& name) const {
-    if (!fView->Drawing()) return false;
-    const std::string content = FileContent(*fView->Drawing(), name);
+    if (!view->Drawing()) return false;
+    std::string content;
+    try {
+        content = FileContent(*view->Drawing(), name);
+    } catch (const DrawingFailure&) {
+        return false;
+    }
     QSaveFile file(name);
     return file.open(QIODevice::WriteOnly) &&
            file.write(content.data(), static_cast<qint64>(content.size())) ==

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "render/Fonts.h"
 #include "requests/Service.h"
 #include "workbench/BarcodeView.h"
 #include "workbench/Language.h"
@@ -24,9 +25,10 @@ struct DrawnBarcode;
  *  along as text for its font or as a file. */
 class BarcodePage final : public QWidget {
   public:
-    /** Service and settings outlive it; the settings keep type and data. `fonts` is the folder of
-     *  the barcode fonts, UTF-8. */
-    BarcodePage(Service& service, QSettings& settings, std::string fonts, const QString& locale);
+    /** Service and settings outlive it; the settings keep type and data. `fontFolder` is the
+     *  folder of the barcode fonts, UTF-8. */
+    BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
+                const QString& locale);
 
     /** Makes the barcode anew, since the preferences may be others. */
     void Refresh();
@@ -42,29 +44,30 @@ class BarcodePage final : public QWidget {
 
     void ChangeType();
     void Show(DrawnBarcode& drawn);
+    void ShowFailure(const std::string& sentence);
     void ShowMessage(const QString& text, bool isRefusal);
     void ShowBadge(const DrawnBarcode& drawn);
     void AskForExport();
-    QString Words(Phrase phrase) const { return Say(phrase, fLocale); }
+    QString Words(Phrase phrase) const { return Say(phrase, language); }
 
-    Service& fService;
-    QSettings& fSettings;
-    std::string fFonts;
-    QString fLocale;
-    std::vector<TypeDescription> fTypes;
+    Service& service;
+    QSettings& settings;
+    Fonts fonts;
+    QString language;
+    std::vector<TypeDescription> types;
 
-    QComboBox* fType;
-    QLineEdit* fData;
-    QCheckBox* fCheckDigit;
-    QComboBox* fRatio;
-    QLabel* fMessage;
-    BarcodeView* fView;
-    QLabel* fFont;
-    QLabel* fBadge;
-    QSlider* fZoom;
-    QPushButton* fCopy;
-    QPushButton* fExport;
-    QString fFontText;
+    QComboBox* typeBox;
+    QLineEdit* dataBox;
+    QCheckBox* checkDigitBox;
+    QComboBox* ratioBox;
+    QLabel* message;
+    BarcodeView* view;
+    QLabel* fontLabel;
+    QLabel* badge;
+    QSlider* zoomSlider;
+    QPushButton* copyButton;
+    QPushButton* exportButton;
+    QString fontText;
 };
 
 }  // namespace linewright

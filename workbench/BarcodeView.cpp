@@ -6,9 +6,9 @@
 
 namespace linewright {
 
-void BarcodeView::SetDrawing(std::optional<BarcodeDrawing> drawing, double pixelsPerModule) {
-    fDrawing = std::move(drawing);
-    fPixelsPerModule = pixelsPerModule;
+void BarcodeView::SetDrawing(std::optional<BarcodeDrawing> shown, double pixels) {
+    drawing = std::move(shown);
+    pixelsPerModule = pixels;
     setMinimumSize(DrawnSize());
     update();
 }
@@ -16,22 +16,22 @@ void BarcodeView::SetDrawing(std::optional<BarcodeDrawing> drawing, double pixel
 void BarcodeView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    if (!fDrawing) return;
+    if (!drawing) return;
     const double scale = devicePixelRatioF();
     QImage image(DrawnSize() * scale, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
-    fDrawing->PaintArgb(reinterpret_cast<std::uint32_t*>(image.bits()), image.width(),
-                        image.height(), static_cast<int>(image.bytesPerLine()),
-                        fPixelsPerModule * scale, 0, 0);
+    drawing->PaintArgb(reinterpret_cast<std::uint32_t*>(image.bits()), image.width(),
+                       image.height(), static_cast<int>(image.bytesPerLine()),
+                       pixelsPerModule * scale, 0, 0);
     image.setDevicePixelRatio(scale);
     painter.drawImage((width() - DrawnSize().width()) / 2, (height() - DrawnSize().height()) / 2,
                       image);
 }
 
 QSize BarcodeView::DrawnSize() const {
-    if (!fDrawing) return {};
-    return {static_cast<int>(std::ceil(fDrawing->Width() * fPixelsPerModule)),
-            static_cast<int>(std::ceil(fDrawing->Height() * fPixelsPerModule))};
+    if (!drawing) return {};
+    return {static_cast<int>(std::ceil(drawing->Width() * pixelsPerModule)),
+            static_cast<int>(std::ceil(drawing->Height() * pixelsPerModule))};
 }
 
 }  // namespace linewright

@@ -13,8 +13,8 @@ class BarcodeView final : public QWidget {
     using QWidget::QWidget;
 
     /** Nothing, or a drawing at so many pixels a module. */
-    void SetDrawing(std::optional<BarcodeDrawing> drawing, double pixelsPerModule);
-    const std::optional<BarcodeDrawing>& Drawing() const { return fDrawing; }
+    void SetDrawing(std::optional<BarcodeDrawing> shown, double pixels);
+    const std::optional<BarcodeDrawing>& Drawing() const { return drawing; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -22,8 +22,8 @@ class BarcodeView final : public QWidget {
   private:
     QSize DrawnSize() const;
 
-    std::optional<BarcodeDrawing> fDrawing;
-    double fPixelsPerModule = 1;
+    std::optional<BarcodeDrawing> drawing;
+    double pixelsPerModule = 1;
 };
 
 }  // namespace linewright

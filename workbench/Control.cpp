@@ -22,10 +22,10 @@ template <class QtWidget>
 class ControlOf : public Control {
   public:
     ControlOf(host::ShownWidget& shown, QWidget* parent)
-        : Control(shown, new QtWidget(parent)), fWidget(static_cast<QtWidget*>(View())) {}
+        : Control(shown, new QtWidget(parent)), qtWidget(static_cast<QtWidget*>(View())) {}
 
   protected:
-    QtWidget* const fWidget;
+    QtWidget* const qtWidget;
 };
 
 class Label final : public ControlOf<QLabel> {
@@ -33,7 +33,7 @@ class Label final : public ControlOf<QLabel> {
     using ControlOf::ControlOf;
 
   private:
-    void ShowContent() override { fWidget->setText(TextFromHost(fShown.GetText())); }
+    void ShowContent() override { qtWidget->setText(TextFromHost(hostWidget.GetText())); }
 };
 
 /** In data every character counts: a zero is not to be taken for a letter. */
@@ -44,34 +44,34 @@ QFont DataFont() {
 class EditBox final : public ControlOf<QLineEdit> {
   public:
     EditBox(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
-        fWidget->setFont(DataFont());
+        qtWidget->setFont(DataFont());
         // What the box takes is for the host to say, and to beep about.
-        QObject::connect(fWidget, &QLineEdit::textEdited, fWidget,
-                         [this](const QString& text) { fShown.Type(TextForHost(text)); });
+        QObject::connect(qtWidget, &QLineEdit::textEdited, qtWidget,
+                         [this](const QString& text) { hostWidget.Type(TextForHost(text)); });
     }
 
   private:
     void ShowContent() override {
-        const QString text = TextFromHost(fShown.GetText());
-        if (text == fWidget->text()) return;
+        const QString text = TextFromHost(hostWidget.GetText());
+        if (text == qtWidget->text()) return;
         // What was refused stood before the cursor, which stays behind what was not.
-        const auto behind = fWidget->text().size() - fWidget->cursorPosition();
-        fWidget->setText(text);
-        fWidget->setCursorPosition(static_cast<int>(qMax<qsizetype>(0, text.size() - behind)));
+        const auto behind = qtWidget->text().size() - qtWidget->cursorPosition();
+        qtWidget->setText(text);
+        qtWidget->setCursorPosition(static_cast<int>(qMax<qsizetype>(0, text.size() - behind)));
     }
 };
 
 class ResultBox final : public ControlOf<QLineEdit> {
   public:
     ResultBox(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
-        fWidget->setFont(DataFont());
-        fWidget->setReadOnly(true);
+        qtWidget->setFont(DataFont());
+        qtWidget->setReadOnly(true);
     }
 
   private:
     void ShowContent() override {
-        fWidget->setText(TextFromHost(fShown.GetText()));
-        fWidget->setCursorPosition(0);
+        qtWidget->setText(TextFromHost(hostWidget.GetText()));
+        qtWidget->setCursorPosition(0);
     }
 };
 
@@ -81,31 +81,31 @@ class Description final : public ControlOf<QPlainTextEdit> {
         constexpr int kColumns = 80;
         constexpr int kLines = 18;
         constexpr int kMargin = 8;
-        fWidget->setReadOnly(true);
-        fWidget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        fWidget->setTabChangesFocus(true);
-        fWidget->document()->setDocumentMargin(kMargin);
-        const QFontMetrics metrics = fWidget->fontMetrics();
-        fWidget->setMinimumSize(kColumns * metrics.averageCharWidth(),
-                                kLines * metrics.lineSpacing());
+        qtWidget->setReadOnly(true);
+        qtWidget->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        qtWidget->setTabChangesFocus(true);
+        qtWidget->document()->setDocumentMargin(kMargin);
+        const QFontMetrics metrics = qtWidget->fontMetrics();
+        qtWidget->setMinimumSize(kColumns * metrics.averageCharWidth(),
+                                 kLines * metrics.lineSpacing());
     }
 
   private:
-    void ShowContent() override { fWidget->setPlainText(TextFromHost(fShown.GetText())); }
+    void ShowContent() override { qtWidget->setPlainText(TextFromHost(hostWidget.GetText())); }
 };
 
 class CheckBox final : public ControlOf<QCheckBox> {
   public:
     CheckBox(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
-        QObject::connect(fWidget, &QCheckBox::clicked, fWidget,
-                         [this](bool on) { fShown.Tick(on); });
+        QObject::connect(qtWidget, &QCheckBox::clicked, qtWidget,
+                         [this](bool on) { hostWidget.Tick(on); });
     }
 
   private:
     void ShowContent() override {
-        fWidget->setText(TextFromHost(fShown.GetText()));
-        fWidget->setCheckState(static_cast<Qt::CheckState>(fShown.GetState()));
-        fWidget->setTristate(fShown.GetState() == Qt::PartiallyChecked);
+        qtWidget->setText(TextFromHost(hostWidget.GetText()));
+        qtWidget->setCheckState(static_cast<Qt::CheckState>(hostWidget.GetState()));
+        qtWidget->setTristate(hostWidget.GetState() == Qt::PartiallyChecked);
     }
 };
 
@@ -113,50 +113,50 @@ class PopUp final : public ControlOf<QComboBox> {
   public:
     PopUp(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
         constexpr int kVisibleItems = 30;
-        fWidget->setMaxVisibleItems(kVisibleItems);
-        fWidget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-        QObject::connect(fWidget, &QComboBox::activated, fWidget,
-                         [this](int item) { fShown.Choose(item); });
+        qtWidget->setMaxVisibleItems(kVisibleItems);
+        qtWidget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        QObject::connect(qtWidget, &QComboBox::activated, qtWidget,
+                         [this](int item) { hostWidget.Choose(item); });
     }
 
   private:
     void ShowContent() override {
         int overhang = 0;
-        fWidget->clear();
-        const auto* const items = static_cast<QStandardItemModel*>(fWidget->model());
-        for (int32 i = 0; i < fShown.CountItems(); ++i) {
-            const QString text = TextFromHost(fShown.GetItem(i));
-            fWidget->addItem(text);
-            items->item(i)->setEnabled(fShown.IsItemEnabled(i));
-            const QFontMetrics metrics = fWidget->fontMetrics();
+        qtWidget->clear();
+        const auto* const items = static_cast<QStandardItemModel*>(qtWidget->model());
+        for (int32 i = 0; i < hostWidget.CountItems(); ++i) {
+            const QString text = TextFromHost(hostWidget.GetItem(i));
+            qtWidget->addItem(text);
+            items->item(i)->setEnabled(hostWidget.IsItemEnabled(i));
+            const QFontMetrics metrics = qtWidget->fontMetrics();
             overhang = std::max(
                 overhang, metrics.horizontalAdvance(text) - metrics.boundingRect(text).width());
         }
         // The size hint goes by the ink, the text is cut by its advance.
-        fWidget->setMinimumWidth(fWidget->sizeHint().width() + overhang);
-        fWidget->setCurrentIndex(fShown.GetSelected());
+        qtWidget->setMinimumWidth(qtWidget->sizeHint().width() + overhang);
+        qtWidget->setCurrentIndex(hostWidget.GetSelected());
     }
 };
 
 class Button final : public ControlOf<QPushButton> {
   public:
     Button(host::ShownWidget& shown, QWidget* parent) : ControlOf(shown, parent) {
-        QObject::connect(fWidget, &QPushButton::clicked, fWidget, [this] { fShown.Press(); });
+        QObject::connect(qtWidget, &QPushButton::clicked, qtWidget, [this] { hostWidget.Press(); });
     }
 
   private:
     void ShowContent() override {
         constexpr int kPadding = 10;
-        fWidget->setText(TextFromHost(fShown.GetText()));
-        fWidget->setMinimumWidth(fWidget->sizeHint().width() + 2 * kPadding);
+        qtWidget->setText(TextFromHost(hostWidget.GetText()));
+        qtWidget->setMinimumWidth(qtWidget->sizeHint().width() + 2 * kPadding);
     }
 };
 
 }  // namespace
 
 void Control::Show() {
-    const QSignalBlocker silence(fView);
-    fView->setEnabled(fShown.IsEnabled());
+    const QSignalBlocker silence(view);
+    view->setEnabled(hostWidget.IsEnabled());
     ShowContent();
 }
 

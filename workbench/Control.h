@@ -16,19 +16,19 @@ class Control {
     virtual ~Control() = default;
 
     /** What stands in the dialog; belongs to its parent. */
-    QWidget* View() const { return fView; }
+    QWidget* View() const { return view; }
     /** Takes over what the host's widget holds now. */
     void Show();
 
   protected:
-    Control(host::ShownWidget& shown, QWidget* view) : fShown(shown), fView(view) {}
+    Control(host::ShownWidget& shown, QWidget* qtView) : hostWidget(shown), view(qtView) {}
 
     virtual void ShowContent() = 0;
 
-    host::ShownWidget& fShown;
+    host::ShownWidget& hostWidget;
 
   private:
-    QWidget* fView;
+    QWidget* view;
 };
 
 /** The control for a widget; its view gets `parent`. */

@@ -16,8 +16,8 @@ namespace linewright {
  *  close it is passed on to the host as its close box. */
 class DialogWindow final : public QDialog, private host::DialogListener {
   public:
-    /** `settings` keep the place of the window; they outlive it. */
-    DialogWindow(host::ShownDialog& dialog, QSettings& settings, QWidget* parent);
+    /** The settings keep the place of the window, and outlive it. */
+    DialogWindow(host::ShownDialog& shown, QSettings& userSettings, QWidget* parent);
     ~DialogWindow() override;
 
     /** The view of a visible widget of the plug-in; nullptr when there is none of this id. */
@@ -45,11 +45,11 @@ class DialogWindow final : public QDialog, private host::DialogListener {
     void OrderTabs();
     QString PlaceKey() const;
 
-    host::ShownDialog* fDialog;  // nullptr once the host has closed it
-    QSettings& fSettings;
-    RsrcID fResource;
-    std::vector<std::pair<host::ShownWidget*, std::unique_ptr<Control>>> fControls;
-    std::vector<QGridLayout*> fGrids;
+    host::ShownDialog* dialog;  // nullptr once the host has closed it
+    QSettings& settings;
+    RsrcID resource;
+    std::vector<std::pair<host::ShownWidget*, std::unique_ptr<Control>>> controls;
+    std::vector<QGridLayout*> grids;
 };
 
 }  // namespace linewright

@@ -24,7 +24,6 @@ enum class Phrase {
     kDoesNotScan,
     kNoScanner,
     kCannotWrite,
-    kCount,
 };
 
 /** The phrase in a locale such as "deDE"; in English where there is no translation. */

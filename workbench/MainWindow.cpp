@@ -27,12 +27,12 @@ QString RunningLocale() {
 
 }  // namespace
 
-MainWindow::MainWindow(QSettings& settings, std::function<void(const QString&)> chooseLanguage)
-    : fSettings(settings), fChooseLanguage(std::move(chooseLanguage)) {
+MainWindow::MainWindow(QSettings& userSettings, std::function<void(const QString&)> languageChosen)
+    : settings(userSettings), chooseLanguage(std::move(languageChosen)) {
     constexpr QSize kFirstSize(760, 520);
     setWindowTitle(QStringLiteral("Linewright"));
     resize(kFirstSize);
-    restoreGeometry(fSettings.value(kGeometryKey).toByteArray());
+    restoreGeometry(settings.value(kGeometryKey).toByteArray());
 }
 
 void MainWindow::ShowPlugIn(Service& service, const QString& fonts) {
@@ -40,19 +40,19 @@ void MainWindow::ShowPlugIn(Service& service, const QString& fonts) {
     AddFileMenu(locale);
     AddPlugInMenus();
     AddLanguageMenu(locale);
-    fPage = new BarcodePage(service, fSettings, fonts.toStdString(), locale);
-    setCentralWidget(fPage);
-    fPage->setFocus();
+    page = new BarcodePage(service, settings, fonts.toStdString(), locale);
+    setCentralWidget(page);
+    page->setFocus();
 }
 
 void MainWindow::HidePlugIn() {
     for (QMenu* const menu : menuBar()->findChildren<QMenu*>()) delete menu;
-    fPage = nullptr;
+    page = nullptr;
     delete takeCentralWidget();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    fSettings.setValue(kGeometryKey, saveGeometry());
+    settings.setValue(kGeometryKey, saveGeometry());
     event->accept();
     QApplication::quit();
 }
@@ -60,7 +60,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     // Back from a dialog that may have changed the preferences.
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && fPage) fPage->Refresh();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && page) page->Refresh();
 }
 
 void MainWindow::AddFileMenu(const QString& locale) {
@@ -96,7 +96,7 @@ void MainWindow::AddLanguageMenu(const QString& locale) {
     // Later, since the menu itself goes with the host.
     connect(
         group, &QActionGroup::triggered, this,
-        [this](QAction* action) { fChooseLanguage(action->data().toString()); },
+        [this](QAction* action) { chooseLanguage(action->data().toString()); },
         Qt::QueuedConnection);
 }
 

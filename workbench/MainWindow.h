@@ -11,9 +11,9 @@ namespace linewright {
 /** The window: the menus of the plug-in among its own, and a page. */
 class MainWindow final : public QMainWindow {
   public:
-    /** `settings` keep the window's place and outlive it; `chooseLanguage` hears of a locale that
-     *  the user picks. */
-    MainWindow(QSettings& settings, std::function<void(const QString&)> chooseLanguage);
+    /** The settings keep the window's place and outlive it; `languageChosen` hears of a locale
+     *  that the user picks. */
+    MainWindow(QSettings& userSettings, std::function<void(const QString&)> languageChosen);
 
     /** Shows the menus of the plug-in that runs now, in its locale, and the page that uses it.
      *  `fonts` is the folder of the barcode fonts. */
@@ -29,9 +29,9 @@ class MainWindow final : public QMainWindow {
     void AddPlugInMenus();
     void AddLanguageMenu(const QString& locale);
 
-    QSettings& fSettings;
-    std::function<void(const QString&)> fChooseLanguage;
-    BarcodePage* fPage = nullptr;
+    QSettings& settings;
+    std::function<void(const QString&)> chooseLanguage;
+    BarcodePage* page = nullptr;
 };
 
 }  // namespace linewright

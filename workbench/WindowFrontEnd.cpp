@@ -21,7 +21,7 @@ QMessageBox::Icon IconOf(host::AlertKind kind) {
 }  // namespace
 
 void WindowFrontEnd::ShowAlert(host::AlertKind kind, const char* text) {
-    QMessageBox box(IconOf(kind), fWindow->windowTitle(), QString::fromUtf8(text), QMessageBox::Ok,
+    QMessageBox box(IconOf(kind), window->windowTitle(), QString::fromUtf8(text), QMessageBox::Ok,
                     CurrentWindow());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -30,19 +30,19 @@ void WindowFrontEnd::ShowAlert(host::AlertKind kind, const char* text) {
 
 void WindowFrontEnd::ShowDialog(host::ShownDialog& dialog) {
     if (dialog.GetType() == IDialog::kMovableModal) {
-        DialogWindow(dialog, fSettings, CurrentWindow()).exec();
+        DialogWindow(dialog, settings, CurrentWindow()).exec();
         return;
     }
-    auto* const window = new DialogWindow(dialog, fSettings, fWindow);
-    QObject::connect(window, &QDialog::finished, window, &QObject::deleteLater);
-    window->show();
-    window->raise();
-    window->activateWindow();
+    auto* const opened = new DialogWindow(dialog, settings, window);
+    QObject::connect(opened, &QDialog::finished, opened, &QObject::deleteLater);
+    opened->show();
+    opened->raise();
+    opened->activateWindow();
 }
 
 QWidget* WindowFrontEnd::CurrentWindow() const {
     QWidget* const active = QApplication::activeWindow();
-    return active ? active : fWindow;
+    return active ? active : window;
 }
 
 }  // namespace linewright

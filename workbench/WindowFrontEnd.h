@@ -12,20 +12,20 @@ namespace linewright {
 class WindowFrontEnd final : public host::FrontEnd {
   public:
     /** Settings and window outlive this; the window is where alerts and dialogs belong. */
-    WindowFrontEnd(QSettings& settings, QWidget* window, std::function<void()> beep)
-        : fSettings(settings), fWindow(window), fBeep(std::move(beep)) {}
+    WindowFrontEnd(QSettings& userSettings, QWidget* mainWindow, std::function<void()> makeBeep)
+        : settings(userSettings), window(mainWindow), beep(std::move(makeBeep)) {}
 
     void ShowAlert(host::AlertKind kind, const char* text) override;
-    void Beep() override { fBeep(); }
+    void Beep() override { beep(); }
     void ShowDialog(host::ShownDialog& dialog) override;
 
   private:
     /** The window that the user is at. */
     QWidget* CurrentWindow() const;
 
-    QSettings& fSettings;
-    QWidget* fWindow;
-    std::function<void()> fBeep;
+    QSettings& settings;
+    QWidget* window;
+    std::function<void()> beep;
 };
 
 }  // namespace linewright

@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <QStandardPaths>
 
-#include "cli/Failure.h"
+#include "words/Words.h"
 #include "workbench/Language.h"
 
 namespace linewright {
@@ -42,19 +42,19 @@ WorkbenchOptions Completed(WorkbenchOptions options) {
 
 }  // namespace
 
-Workbench::Workbench(const WorkbenchOptions& options)
-    : fOptions(Completed(options)),
-      fSettings(fOptions.roamingFolder + QStringLiteral("/Workbench.ini"), QSettings::IniFormat),
-      fWindow(fSettings, [this](const QString& locale) { SwitchLanguage(locale); }),
-      fFrontEnd(fSettings, &fWindow, fOptions.beep) {}
+Workbench::Workbench(const WorkbenchOptions& wanted)
+    : options(Completed(wanted)),
+      settings(options.roamingFolder + QStringLiteral("/Workbench.ini"), QSettings::IniFormat),
+      window(settings, [this](const QString& locale) { SwitchLanguage(locale); }),
+      frontEnd(settings, &window, options.beep) {}
 
 Workbench::~Workbench() {
     StopHost();
 }
 
 bool Workbench::Start() {
-    if (!fOptions.locale.isEmpty()) return StartHost(fOptions.locale);
-    const QString wanted = fSettings.value(kLanguageKey, SystemLocale()).toString();
+    if (!options.locale.isEmpty()) return StartHost(options.locale);
+    const QString wanted = settings.value(kLanguageKey, SystemLocale()).toString();
     return StartHost(wanted) || StartHost(QString());
 }
 
@@ -62,31 +62,31 @@ void Workbench::SwitchLanguage(const QString& locale) {
     if (QApplication::activeModalWidget()) return;
     StopHost();
     if (StartHost(locale)) {
-        fSettings.setValue(kLanguageKey, locale);
+        settings.setValue(kLanguageKey, locale);
     } else {
-        QMessageBox::critical(&fWindow, fWindow.windowTitle(),
+        QMessageBox::critical(&window, window.windowTitle(),
                               Say(Phrase::kNoPlugIn, locale) + QLatin1String(":\n") + Error());
     }
 }
 
 bool Workbench::StartHost(const QString& locale) try {
     TranslateQt(locale);
-    fService.emplace(HostOptions{.plugin = fOptions.plugIn.toStdString(),
-                                 .roamingFolder = fOptions.roamingFolder.toStdString(),
-                                 .appFolder = fOptions.appFolder.toStdString(),
-                                 .locale = locale.toStdString(),
-                                 .frontEnd = &fFrontEnd});
-    fWindow.ShowPlugIn(*fService, fOptions.fonts);
+    service.emplace(HostOptions{.plugin = options.plugIn.toStdString(),
+                                .roamingFolder = options.roamingFolder.toStdString(),
+                                .appFolder = options.appFolder.toStdString(),
+                                .locale = locale.toStdString(),
+                                .frontEnd = &frontEnd});
+    window.ShowPlugIn(*service, options.fonts);
     return true;
-} catch (const Failure& failure) {
-    fError = QString::fromUtf8(failure.what());
+} catch (const RequestFailure& failure) {
+    error = QString::fromStdString(Sentence(failure, LanguageOf(locale.toStdString())));
     return false;
 }
 
 void Workbench::StopHost() {
-    fWindow.HidePlugIn();
-    if (fService) fService->Stop();
-    fService.reset();
+    window.HidePlugIn();
+    if (service) service->Stop();
+    service.reset();
 }
 
 }  // namespace linewright

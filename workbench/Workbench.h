@@ -24,7 +24,7 @@ struct WorkbenchOptions {
 /** The desktop program: the host with the plug-in, and the window to use them in. */
 class Workbench final {
   public:
-    explicit Workbench(const WorkbenchOptions& options);
+    explicit Workbench(const WorkbenchOptions& wanted);
     Workbench(const Workbench&) = delete;
     Workbench& operator=(const Workbench&) = delete;
     ~Workbench();
@@ -32,8 +32,8 @@ class Workbench final {
     /** Starts the host and fills the window. False when the plug-in cannot be started; Error()
      *  says why. */
     bool Start();
-    QString Error() const { return fError; }
-    MainWindow& Window() { return fWindow; }
+    QString Error() const { return error; }
+    MainWindow& Window() { return window; }
 
     /** Starts the host anew with another language, which is remembered. Dialogs that are open are
      *  closed; nothing happens while a modal one is. */
@@ -43,12 +43,12 @@ class Workbench final {
     bool StartHost(const QString& locale);
     void StopHost();
 
-    WorkbenchOptions fOptions;
-    QSettings fSettings;
-    MainWindow fWindow;
-    WindowFrontEnd fFrontEnd;
-    std::optional<Service> fService;
-    QString fError;
+    WorkbenchOptions options;
+    QSettings settings;
+    MainWindow window;
+    WindowFrontEnd frontEnd;
+    std::optional<Service> service;
+    QString error;
 };
 
 }  // namespace linewright

@@ -1,7 +1,7 @@
 #include "CAlert.h"
 
+#include "host/runtime/HostText.h"
 #include "host/runtime/Running.h"
-#include "host/runtime/Utf8.h"
 
 namespace {
 

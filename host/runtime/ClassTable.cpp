@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "host/runtime/Dialog.h"
-#include "host/runtime/Platform.h"
+#include "host/runtime/Paths.h"
 #include "host/runtime/ResourceFile.h"
 
 namespace fs = std::filesystem;
@@ -46,7 +46,7 @@ class Registrations {
             if (fUsed.contains(id)) continue;
             throw std::runtime_error("implementation " + Hex(id) + " (" + record->className +
                                      ") is registered by the plug-in but used by no class in " +
-                                     ToUtf8(resources));
+                                     Utf8FromPath(resources));
         }
     }
 
@@ -110,7 +110,7 @@ BossClass ReadClass(const ResourceFile& file, const toml::table& table,
 ClassTable::ClassTable(const fs::path& resources, const PlugIn& plugIn) {
     const std::vector<fs::path> files = TomlFilesIn(resources);
     if (files.empty()) {
-        throw std::runtime_error("resource file missing: no .toml in " + ToUtf8(resources));
+        throw std::runtime_error("resource file missing: no .toml in " + Utf8FromPath(resources));
     }
     Registrations registrations(plugIn);
     for (const fs::path& path : files) {

@@ -4,7 +4,7 @@
 
 #include "InterfacePtr.h"
 #include "host/runtime/FileStream.h"
-#include "host/runtime/Platform.h"
+#include "host/runtime/Paths.h"
 
 namespace fs = std::filesystem;
 
@@ -60,9 +60,9 @@ Records ReadRecords(const fs::path& file) {
     Records records;
     if (!fs::exists(file)) return records;
     const InterfacePtr<IPMStream> stream(OpenForReading(file));
-    if (!stream) throw std::runtime_error("cannot read " + ToUtf8(file));
+    if (!stream) throw std::runtime_error("cannot read " + Utf8FromPath(file));
     if (!ReadAll(*stream.get(), fs::file_size(file), records)) {
-        throw std::runtime_error("the application database is damaged: " + ToUtf8(file) +
+        throw std::runtime_error("the application database is damaged: " + Utf8FromPath(file) +
                                  "; without this file the host starts with an empty one");
     }
     return records;

@@ -2,9 +2,9 @@
 
 #include "host/runtime/Faults.h"
 #include "host/runtime/FilePath.h"
-#include "host/runtime/Platform.h"
+#include "host/runtime/HostText.h"
+#include "host/runtime/Paths.h"
 #include "host/runtime/Running.h"
-#include "host/runtime/Utf8.h"
 
 namespace fs = std::filesystem;
 

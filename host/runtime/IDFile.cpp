@@ -1,9 +1,9 @@
 #include "IDFile.h"
 
 #include "host/runtime/FilePath.h"
+#include "host/runtime/HostText.h"
 #include "host/runtime/Make.h"
-#include "host/runtime/Platform.h"
-#include "host/runtime/Utf8.h"
+#include "host/runtime/Paths.h"
 
 struct IDFile::Path {
     PMString text;
@@ -40,7 +40,7 @@ std::filesystem::path PathOf(const IDFile& file) {
 }
 
 void SetPath(IDFile& file, const std::filesystem::path& path) {
-    file.SetString(PlainText(ToUtf8(path)));
+    file.SetString(PlainText(Utf8FromPath(path)));
 }
 
 }  // namespace host

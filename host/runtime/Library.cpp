@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "host/runtime/Platform.h"
+#include "host/runtime/Paths.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -17,7 +17,8 @@ namespace host {
 namespace {
 
 std::runtime_error LoadError(const fs::path& path, const std::string& reason) {
-    return std::runtime_error("plug-in library cannot be loaded: " + ToUtf8(path) + ": " + reason);
+    return std::runtime_error("plug-in library cannot be loaded: " + Utf8FromPath(path) + ": " +
+                              reason);
 }
 
 }  // namespace

@@ -21,15 +21,6 @@ namespace fs = std::filesystem;
 
 namespace host {
 
-fs::path PathFromUtf8(std::string_view text) {
-    return {std::u8string(text.begin(), text.end())};
-}
-
-std::string ToUtf8(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
-
 #ifdef _WIN32
 
 std::optional<fs::path> ProgramFolder() {

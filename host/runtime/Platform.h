@@ -4,15 +4,10 @@
 #include <cstdio>
 #include <filesystem>
 #include <optional>
-#include <string>
-#include <string_view>
 
-// What differs from system to system, and the file system in UTF-8.
+// What differs from system to system.
 
 namespace host {
-
-std::filesystem::path PathFromUtf8(std::string_view text);
-std::string ToUtf8(const std::filesystem::path& path);
 
 /** The folder of the running program; none when the system does not tell. */
 std::optional<std::filesystem::path> ProgramFolder();

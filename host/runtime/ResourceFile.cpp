@@ -5,8 +5,9 @@
 #include <limits>
 #include <stdexcept>
 
+#include "host/runtime/Paths.h"
 #include "host/runtime/Platform.h"
-#include "host/runtime/Utf8.h"
+#include "text/Utf8.h"
 
 namespace fs = std::filesystem;
 
@@ -16,7 +17,7 @@ namespace {
 
 std::string ReadWhole(const fs::path& path) {
     std::FILE* const file = fs::is_directory(path) ? nullptr : OpenFile(path, OpenMode::kRead);
-    if (!file) throw std::runtime_error("resource file missing: " + ToUtf8(path));
+    if (!file) throw std::runtime_error("resource file missing: " + Utf8FromPath(path));
     std::string content;
     char part[4096];
     while (const std::size_t count = std::fread(part, 1, sizeof part, file)) {
@@ -24,7 +25,7 @@ std::string ReadWhole(const fs::path& path) {
     }
     const bool failed = std::ferror(file) != 0;
     std::fclose(file);
-    if (failed) throw std::runtime_error("resource file cannot be read: " + ToUtf8(path));
+    if (failed) throw std::runtime_error("resource file cannot be read: " + Utf8FromPath(path));
     return content;
 }
 
@@ -32,10 +33,9 @@ std::string ReadWhole(const fs::path& path) {
  *  the same: toml++ 3.3 runs into undefined behaviour where such a letter begins a continued line.
  *  What is not UTF-8 stays, for the parser to refuse. */
 std::string Escaped(const std::string& utf8) {
-    const std::u32string text = FromUtf8(utf8);
-    if (ToUtf8(std::u32string_view(text)) != utf8) return utf8;
+    if (linewright::FirstInvalidUtf8(utf8)) return utf8;
     std::string result;
-    for (const char32_t c : text) {
+    for (const char32_t c : linewright::CharactersFromUtf8(utf8)) {
         if (c < 0x80) {
             result += static_cast<char>(c);
             continue;
@@ -64,7 +64,7 @@ std::vector<fs::path> TomlFilesIn(const fs::path& folder) {
     return files;
 }
 
-ResourceFile::ResourceFile(const fs::path& path) : fName(ToUtf8(path)) {
+ResourceFile::ResourceFile(const fs::path& path) : fName(Utf8FromPath(path)) {
     try {
         fRoot = toml::parse(Escaped(ReadWhole(path)), fName);
     } catch (const toml::parse_error& error) {

@@ -9,6 +9,7 @@
 #include "FileUtils.h"
 #include "host/runtime/Dialog.h"
 #include "host/runtime/Faults.h"
+#include "host/runtime/Paths.h"
 #include "host/runtime/Platform.h"
 #include "host/runtime/Session.h"
 
@@ -42,9 +43,9 @@ std::string Join(const std::vector<std::string>& names) {
 
 PlugIn& FindPlugIn(const Library& library, const fs::path& path) {
     const auto entry = reinterpret_cast<PlugIn* (*)()>(library.Find("GetPlugIn"));
-    if (!entry) throw std::runtime_error("no plug-in, GetPlugIn is missing: " + ToUtf8(path));
+    if (!entry) throw std::runtime_error("no plug-in, GetPlugIn is missing: " + Utf8FromPath(path));
     PlugIn* const plugIn = entry();
-    if (!plugIn) throw std::runtime_error("GetPlugIn gives no plug-in: " + ToUtf8(path));
+    if (!plugIn) throw std::runtime_error("GetPlugIn gives no plug-in: " + Utf8FromPath(path));
     return *plugIn;
 }
 
@@ -62,7 +63,7 @@ void Running::Start(const Settings& settings) {
     const fs::path plugIn = PathFromUtf8(settings.plugin);
     const fs::path resources = plugIn.parent_path() / "resources";
     if (!fs::is_regular_file(plugIn)) {
-        throw std::runtime_error("plug-in library missing: " + ToUtf8(plugIn));
+        throw std::runtime_error("plug-in library missing: " + Utf8FromPath(plugIn));
     }
     if (settings.frontEnd) frontEnd = settings.frontEnd;
     SetFolders(settings);

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "host/runtime/Platform.h"
+#include "host/runtime/Paths.h"
 #include "host/runtime/ResourceFile.h"
-#include "host/runtime/Utf8.h"
+#include "text/Utf8.h"
 
 namespace fs = std::filesystem;
 
@@ -33,7 +33,7 @@ std::vector<std::string> ListLocales(const fs::path& resources) {
     std::vector<std::string> locales{std::string(kPseudoLocale)};
     if (fs::is_directory(FolderIn(resources))) {
         for (const fs::path& file : TomlFilesIn(FolderIn(resources))) {
-            locales.push_back(ToUtf8(file.stem()));
+            locales.push_back(Utf8FromPath(file.stem()));
         }
     } else {
         locales.emplace_back(kDefaultLocale);
@@ -50,8 +50,8 @@ StringTable::StringTable(const fs::path& resources, std::string_view locale) {
     for (const auto& [name, node] : file.Root()) {
         const auto text = node.value_exact<std::string_view>();
         if (!text) file.Fail(node, "the text of a key is a string");
-        const std::u32string key = FromUtf8(name.str());
-        const std::u32string value = FromUtf8(*text);
+        const std::u32string key = linewright::CharactersFromUtf8(name.str());
+        const std::u32string value = linewright::CharactersFromUtf8(*text);
         fTexts.emplace(key, isPseudo ? PseudoText(key, value) : value);
     }
 }

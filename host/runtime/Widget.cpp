@@ -8,7 +8,7 @@
 #include "WidgetID.h"
 #include "host/runtime/Dialog.h"
 #include "host/runtime/Halt.h"
-#include "host/runtime/Utf8.h"
+#include "host/runtime/HostText.h"
 
 namespace host {
 
@@ -70,15 +70,15 @@ bool Widget::CanBeUsed(WidgetKind kind) const {
 bool Widget::Type(const PMString& text) {
     if (!CanBeUsed(WidgetKind::kEditBox)) return false;
     const InterfacePtr<IPMUnknown> alive(&fDialog, IID_IPMUNKNOWN);
-    const std::u32string typed = FromUtf8(ToUtf8(text));
+    const std::u32string typed = linewright::CharactersFromUtf8(ToUtf8(text));
     const std::u32string accepted = Accepted(typed);
     if (accepted != typed) SysBeep();
-    Store(PlainText(ToUtf8(std::u32string_view(accepted))), true);
+    Store(PlainText(linewright::Utf8FromCharacters(accepted)), true);
     return true;
 }
 
 std::u32string Widget::Accepted(std::u32string_view typed) const {
-    const std::u32string old = FromUtf8(ToUtf8(fText));
+    const std::u32string old = linewright::CharactersFromUtf8(ToUtf8(fText));
     const std::size_t shorter = std::min(old.size(), typed.size());
     const auto front = static_cast<std::size_t>(
         std::mismatch(old.begin(), old.begin() + static_cast<std::ptrdiff_t>(shorter),

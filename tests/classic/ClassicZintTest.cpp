@@ -134,7 +134,7 @@ TEST_F(ClassicZint, DrawsTheSameCodabar) {
 
 // --------------------------------------------------------------------------- Interleaved 2 of 5
 
-std::string DrawI2of5(const std::string& symbol) {
+std::string DrawInterleaved2of5(const std::string& symbol) {
     std::string elements;
     for (const char character : symbol) {
         switch (character) {
@@ -154,7 +154,8 @@ TEST_F(ClassicZint, DrawsTheSameInterleaved2of5WithoutCheckDigit) {
     preferences.i2of5CheckDigit = 0;
     for (int count = 0; count < kSymbols; ++count) {
         const std::string data = RandomText(random, "0123456789", 60);
-        ASSERT_EQ(DrawI2of5(FontString(11, data)), ZintModules(BARCODE_C25INTER, data)) << data;
+        ASSERT_EQ(DrawInterleaved2of5(FontString(11, data)), ZintModules(BARCODE_C25INTER, data))
+            << data;
     }
 }
 
@@ -162,7 +163,8 @@ TEST_F(ClassicZint, DrawsTheSameInterleaved2of5WithoutCheckDigit) {
 TEST_F(ClassicZint, DrawsTheSameInterleaved2of5WithCheckDigit) {
     for (int count = 0; count < kSymbols; ++count) {
         const std::string data = RandomDigits(random, 1 + 2 * (random() % 30));
-        ASSERT_EQ(DrawI2of5(FontString(11, data)), ZintModules(BARCODE_C25INTER, data, 1)) << data;
+        ASSERT_EQ(DrawInterleaved2of5(FontString(11, data)), ZintModules(BARCODE_C25INTER, data, 1))
+            << data;
     }
 }
 
@@ -174,7 +176,8 @@ TEST_F(ClassicZint, DrawsTheSameInterleaved2of5WithCheckDigitOfEvenData) {
         for (std::size_t place = 0; place < data.size(); ++place)
             sum += (data[place] - '0') * (place % 2 == 0 ? 3 : 1);
         const std::string digits = data + "0" + std::to_string((100'000 - sum) % 10);
-        ASSERT_EQ(DrawI2of5(FontString(11, data)), ZintModules(BARCODE_C25INTER, digits)) << data;
+        ASSERT_EQ(DrawInterleaved2of5(FontString(11, data)), ZintModules(BARCODE_C25INTER, digits))
+            << data;
     }
 }
 

@@ -6,15 +6,15 @@
 #include <sstream>
 
 #include "cli/Command.h"
-#include "cli/Utf8.h"
+#include "host/runtime/Paths.h"
 
 namespace linewright {
 
 CommandRunner::CommandRunner() {
     std::random_device random;
-    folder =
-        std::filesystem::temp_directory_path() /
-        PathFromUtf8("linewright-cli-é-" + std::to_string(random()) + std::to_string(random()));
+    folder = std::filesystem::temp_directory_path() /
+             host::PathFromUtf8("linewright-cli-é-" + std::to_string(random()) +
+                                std::to_string(random()));
     std::filesystem::create_directories(folder / "config");
     std::filesystem::create_directories(folder / "app");
 }
@@ -39,16 +39,16 @@ CommandRunner::Result CommandRunner::Run(std::vector<std::string> arguments,
 }
 
 std::string CommandRunner::Place(const std::string& name) const {
-    return Utf8FromPath(folder / PathFromUtf8(name));
+    return host::Utf8FromPath(folder / host::PathFromUtf8(name));
 }
 
 std::string CommandRunner::Write(const std::string& name, const std::string& content) const {
-    std::ofstream(folder / PathFromUtf8(name), std::ios::binary) << content;
+    std::ofstream(folder / host::PathFromUtf8(name), std::ios::binary) << content;
     return Place(name);
 }
 
 std::string CommandRunner::Read(const std::string& name) const {
-    std::ifstream file(folder / PathFromUtf8(name), std::ios::binary);
+    std::ifstream file(folder / host::PathFromUtf8(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 

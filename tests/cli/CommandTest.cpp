@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "cli/Utf8.h"
 #include "tests/cli/CommandRunner.h"
 
 namespace linewright {
@@ -34,6 +35,19 @@ TEST(Help, FitsAScreenAndHasAnExample) {
             start = end + 1;
         }
     }
+}
+
+TEST(Help, ListsItselfAndNamesOptionsAsTheyAreTyped) {
+    const CommandRunner command;
+    for (std::vector<std::string> words : kCommands) {
+        words.emplace_back("-h");
+        const auto result = command.Run(words);
+        EXPECT_THAT(result.out, HasSubstr("\n  -h,--help  ")) << testing::PrintToString(words);
+        EXPECT_THAT(result.out, testing::Not(HasSubstr("{false}")))
+            << testing::PrintToString(words);
+    }
+    EXPECT_THAT(command.Run({"draw", "-h"}).out, HasSubstr("\n  --text,--no-text  "));
+    EXPECT_THAT(command.Run({"-h"}).out, HasSubstr("--version"));
 }
 
 TEST(Help, VersionIsPrinted) {
@@ -69,6 +83,78 @@ TEST(Usage, MistakesEndWithTwo) {
         EXPECT_EQ(result.status, 2) << testing::PrintToString(words);
         EXPECT_EQ(result.out, "") << testing::PrintToString(words);
         EXPECT_NE(result.err, "") << testing::PrintToString(words);
+    }
+}
+
+/** A mistake, and what is said of it between "linewright: " and the advice at the end. */
+struct Mistake {
+    std::vector<std::string> words;
+    std::string sentence;
+    std::string command;
+};
+
+TEST(Usage, MistakesAreNamed) {
+    const CommandRunner command;
+    const std::vector<Mistake> mistakes{
+        {{}, "A subcommand is required", "linewright"},
+        {{"encod", "ean13", "1"},
+         "there is no \"linewright encod\"; nearest: linewright encode",
+         "linewright"},
+        {{"fnts"}, "there is no \"linewright fnts\"; nearest: linewright fonts", "linewright"},
+        {{"prefs", "get"},
+         "there is no \"linewright prefs get\"; nearest: linewright prefs set",
+         "linewright prefs"},
+        {{"fonts", "instal"},
+         "there is no \"linewright fonts instal\"; nearest: linewright fonts install",
+         "linewright fonts"},
+        {{"--locle", "deDE", "types"}, "\"--locle\" is not expected here", "linewright types"},
+        {{"types", "more"}, "\"more\" is not expected here", "linewright types"},
+        {{"types", "--jsn"}, "\"--jsn\" is not expected here", "linewright types"},
+        {{"encode", "ean13", "--"}, "DATA is required", "linewright encode"},
+        {{"draw", "ean13", "1"}, "--output is required", "linewright draw"},
+        {{"encode", "code39", "A", "--hex", "--json"},
+         "--json excludes --hex",
+         "linewright encode"},
+        {{"dialog", "25O"}, "ID: 25O not in {250,251}", "linewright dialog"},
+    };
+    for (const auto& [words, sentence, about] : mistakes) {
+        const auto result = command.Run(words);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.err, "linewright: " + sentence + "; see " + about + " --help\n");
+    }
+}
+
+TEST(Usage, ControlCharactersStayOffTheTerminal) {
+    const CommandRunner command;
+    const std::string evil = "\x1B[2Ja\r\n\x7F\u009B\xFF.pdf";
+    const std::vector<std::vector<std::string>> mistakes{
+        {evil},
+        {"types", evil},
+        {"types", "--plugin", evil},
+        {"types", "--" + evil},
+        {"encode", evil, "1"},
+        {"encode", "code39", "A", "--ratio", evil},
+        {"encode", "ean13", evil},
+        {"encode", "ean13", evil, "--strict"},
+        {"batch", evil},
+        {"batch", "-", "-o", "no/such/" + evil},
+        {"batch", "-", "--delimiter", evil},
+        {"batch", "-", "--column", evil},
+        {"prefs", "set", evil},
+        {"prefs", "set", "codabarStart=" + evil},
+        {"dialog", evil},
+        {"dialog", "250", "--set", evil},
+        {"dialog", "250", "--press", evil},
+        {"fonts", "install", "--fonts", evil},
+        {"draw", "ean13", "1", "-o", evil + "x"},
+        {"draw", "ean13", "400638133393", "-o", "no/such/" + evil},
+        {"draw", "ean13", "400638133393", "-o", "x.pdf", "--height", evil},
+    };
+    for (const auto& words : mistakes) {
+        std::string err = command.Run(words).err;
+        ASSERT_TRUE(err.ends_with('\n')) << testing::PrintToString(words);
+        std::erase(err, '\n');
+        EXPECT_EQ(Readable(err), err) << testing::PrintToString(words);
     }
 }
 
@@ -112,12 +198,20 @@ TEST(Types, AreListedInThePlugInsOrder) {
                                {"type", "_QVT_BARCODE_CODE39_"},
                                {"shortName", "code39"},
                                {"displayText", "0x122100kLWRUtilityTypePopupItem7Key"},
+                               {"font", "Linewright Bars"},
+                               {"modulesPerEm", 32},
+                               {"xDimension", 0.254},
                                {"optionFlag1", 1},
                                {"optionFlag2", 1},
                                {"optionFlag3", 1}}));
     EXPECT_EQ(types[18]["shortName"], "ean8");
+    EXPECT_EQ(types[18]["font"], "Linewright EAN UPC");
+    EXPECT_EQ(types[18]["xDimension"], 0.33);
     EXPECT_EQ(types[18]["optionFlag2"], 1);
     EXPECT_EQ(types[20]["shortName"], "i2of5-text");
+    for (const char* const name : {"font", "modulesPerEm", "xDimension"}) {
+        EXPECT_EQ(types[20].at(name), nullptr) << "digits for any face";
+    }
     EXPECT_EQ(types[26]["type"], "_QVT_BARCODE_POSTNET_");
 }
 
@@ -174,6 +268,55 @@ TEST(Encode, TakesTypeNamesToo) {
     EXPECT_EQ(CommandRunner().Run({"encode", "_BARCODE_CODE128B_", "AB"}).out, "ˆAB†Š\n");
 }
 
+TEST(Encode, TakesTheNamesThatPeopleWrite) {
+    const CommandRunner command;
+    const auto encoded = [&](const char* type, const char* data) {
+        return command.Run({"encode", type, data}).out;
+    };
+    EXPECT_EQ(encoded("EAN-13", "4006381333931"), encoded("ean13", "4006381333931"));
+    EXPECT_EQ(encoded("ISBN", "9780306406157"), encoded("ean13", "9780306406157"));
+    EXPECT_EQ(encoded("ITF-14", "15400141288763"), encoded("i2of5", "15400141288763"));
+    EXPECT_EQ(encoded("GS1-128", "(10)AB"), encoded("code128", "(10)AB"));
+}
+
+TEST(Encode, WarnsWhereANameMeansMoreThanItsType) {
+    const CommandRunner command;
+    EXPECT_THAT(command.Run({"encode", "GS1-128", "AB"}).err, HasSubstr("application identifiers"));
+    EXPECT_EQ(command.Run({"encode", "GS1-128", "(10)AB"}).err, "");
+    EXPECT_EQ(command.Run({"encode", "code128", "AB"}).err, "");
+    EXPECT_THAT(command.Run({"encode", "ITF-14", "1234"}).err, HasSubstr("14 digits"));
+    EXPECT_EQ(command.Run({"encode", "ITF-14", "15400141288763"}).err, "");
+    EXPECT_EQ(command.Run({"encode", "ITF-14", "1540014128876", "--check"}).err, "");
+    EXPECT_EQ(command.Run({"encode", "i2of5", "1234"}).err, "");
+}
+
+TEST(Encode, WarnsByTheBeginningOfATypeNameAsThePlugInKnowsIt) {
+    const CommandRunner command;
+    for (const char* const type : {"_QVT_BARCODE_EAN13_", "_QVT_BARCODE_EAN13_ "}) {
+        const auto strict = command.Run({"encode", type, "4006381333937", "--strict"});
+        EXPECT_EQ(strict.status, 1) << type;
+        EXPECT_EQ(strict.out, "") << type;
+        EXPECT_THAT(strict.err, HasSubstr("the check digit 7 was replaced")) << type;
+    }
+}
+
+// The check character of 60 "z" needs a sum above 16 bits: no scanner takes the symbol.
+TEST(Encode, RefusesWhatNoScannerReadsWhenItIsStrict) {
+    const auto result =
+        CommandRunner().Run({"encode", "classic-code128b", std::string(60, 'z'), "--strict"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+}
+
+TEST(Encode, SpeaksOneLanguage) {
+    const CommandRunner command;
+    const auto result =
+        command.Run({"encode", "ean13", "4006381333937", "--strict", "--locale", "deDE"});
+    EXPECT_EQ(result.err,
+              "linewright: warning: die Prüfziffer 7 wurde durch die berechnete ersetzt, 1\n"
+              "linewright: refused: es gibt eine Warnung, und Warnungen werden abgelehnt\n");
+}
+
 TEST(Encode, TakesAnyData) {
     const CommandRunner command;
     // Words of the command line's own, and what looks like an option behind "--".
@@ -217,7 +360,7 @@ TEST(Encode, SaysWhyItRefuses) {
     EXPECT_EQ(hint.out, "");
     EXPECT_EQ(hint.err,
               "linewright: refused (status -6300): 0x122100kLWRBarCodeLengthBetweenHint|20|31\n");
-    const auto words = command.Run({"encode", "classic-code39", "abc", "--json"});
+    const auto words = command.Run({"encode", "classic-code39", "abc", "--hex"});
     EXPECT_EQ(words.status, 1);
     EXPECT_EQ(words.out, "");
     EXPECT_EQ(words.err, "linewright: refused (status -1): Bad Code 39\n");
@@ -225,6 +368,41 @@ TEST(Encode, SaysWhyItRefuses) {
     EXPECT_THAT(sentence.err, StartsWith("linewright: refused (status -6300): The Routing String"));
     const auto process = command.Run({"encode", "code128", ""});
     EXPECT_EQ(process.err, "linewright: refused (status 1000): Barcode Process Error\n");
+}
+
+TEST(Encode, PrintsAnObjectForARefusalToo) {
+    const CommandRunner command;
+    const auto run = [&](const char* type, const char* data) {
+        const auto result =
+            command.Run({"encode", type, data, "--json", "--strict", "--locale", "qps"});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_THAT(result.err, HasSubstr("linewright: refused"));
+        return json::parse(result.out);
+    };
+    const json none = json::array();
+    const std::string hint = "0x122100kLWRBarCodeLengthBetweenHint|20|31";
+    EXPECT_EQ(run("imb", "1"), (json{{"type", "_BARCODE_USPS_IM_"},
+                                     {"shortName", "imb"},
+                                     {"status", -6300},
+                                     {"message", hint},
+                                     {"hint", hint},
+                                     {"warnings", none}}));
+    EXPECT_EQ(run("classic-code39", "abc"), (json{{"type", "_BARCODE_CODE39_"},
+                                                  {"shortName", "classic-code39"},
+                                                  {"status", -1},
+                                                  {"message", "Bad Code 39"},
+                                                  {"hint", ""},
+                                                  {"warnings", none}}));
+    const json unknown = run("\x1B\xFF", "1");
+    EXPECT_EQ(unknown["type"], "\x1B\uFFFD");
+    EXPECT_EQ(unknown["shortName"], "");
+    EXPECT_EQ(unknown["status"], nullptr);
+    EXPECT_THAT(unknown["message"].get<std::string>(), StartsWith("there is no type"));
+    const json strict = run("classic-codabar", "");
+    EXPECT_EQ(strict["status"], nullptr);
+    EXPECT_EQ(strict["message"], "a warning, and --strict is on");
+    EXPECT_EQ(strict["warnings"], json{"the data is empty"});
+    EXPECT_FALSE(strict.contains("hex"));
 }
 
 TEST(Encode, OffersNamesForAnUnknownType) {
@@ -250,7 +428,8 @@ TEST(Encode, WarnsAndIsStrictWhenAsked) {
     const auto strict = command.Run(words);
     EXPECT_EQ(strict.status, 1);
     EXPECT_EQ(strict.out, "");
-    EXPECT_EQ(strict.err, lenient.err + "linewright: refused: a warning, and --strict is on\n");
+    EXPECT_EQ(strict.err,
+              lenient.err + "linewright: refused: there is a warning, and warnings are refused\n");
 }
 
 TEST(Encode, ListsWarningsInJson) {

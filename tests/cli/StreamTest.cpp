@@ -7,7 +7,6 @@
 #include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
-#include "cli/Utf8.h"
 #include "tests/cli/CommandRunner.h"
 
 namespace linewright {
@@ -16,9 +15,14 @@ namespace {
 
 using nlohmann::json;
 
+EncodeRequest Parsed(std::string_view line) {
+    std::string id;
+    return ParseStreamRequest(line, id);
+}
+
 std::string WhyRefused(std::string_view line) {
     try {
-        ParseStreamRequest(line);
+        Parsed(line);
         return "";
     } catch (const Failure& failure) {
         return failure.what();
@@ -26,7 +30,7 @@ std::string WhyRefused(std::string_view line) {
 }
 
 TEST(StreamRequest, TakesTextWithConversion) {
-    const EncodeRequest request = ParseStreamRequest(R"({"type":"_X_","data":"a\u0000é"})");
+    const EncodeRequest request = Parsed(R"({"type":"_X_","data":"a\u0000é"})");
     EXPECT_EQ(request.typeName, "_X_");
     EXPECT_EQ(request.data, std::string("a\0\xC3\xA9", 4));
     EXPECT_TRUE(request.isUtf8);
@@ -35,16 +39,16 @@ TEST(StreamRequest, TakesTextWithConversion) {
 }
 
 TEST(StreamRequest, TakesBytesAsTheyAre) {
-    EncodeRequest request = ParseStreamRequest(R"({"typeHex":"00FF","hex":"c3A9"})");
+    EncodeRequest request = Parsed(R"({"typeHex":"00FF","hex":"c3A9"})");
     EXPECT_EQ(request.typeName, std::string("\0\xFF", 2));
     EXPECT_EQ(request.data, "\xC3\xA9");
     EXPECT_FALSE(request.isUtf8);
-    request = ParseStreamRequest(R"({"type":"","hex":"","utf8":true,"check":255,"ratio":-1e300})");
+    request = Parsed(R"({"type":"","hex":"","utf8":true,"check":255,"ratio":-1e300})");
     EXPECT_TRUE(request.isUtf8);
     EXPECT_EQ(request.checkCharacter, 255);
     EXPECT_EQ(request.ratio, -1e300);
-    EXPECT_EQ(ParseStreamRequest(R"({"type":"","hex":"","check":true})").checkCharacter, 1);
-    EXPECT_EQ(ParseStreamRequest(R"({"type":"","hex":"","ratio":3})").ratio, 3.0);
+    EXPECT_EQ(Parsed(R"({"type":"","hex":"","check":true})").checkCharacter, 1);
+    EXPECT_EQ(Parsed(R"({"type":"","hex":"","ratio":3})").ratio, 3.0);
 }
 
 TEST(StreamRequest, SaysWhatIsWrong) {
@@ -66,16 +70,57 @@ TEST(StreamRequest, SaysWhatIsWrong) {
     EXPECT_EQ(
         WhyRefused(R"({"type":"","data":"","ratoi":3})"),
         R"(there is no member "ratoi"; the members are type, typeHex, data, hex, utf8, check, )"
-        "ratio");
+        "ratio, id");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":"3"})"), R"("ratio" is not a number)");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":1e999})"), "a number is too large");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","utf8":false})"),
               R"("data" is always converted; send "hex" for data that is not)");
-    EXPECT_TRUE(ParseStreamRequest(R"({"type":"","data":"","utf8":true})").isUtf8);
+    EXPECT_TRUE(Parsed(R"({"type":"","data":"","utf8":true})").isUtf8);
     EXPECT_EQ(WhyRefused(R"({"type":"","hex":"","utf8":1})"), R"("utf8" is not a boolean)");
     for (const char* const check : {"256", "-1", "1.5", "\"1\"", "null"}) {
         EXPECT_EQ(WhyRefused(R"({"type":"","data":"","check":)" + std::string(check) + "}"),
                   R"("check" is not a whole number from 0 to 255 or a boolean)");
+    }
+}
+
+TEST(StreamRequest, HasEachMemberOnce) {
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":"1","data":"2"})"),
+              R"(the member "data" stands twice)");
+    EXPECT_EQ(WhyRefused(R"({"type":"","data":"1","\u0064ata":"1"})"),
+              R"(the member "data" stands twice)");
+    EXPECT_EQ(WhyRefused(R"({"type":"","\u001b":"1","\u001b":"2"})"),
+              "the member \"␛\" stands twice");
+}
+
+/** What comes back as the id of a line, whether or not the line is a request. */
+std::string IdOf(std::string_view line) {
+    std::string id = "of another line";
+    try {
+        ParseStreamRequest(line, id);
+    } catch (const Failure&) {
+        return id;
+    }
+    return id;
+}
+
+TEST(StreamRequest, KeepsItsIdAsItWas) {
+    for (const char* const id :
+         {"7", "-7", "1.10", "1e5", "12345678901234567890123", "0.1000000000000000055", "true",
+          "false", "null", R"("")", R"("a\"b\\\u001bé")"}) {
+        const std::string member = R"("id":)" + std::string(id);
+        EXPECT_EQ(IdOf(R"({"type":"","data":"",)" + member + "}"), id);
+        EXPECT_EQ(IdOf("{" + member + R"(,"ratoi":1})"), id) << "a member that is none";
+        EXPECT_EQ(IdOf(R"({"data":[{}],)" + member + "}"), id) << "nesting in front";
+        EXPECT_EQ(IdOf(R"({"data":1,"data":2,)" + member + "}"), id) << "twice in front";
+        EXPECT_EQ(IdOf("{" + member + R"(,"data)"), id) << "broken off";
+    }
+}
+
+TEST(StreamRequest, HasNoIdThatCannotBeTold) {
+    for (const char* const line :
+         {R"({"type":"","data":""})", "", R"([{"id":1}])", R"({"data":{"id":1}})", R"({"id":[1]})",
+          R"({"id":1,"id":1})", R"({"id":1e999})", R"({"id":"a)"}) {
+        EXPECT_EQ(IdOf(line), "") << line;
     }
 }
 
@@ -215,6 +260,22 @@ TEST(Stream, GoesOnAfterLinesThatAreNoRequests) {
     EXPECT_EQ(answers[2]["status"], 0);
     EXPECT_EQ(answers[3]["error"], "line 4: no valid JSON from byte 1 on");
     EXPECT_EQ(answers[4]["error"], "line 5: no object stands here");
+}
+
+TEST(Stream, PutsTheIdInFront) {
+    const CommandRunner command;
+    const auto result =
+        command.Run({"stream"}, R"({"type":"_BARCODE_CODE128B_","data":"AB","id":1.10}
+{"id":"a\"é","type":"x"}
+{"type":"x","data":""}
+)");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(
+        result.out,
+        R"({"id":1.10,"status":0,"recognised":true,"hex":"884142868a","text":"ˆAB†Š","hint":""}
+{"id":"a\"é","error":"line 2: there is neither \"data\" nor \"hex\""}
+{"status":0,"recognised":false,"hex":"","text":"","hint":""}
+)");
 }
 
 TEST(Stream, OfNothingIsNothing) {

@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <nlohmann/json.hpp>
-
 #include "cli/Encoding.h"
 #include "cli/Hex.h"
+#include "tests/JsonLines.h"
 #include "tests/cli/CommandRunner.h"
 #include "types/WrittenType.h"
 
@@ -14,54 +12,39 @@ namespace linewright {
 
 namespace {
 
-struct Row {
-    int line;
-    nlohmann::json fields;
-
-    EncodeRequest Request() const {
-        const bool isText = fields.contains("data");
-        return {
-            .typeName = fields.at("type"),
-            .data = isText ? fields.at("data").get<std::string>()
-                           : FromHex(fields.at("hex").get<std::string>()).value(),
-            .isUtf8 = fields.value("utf8", isText),
-        };
-    }
-    std::vector<std::string> Expected() const { return fields.at("warnings"); }
-};
-
-std::vector<Row> Rows() {
-    std::vector<Row> rows;
-    std::ifstream file(LINEWRIGHT_CLI_TESTS "/warnings.jsonl", std::ios::binary);
-    int number = 0;
-    for (std::string line; std::getline(file, line);) {
-        rows.push_back({++number, nlohmann::json::parse(line)});
-    }
-    return rows;
+EncodeRequest RequestOf(const JsonLine& row) {
+    const nlohmann::json& fields = row.fields;
+    const bool isText = fields.contains("data");
+    return {
+        .typeName = fields.at("type"),
+        .data = isText ? fields.at("data").get<std::string>()
+                       : FromHex(fields.at("hex").get<std::string>()).value(),
+        .isUtf8 = fields.value("utf8", isText),
+    };
 }
 
-std::string NameOf(const testing::TestParamInfo<Row>& info) {
-    return "Line" + std::to_string(info.param.line);
+std::vector<std::string> ExpectedOf(const JsonLine& row) {
+    return row.fields.at("warnings");
 }
 
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.fields.at("type");
+std::vector<JsonLine> Rows() {
+    return ReadJsonLines(LINEWRIGHT_CLI_TESTS "/warnings.jsonl");
 }
 
-class WarningsTest : public testing::TestWithParam<Row> {};
+class WarningsTest : public testing::TestWithParam<JsonLine> {};
 
 TEST_P(WarningsTest, SayWhatThePlugInDoes) {
-    const EncodeRequest request = GetParam().Request();
-    EXPECT_EQ(Warnings(FindWrittenType(request.typeName).type->name, request.data, request.isUtf8),
-              GetParam().Expected())
+    const EncodeRequest request = RequestOf(GetParam());
+    EXPECT_EQ(Warnings(TypeNameOf(request.typeName), request.data, request.isUtf8),
+              ExpectedOf(GetParam()))
         << GetParam().fields;
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, WarningsTest, testing::ValuesIn(Rows()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Rows, WarningsTest, testing::ValuesIn(Rows()), NameOfParameter);
 
 TEST(WarningsRows, AreThereAndSayWhereTheyComeFrom) {
     EXPECT_GT(Rows().size(), 50U);
-    for (const Row& row : Rows()) EXPECT_FALSE(row.fields.at("from").empty()) << row.line;
+    for (const JsonLine& row : Rows()) EXPECT_FALSE(row.fields.at("from").empty()) << row.number;
 }
 
 /** All rows in one host: what is warned about is made all the same, and strictness refuses it. */
@@ -71,13 +54,13 @@ TEST(WarningsRows, AreMadeByThePlugIn) {
                      .roamingFolder = folders.Place("config"),
                      .appFolder = folders.Place("app"),
                      .locale = ""});
-    for (const Row& row : Rows()) {
-        const BarcodeOutcome outcome = MakeBarcode(service, row.Request(), false);
+    for (const JsonLine& row : Rows()) {
+        const BarcodeOutcome outcome = MakeBarcode(service, RequestOf(row), false);
         EXPECT_TRUE(outcome.isMade) << row.fields << outcome.message;
-        EXPECT_EQ(outcome.warnings, row.Expected()) << row.fields;
-        const BarcodeOutcome strict = MakeBarcode(service, row.Request(), true);
-        EXPECT_EQ(strict.isMade, row.Expected().empty()) << row.fields;
-        EXPECT_EQ(strict.bytes, row.Expected().empty() ? outcome.bytes : "") << row.fields;
+        EXPECT_EQ(outcome.warnings, ExpectedOf(row)) << row.fields;
+        const BarcodeOutcome strict = MakeBarcode(service, RequestOf(row), true);
+        EXPECT_EQ(strict.isMade, ExpectedOf(row).empty()) << row.fields;
+        EXPECT_EQ(strict.bytes, ExpectedOf(row).empty() ? outcome.bytes : "") << row.fields;
     }
     const host::Leaks leaks = service.Stop();
     EXPECT_EQ(leaks.blocks + leaks.references, 0U);

@@ -93,6 +93,13 @@ TEST(Formatting, FormatsLikeSprintf) {
     EXPECT_STREQ(buffer, "x(ab42");
 }
 
+TEST(ExportedFunctions, BorrowAScratchStringForEachCharacterOfStrupr) {
+    const char* const before = MidString("x", 1, 1);
+    std::string text(63, 'a');
+    EXPECT_EQ(LinewrightStrupr(text.data()), std::string(63, 'A'));
+    EXPECT_EQ(MidString("y", 1, 1), before);
+}
+
 TEST(ExportedFunctions, GiveNoneForNone) {
     EXPECT_EQ(LinewrightStrrev(nullptr), nullptr);
     EXPECT_EQ(LinewrightStrupr(nullptr), nullptr);

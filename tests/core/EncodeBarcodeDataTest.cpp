@@ -116,6 +116,26 @@ TEST_F(EncodeBarcodeDataTest, AnUnknownTypeRaisesNoAlert) {
     EXPECT_THAT(Alerts(), testing::IsEmpty());
 }
 
+TEST_F(EncodeBarcodeDataTest, DataOfAnUnknownTypeIsTrimmedWhileThereIsMemory) {
+    TestBlock block(" 12 ");
+    EXPECT_EQ(Encode(block, "_NONE_", 1), 0);
+    EXPECT_EQ(block.Text(), "12");
+
+    TestBlock untrimmed(" 12 ");
+    host::Faults::FailAllocation(1);
+    EXPECT_EQ(Encode(untrimmed, "_NONE_", 1), 0);
+    EXPECT_EQ(untrimmed.Text(), " 12 ");
+    EXPECT_THAT(Alerts(), testing::IsEmpty());
+}
+
+TEST_F(EncodeBarcodeDataTest, AKnownTypeFailsWithoutMemoryToTrim) {
+    TestBlock block(" 12 ");
+    host::Faults::FailAllocation(1);
+    EXPECT_EQ(Encode(block, "_BARCODE_EAN8_", 1), kInternalError);
+    EXPECT_EQ(block.Text(), " 12 ");
+    EXPECT_THAT(Alerts(), testing::SizeIs(1));
+}
+
 TEST_F(EncodeBarcodeDataTest, KnownFailuresNameTypeAndHint) {
     const std::pair<Encoder, const char*> failures[] = {
         {[](const EncoderArguments&) -> int32 { return kBadLength; },

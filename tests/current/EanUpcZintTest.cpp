@@ -77,7 +77,7 @@ TEST(EanUpcZint, Ean13) {
         const std::string main = RandomText(random, kDigitCharacters, 12, 12);
         const std::string addOn = RandomAddOn(random);
         const std::string checkDigit = round % 2 == 0 ? "" : "0";  // not looked at
-        ASSERT_EQ(Built<kEan13Capacity>(BuildEan13, Joined({main, checkDigit, addOn})),
+        ASSERT_EQ(Built<kLongestEan13>(BuildEan13, Joined({main, checkDigit, addOn})),
                   ZintSymbol(BARCODE_EANX, WithAddOn(main, addOn), 95))
             << main << '+' << addOn;
     }
@@ -87,8 +87,7 @@ TEST(EanUpcZint, Ean8) {
     std::mt19937 random(8);
     for (int round = 0; round < kRounds; ++round) {
         const std::string data = RandomText(random, kDigitCharacters, 7, 7);
-        ASSERT_EQ(Built<kEan8Capacity>(BuildEan8, data), ZintSymbol(BARCODE_EANX, data, 67))
-            << data;
+        ASSERT_EQ(Built<kLongestEan8>(BuildEan8, data), ZintSymbol(BARCODE_EANX, data, 67)) << data;
     }
 }
 
@@ -98,7 +97,7 @@ TEST(EanUpcZint, UpcA) {
         const std::string main = RandomText(random, kDigitCharacters, 11, 11);
         const std::string addOn = RandomAddOn(random);
         const std::string checkDigit = round % 2 == 0 ? "" : "0";
-        ASSERT_EQ(Built<kUpcACapacity>(BuildUpcA, Joined({main, checkDigit, addOn})),
+        ASSERT_EQ(Built<kLongestUpcA>(BuildUpcA, Joined({main, checkDigit, addOn})),
                   ZintSymbol(BARCODE_UPCA, WithAddOn(main, addOn), 95))
             << main << '+' << addOn;
     }
@@ -128,11 +127,11 @@ TEST(EanUpcZint, UpcE) {
         if (!IsCanonical(six)) continue;
         const std::string seven = RandomText(random, "01", 1, 1) + six;
         const Modules expected = ZintSymbol(BARCODE_UPCE, seven, 51);
-        ASSERT_EQ(Built<kUpcECapacity>(BuildUpcE, seven), expected) << seven;
-        ASSERT_EQ(Built<kUpcECapacity>(BuildUpcE, ExpandToUpcA(seven)), expected) << seven;
+        ASSERT_EQ(Built<kLongestUpcA>(BuildUpcE, seven), expected) << seven;
+        ASSERT_EQ(Built<kLongestUpcA>(BuildUpcE, ExpandToUpcA(seven)), expected) << seven;
 
         const std::string addOn = RandomAddOn(random);
-        ASSERT_EQ(Built<kUpcECapacity>(BuildUpcE, ExpandToUpcA(seven) + addOn),
+        ASSERT_EQ(Built<kLongestUpcA>(BuildUpcE, ExpandToUpcA(seven) + addOn),
                   ZintSymbol(BARCODE_UPCE, WithAddOn(seven, addOn), 51))
             << seven << '+' << addOn;
         ++round;
@@ -147,7 +146,7 @@ TEST(EanUpcZint, UpcEWithoutSuppressibleZerosIsUpcAWithAnotherRightGuard) {
             RandomText(random, kDigitCharacters, 1, 1) + RandomText(random, "123456789", 10, 10);
         Modules expected = ZintSymbol(BARCODE_UPCA, data, 95);
         expected.main = expected.main.substr(0, 92) + "010101";
-        ASSERT_EQ(Built<kUpcECapacity>(BuildUpcE, data), expected) << data;
+        ASSERT_EQ(Built<kLongestUpcA>(BuildUpcE, data), expected) << data;
     }
 }
 

@@ -3,7 +3,7 @@
 #include "core/FixedText.h"
 #include "current/Codabar.h"
 #include "current/Code39.h"
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 #include "current/Msi.h"
 #include "tests/ZintSymbol.h"
 #include "tests/current/Elements.h"
@@ -64,7 +64,7 @@ TEST(PairsZint, Codabar) {
     }
 }
 
-TEST(PairsZint, InterleavedTwoOfFive) {
+TEST(PairsZint, Interleaved2of5) {
     std::mt19937 random(25);
     for (int round = 0; round < kRounds; ++round) {
         const bool check = round % 2 == 1;

@@ -41,7 +41,7 @@ TEST(UpcE, SuppressesZerosByTheFourRules) {
     constexpr int kRounds = 30'000;
     for (int round = 0; round < kRounds; ++round) {
         const std::string ten = RandomText(random, "0000000123456789", 10, 10);
-        FixedText<kUpcECapacity> symbol;
+        FixedText<kLongestUpcA> symbol;
         ASSERT_EQ(BuildUpcE(("0" + ten).c_str(), symbol), kEncoded);
         const std::string expected = SixDigitsByRules(ten);
         ASSERT_EQ(SixDigitsOf(symbol.View()), expected) << ten;

@@ -5,6 +5,7 @@ The fonts are those of the folder in the environment variable LINEWRIGHT_FONTS, 
 
 import functools
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -12,7 +13,9 @@ from pathlib import Path
 
 from fontTools.ttLib import TTFont
 
-GENERATOR = Path(__file__).resolve().parents[2] / "fonts" / "build_fonts.py"
+ROOT = Path(__file__).resolve().parents[2]
+GENERATOR = ROOT / "fonts" / "build_fonts.py"
+VERSION = re.search(r"project\(Linewright VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text())[1]
 
 # Family, and the units of one module.
 FAMILIES = {
@@ -30,7 +33,7 @@ FAMILIES = {
 
 
 def build(folder, **environment):
-    command = [sys.executable, str(GENERATOR), "--out", str(folder)]
+    command = [sys.executable, str(GENERATOR), "--out", str(folder), "--version", VERSION]
     subprocess.run(command, check=True, env={**os.environ, **environment})
 
 
@@ -108,7 +111,9 @@ def expected_code_points(byte):
     if byte == 127:
         return {0x2421, 0xF07F}
     if byte < 127:
-        return {byte}
+        # No-break space, curly quotes, non-breaking hyphen.
+        typeset = {" ": "\u00a0", '"': "\u201c\u201d", "'": "\u2018\u2019", "-": "\u2011"}
+        return {byte, *map(ord, typeset.get(chr(byte), ""))}
     # The upper half of Windows-1252 differs from Latin-1 in these places alone.
     row = "€ ‚ƒ„…†‡ˆ‰Š‹Œ Ž  ‘’“”•–—˜™š›œ žŸ"
     windows = row[byte - 128] if byte < 160 else chr(byte)

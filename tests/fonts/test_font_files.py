@@ -1,15 +1,39 @@
 """What every font file has in common, the variable forms, and that a build repeats itself."""
 
+import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
-from built_fonts import FAMILIES, Font, bounds, build, folder, font, path
+from built_fonts import FAMILIES, VERSION, Font, bounds, build, folder, font, path
 from fontTools.ttLib import TTFont
 from fontTools.varLib import instancer
 
 SHARED_TABLES = {"head", "hhea", "maxp", "OS/2", "hmtx", "cmap", "loca", "glyf", "name", "post"}
+SHARED_TABLES |= {"gasp"}
 VARIABLE_TABLES = {"fvar", "gvar", "STAT"}
+
+# Families that are longer than what Windows takes, and what it gets.
+SHORT_NAMES = {
+    f"Linewright Classic {name} Variable": f"Linewright Classic {name} VF"
+    for name in ("Code 128", "Code 39", "Codabar", "EAN UPC", "I2of5", "Postnet")
+}
+USE = {
+    "Linewright Bars": "current Code 128, Code 39, Codabar, Interleaved 2 of 5 and MSI Plessey",
+    "Linewright EAN UPC": "current EAN-13, JAN-13, EAN-8, UPC-A and UPC-E",
+    "Linewright Postal": "Intelligent Mail and current Postnet",
+    "Linewright Classic Code 128": "classic Code 128",
+    "Linewright Classic Code 39": "classic Code 39",
+    "Linewright Classic Codabar": "classic Codabar",
+    "Linewright Classic EAN UPC": "classic EAN-13, JAN-13, UPC-A and UPC-E",
+    "Linewright Classic I2of5": "classic Interleaved 2 of 5",
+    "Linewright Classic MSI": "classic MSI Plessey",
+    "Linewright Classic Postnet": "classic Postnet",
+}
+
+# Named instances: bar height and bar width reduction.
+REDUCTIONS = {f"Reduction {percent}": (100, percent) for percent in (5, 10, 15, 20, 25)}
+HEIGHTS = {"Half Height": (50, 0), "Double Height": (200, 0)}
 
 
 class FontFileTest(unittest.TestCase):
@@ -29,9 +53,55 @@ class FontFileTest(unittest.TestCase):
     def test_names(self):
         for family, variable, file in self.files():
             expected = family + (" Variable" if variable else "")
-            self.assertEqual(file["name"].getDebugName(1), expected)
-            self.assertEqual(file["name"].getDebugName(2), "Regular")
-            self.assertEqual(file["name"].getDebugName(6), expected.replace(" ", "") + "-Regular")
+            name = file["name"].getDebugName
+            short = SHORT_NAMES.get(expected)
+            self.assertEqual(name(1), short or expected)
+            self.assertLessEqual(len(name(1)), 31)
+            self.assertEqual(name(2), "Regular")
+            self.assertEqual(name(4), expected)
+            self.assertEqual(name(6), expected.replace(" ", "") + "-Regular")
+            self.assertEqual((name(16), name(17)), (expected, "Regular") if short else (None, None))
+            self.assertEqual(name(25), expected.replace(" ", "") if variable else None)
+
+    def test_version_is_the_projects(self):
+        major, minor, patch = map(int, VERSION.split("."))
+        revision = f"{major}.{minor:02}{patch:02}"
+        for _, _, file in self.files():
+            name = file["name"].getDebugName
+            self.assertEqual(name(5), f"Version {revision}; Linewright {VERSION}")
+            self.assertEqual(name(3), f"{VERSION};{name(6)}")
+            self.assertAlmostEqual(file["head"].fontRevision, float(revision), places=4)
+
+    def test_description_says_what_for_and_at_what_size(self):
+        for family, _, file in self.files():
+            em = file["head"].unitsPerEm // FAMILIES[family]
+            size = "11.5 pt" if "Post" in family else f"{em} times the X-dimension"
+            self.assertEqual(
+                file["name"].getDebugName(10),
+                f"Draws the strings that Linewright makes for {USE[family]}. Font size: {size}. "
+                "Set without tracking, hyphenation and typographer's quotes.",
+            )
+            self.assertEqual(file["name"].getDebugName(8), "Linewright")
+
+    def test_maker_kind_and_smoothing(self):
+        for _, _, file in self.files():
+            self.assertEqual(file["OS/2"].achVendID, "LWR ")
+            panose = file["OS/2"].panose
+            self.assertEqual((panose.bFamilyType, panose.bSerifStyle), (5, 12))
+            self.assertEqual(file["gasp"].gaspRange, {0xFFFF: 0x000A})
+
+    def test_underline_is_clear_of_the_bars(self):
+        for family, _, file in self.files():
+            line = file["head"].unitsPerEm // 32
+            post = file["post"]
+            self.assertEqual((post.underlinePosition, post.underlineThickness), (-line, line))
+
+    def test_sanitizer_accepts_every_file(self):
+        for family, variable, _ in self.files():
+            check = subprocess.run(
+                ["ots-sanitize", path(family, variable)], capture_output=True, text=True
+            )
+            self.assertEqual((check.returncode, check.stderr), (0, ""))
 
     def test_tables(self):
         for family, variable, file in self.files():
@@ -109,6 +179,36 @@ class VariableFontTest(unittest.TestCase):
             axes = [(a.axisTag, a.minValue, a.defaultValue, a.maxValue) for a in file["fvar"].axes]
             self.assertEqual(axes, [("BHGT", 25, 100, 400), ("BWRD", 0, 0, 25)])
 
+    def test_named_instances(self):
+        for family in FAMILIES:
+            file = TTFont(path(family, variable=True))
+            name = file["name"].getDebugName
+            found = {
+                name(instance.subfamilyNameID): tuple(
+                    round(instance.coordinates[tag], 2) for tag in ("BHGT", "BWRD")
+                )
+                for instance in file["fvar"].instances
+            }
+            # Postal bars have no other height, and the current font alone has EAN-8.
+            expected = {"Regular": (100, 0)} | REDUCTIONS | ({} if "Post" in family else HEIGHTS)
+            if family == "Linewright EAN UPC":
+                expected["EAN-8"] = (79.78, 0)
+            self.assertEqual(found, expected)
+            values = file["STAT"].table.AxisValueArray.AxisValue
+            self.assertEqual({name(value.ValueNameID) for value in values}, set(expected))
+
+    def test_ean8_is_as_high_as_its_standard_has_it(self):
+        family = "Linewright EAN UPC"
+        file = TTFont(path(family, variable=True))
+        (place,) = [
+            instance.coordinates
+            for instance in file["fvar"].instances
+            if file["name"].getDebugName(instance.subfamilyNameID) == "EAN-8"
+        ]
+        subject = self.instance(family, **place)
+        _, _, bottom, top = subject.bars(subject.map[ord("0")])[0]
+        self.assertAlmostEqual((top - bottom) / 32 * 0.33, 18.23, delta=0.005)
+
     def test_defaults_are_the_static_font(self):
         for family in FAMILIES:
             self.assert_same(family, self.instance(family, BHGT=100, BWRD=0), lambda extent: extent)
@@ -130,7 +230,7 @@ class VariableFontTest(unittest.TestCase):
                 subject = self.instance(family, BHGT=percent, BWRD=0)
                 if "EAN UPC" in family:
                     # Feet stay, and what stands on the bars' tops goes with them.
-                    rise = 69 * 32 * (percent - 100) // 100
+                    rise = 2216 * (percent - 100) // 100
                     self.assert_same(family, subject, lambda e: (*e[:3], e[3] + rise), rise)
                 else:
                     scale = percent / 100

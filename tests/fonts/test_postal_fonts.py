@@ -52,11 +52,12 @@ class PostalFontTest(unittest.TestCase):
         self.check_row(POSTNET, "/", [height["1"]])
 
     def test_nothing_else_is_mapped(self):
-        self.assertEqual(set(font(POSTAL).map), set(map(ord, " ADFTjklmno")))
-        self.assertEqual(set(font(POSTNET).map), set(map(ord, " /0123456789")))
+        self.assertEqual(set(font(POSTAL).map), set(map(ord, "\u00a0 ADFTjklmno")))
+        self.assertEqual(set(font(POSTNET).map), set(map(ord, "\u00a0 /0123456789")))
         for family in (POSTAL, POSTNET):
-            self.assertEqual(font(family).contours(font(family).map[32]), [])
-            self.assertEqual(font(family).advance(font(family).map[32]), 9 * 64)
+            for blank in (0x20, 0xA0):
+                self.assertEqual(font(family).contours(font(family).map[blank]), [])
+                self.assertEqual(font(family).advance(font(family).map[blank]), 9 * 64)
 
     def test_inches(self):
         def extent(letter):

@@ -49,7 +49,9 @@ ROWS.update({"add-on A": SET_A, "add-on B": SET_B})
 # How many closed contours a digit is drawn with: one, and one for each counter.
 CONTOURS = [2, 1, 1, 1, 2, 1, 2, 1, 3, 2]
 
-TEXT, GUARD, BARS, ADD_ON_TOP, TOP = 0, 4, 9, 69, 78
+# In modules above the baseline; the last is the font's ascent.
+TEXT, GUARD, BARS, ADD_ON_TOP, TOP, ADD_ON_TEXT_TOP = 0, 4, 9, 70.375, 78.25, 79.125
+MODULE_IN_MILLIMETRES = 0.33
 
 
 class RetailCase:
@@ -86,10 +88,21 @@ class RetailCase:
 
     def test_signs(self):
         for sign, row in SIGNS[self.generation].items():
-            glyph = self.font.map[ord(sign)]
             top = ADD_ON_TOP if sign in ADD_ON_SIGNS[self.generation] else TOP
-            self.check_bars(glyph, row, GUARD, top)
-            self.assertEqual(self.font.text(glyph), [])
+            for codePoint in expected_code_points(ord(sign)):
+                glyph = self.font.map[codePoint]
+                self.check_bars(glyph, row, GUARD, top)
+                self.assertEqual(self.font.text(glyph), [])
+
+    def test_bars_are_as_high_as_the_standard_has_them(self):
+        guard, _, _, plus, _ = (self.font.map[ord(sign)] for sign in SIGNS[self.generation])
+        for glyph, height in (
+            (self.glyph("A", 0), 22.85),
+            (guard, 22.85 + 5 * MODULE_IN_MILLIMETRES),
+            (plus, 21.90),
+        ):
+            _, _, bottom, top = self.font.bars(glyph)[0]
+            self.assertAlmostEqual((top - bottom) / 32 * MODULE_IN_MILLIMETRES, height, delta=0.005)
 
     def test_outer_digits_have_no_bars(self):
         for digit in TEN:
@@ -98,13 +111,13 @@ class RetailCase:
             self.assertEqual(self.font.advance(glyph), OUTER_ADVANCE[self.generation] * 32)
 
     def test_nothing_else_is_mapped(self):
-        expected = {32} | {ord(sign) for sign in SIGNS[self.generation]}
-        for bytes_ in DIGITS[self.generation].values():
-            for byte in bytes_:
-                expected |= expected_code_points(byte)
+        bytes_ = {32, *map(ord, SIGNS[self.generation])}
+        bytes_.update(*DIGITS[self.generation].values())
+        expected = set().union(*map(expected_code_points, bytes_))
         self.assertEqual(set(self.font.map), expected)
-        self.assertEqual(self.font.contours(self.font.map[32]), [])
-        self.assertEqual(self.font.advance(self.font.map[32]), SPACE[self.generation] * 32)
+        for blank in (0x20, 0xA0):
+            self.assertEqual(self.font.contours(self.font.map[blank]), [])
+            self.assertEqual(self.font.advance(self.font.map[blank]), SPACE[self.generation] * 32)
 
     def test_add_on_stands_off_as_the_standard_asks(self):
         def gap(text):
@@ -131,11 +144,12 @@ class RetailCase:
             self.assertTrue(8 * 32 <= top <= (BARS - 0.5) * 32)
             above = self.font.text(self.glyph("add-on A", digit))
             self.assertEqual(self.font.text(self.glyph("add-on B", digit)), above)
-            rise = ADD_ON_TOP * 32 + 24
+            rise = ADD_ON_TOP * 32 + 16
             self.assertEqual(
                 above, [[(x, y + rise, on) for x, y, on in contour] for contour in below]
             )
-            self.assertEqual(bounds(above)[3], TOP * 32)
+            self.assertEqual(bounds(above)[3], ADD_ON_TEXT_TOP * 32)
+            self.assertEqual(bounds(above)[3], self.font.file["hhea"].ascent)
             for kind in ("long first", "long last"):
                 self.assertEqual(self.font.text(self.glyph(kind, digit)), [])
             shapes.add(str(below))

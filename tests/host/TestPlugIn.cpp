@@ -61,33 +61,33 @@ class SecondStarter : public CPMUnknown<IStartupShutdownService> {
 /** Takes a reference once more while it is destroyed. */
 class Echo : public CPMUnknown<IEcho> {
   public:
-    explicit Echo(IPMUnknown* boss) : CPMUnknown(boss) { ++fObjects; }
+    explicit Echo(IPMUnknown* boss) : CPMUnknown(boss) { ++objects; }
     ~Echo() override {
         const InterfacePtr<IPMUnknown> last(this, IID_IPMUNKNOWN);
-        --fObjects;
+        --objects;
     }
 
     int32 CountStarts() const override { return starts; }
-    int32 CountObjects() const override { return fObjects; }
+    int32 CountObjects() const override { return objects; }
 
   private:
-    static int32 fObjects;
+    static int32 objects;
 };
-int32 Echo::fObjects = 0;
+int32 Echo::objects = 0;
 
 class Note : public CPMUnknown<INote> {
   public:
     using CPMUnknown::CPMUnknown;
 
-    int32 Get() const override { return fNumber; }
+    int32 Get() const override { return held; }
     void Set(int32 number) override {
         PreDirty();
-        fNumber = number;
+        held = number;
     }
-    void ReadWrite(IPMStream* stream, ImplementationID) { stream->XferInt32(fNumber); }
+    void ReadWrite(IPMStream* stream, ImplementationID) { stream->XferInt32(held); }
 
   private:
-    int32 fNumber = 0;
+    int32 held = 0;
 };
 
 CREATE_PMINTERFACE(Starter, 0x99000);

@@ -20,25 +20,25 @@ namespace {
 /** Sets an environment variable, or removes it for nullptr, as long as this lives. */
 class Variable {
   public:
-    Variable(const char* name, const char* value) : fName(name) {
-        if (const char* before = getenv(name)) fBefore = before;
+    Variable(const char* variable, const char* value) : name(variable) {
+        if (const char* present = getenv(variable)) before = present;
         Set(value);
     }
     Variable(const Variable&) = delete;
     Variable& operator=(const Variable&) = delete;
-    ~Variable() { Set(fBefore ? fBefore->c_str() : nullptr); }
+    ~Variable() { Set(before ? before->c_str() : nullptr); }
 
   private:
     void Set(const char* value) const {
         if (value) {
-            setenv(fName, value, 1);
+            setenv(name, value, 1);
         } else {
-            unsetenv(fName);
+            unsetenv(name);
         }
     }
 
-    const char* fName;
-    std::optional<std::string> fBefore;
+    const char* name;
+    std::optional<std::string> before;
 };
 
 }  // namespace

@@ -2,7 +2,7 @@
 #include <iostream>
 #include <iterator>
 
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 // Reads a picture (binary PGM, 8 bits) of one barcode with both scanners.
 // Usage: read_picture TYPE-NAME DATA PICTURE.pgm

@@ -157,7 +157,6 @@ TEST(DrawingTest, InkFillsNarrowerBarsAgain) {
         ASSERT_EQ(narrow.width, bare.width);
         // Above the text and below the tops.
         const int y = bare.height / 4;
-        GreyRaster inked = bare;
         for (int x = 1; x + 1 < narrow.width; ++x) {
             const bool isDark =
                 narrow.At(x - 1, y) == 0 || narrow.At(x, y) == 0 || narrow.At(x + 1, y) == 0;

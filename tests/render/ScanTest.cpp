@@ -6,7 +6,7 @@
 #include "tests/TestHost.h"
 #include "tests/render/Drawn.h"
 #include "tests/render/RandomData.h"
-#include "verify/Verification.h"
+#include "scanners/Verification.h"
 
 // Draws random valid data of every type that a scanner knows, and has both scanners read it.
 
@@ -159,7 +159,7 @@ bool IsWithin(std::string_view scanner, std::string_view type, const Meaning& me
     const Symbology symbology = meaning.task.symbology;
     const std::size_t length = meaning.carried.size();
     if (scanner == "ZXing-C++") {
-        if (symbology == Symbology::kInterleavedTwoOfFive) return length >= 6;
+        if (symbology == Symbology::kInterleaved2of5) return length >= 6;
         if (symbology == Symbology::kCodabar && length < 4) return false;
         if (reduction != kMostReduction) return true;
         if (symbology == Symbology::kCode39) {

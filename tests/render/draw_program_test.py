@@ -14,7 +14,7 @@ import unittest
 import zlib
 from pathlib import Path
 
-PROGRAM, CMAKE, BUILD = sys.argv[1:4]
+PROGRAM, CMAKE, BUILD = os.path.abspath(sys.argv[1]), sys.argv[2], os.path.abspath(sys.argv[3])
 PEN = ("ean13", "4006381333931")
 
 

@@ -1,7 +1,7 @@
 #include "classic/Code128.h"
 #include "classic/Code39.h"
 #include "classic/EanUpc.h"
-#include "classic/InterleavedTwoOfFive.h"
+#include "classic/Interleaved2of5.h"
 #include "classic/Msi.h"
 #include "tests/TestBlock.h"
 #include "tests/VectorCalls.h"
@@ -32,11 +32,11 @@ const bool kRegistered = RegisterCalls({
     {"TranslateCode128C", [](const Row& row) { return Translated(row, TranslateCode128C); }},
     {"ExpandCode39FullAscii",
      [](const Row& row) { return Translated(row, ExpandCode39FullAscii); }},
-    {"TranslateI2of5",
+    {"TranslateInterleaved2of5",
      [](const Row& row) {
          return Translated(row, [&](PString& string) {
-             return TranslateI2of5(string, row.fields.at("checkDigit").get<bool>(),
-                                   row.fields.at("textOnly").get<bool>());
+             return TranslateInterleaved2of5(string, row.fields.At("checkDigit").get<bool>(),
+                                             row.fields.At("textOnly").get<bool>());
          });
      }},
     {"MsiMod10", [](const Row& row) { return CheckDigitOf(row, MsiMod10); }},

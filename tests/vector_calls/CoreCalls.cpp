@@ -16,11 +16,11 @@ namespace linewright {
 namespace {
 
 int32 Number(const Row& row, const char* name) {
-    return row.fields.at(name).get<int32>();
+    return row.fields.At(name).get<int32>();
 }
 
 std::string Text(const Row& row, const char* name) {
-    return BytesOf(row.fields.at(name));
+    return BytesOf(row.fields.At(name));
 }
 
 uint8 Fill(const Row& row) {
@@ -45,7 +45,7 @@ Outcome CallReplaceMarkers(const Row& row) {
     PMString texts[4];
     const PMString* given[4] = {};
     std::size_t count = 0;
-    for (const auto& field : row.fields.at("replacements")) {
+    for (const auto& field : row.fields.At("replacements")) {
         if (field.is_string()) {
             texts[count] = HostString(BytesOf(field));
             given[count] = &texts[count];
@@ -64,14 +64,14 @@ const bool kRegistered = RegisterCalls({
      }},
     {"IsInList",
      [](const Row& row) {
-         const auto list = row.fields.at("list").get<std::vector<int32>>();
+         const auto list = row.fields.At("list").get<std::vector<int32>>();
          return Outcome{.status =
                             IsInList(Number(row, "value"), list.data(),
-                                     row.fields.value("count", static_cast<int32>(list.size())))};
+                                     row.fields.Value("count", static_cast<int32>(list.size())))};
      }},
     {"CheckCharClasses",
      [](const Row& row) {
-         const bool hasExtra = row.fields.contains("extra");
+         const bool hasExtra = row.fields.Contains("extra");
          const std::string extra = hasExtra ? Text(row, "extra") : "";
          return Outcome{.status = CheckCharClasses(reinterpret_cast<const uint8*>(row.data.data()),
                                                    static_cast<int32>(row.data.size()),
@@ -136,9 +136,9 @@ const bool kRegistered = RegisterCalls({
      }},
     {"FormatAlternatives",
      [](const Row& row) {
-         const auto list = row.fields.at("list").get<std::vector<int32>>();
+         const auto list = row.fields.At("list").get<std::vector<int32>>();
          PMString out = HostString("before");
-         FormatAlternatives(list.data(), row.fields.value("count", static_cast<int32>(list.size())),
+         FormatAlternatives(list.data(), row.fields.Value("count", static_cast<int32>(list.size())),
                             out);
          return Outcome{.result = Latin1(out)};
      }},

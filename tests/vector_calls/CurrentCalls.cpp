@@ -5,7 +5,7 @@
 #include "current/Code39.h"
 #include "current/Ean13.h"
 #include "current/Ean8.h"
-#include "current/InterleavedTwoOfFive.h"
+#include "current/Interleaved2of5.h"
 #include "current/Msi.h"
 #include "current/Postnet.h"
 #include "current/UpcA.h"
@@ -18,7 +18,7 @@ namespace {
 
 /** The row's text for a builder; `"missing": true` stands for no text at all. */
 const char* Data(const Row& row) {
-    return row.fields.value("missing", false) ? nullptr : row.data.c_str();
+    return row.fields.Value("missing", false) ? nullptr : row.data.c_str();
 }
 
 /** A call of a builder; its text is compared where it succeeds. */
@@ -32,20 +32,20 @@ Call Build(int16 (*build)(const Row& row, TextArea& symbol)) {
 }
 
 const bool kRegistered = RegisterCalls({
-    {"BuildEan13", Build<kEan13Capacity>([](const Row& row, TextArea& symbol) {
+    {"BuildEan13", Build<kLongestEan13>([](const Row& row, TextArea& symbol) {
          return BuildEan13(Data(row), symbol);
      })},
-    {"BuildEan8", Build<kEan8Capacity>([](const Row& row, TextArea& symbol) {
+    {"BuildEan8", Build<kLongestEan8>([](const Row& row, TextArea& symbol) {
          return BuildEan8(Data(row), symbol);
      })},
-    {"BuildUpcA", Build<kUpcACapacity>([](const Row& row, TextArea& symbol) {
+    {"BuildUpcA", Build<kLongestUpcA>([](const Row& row, TextArea& symbol) {
          return BuildUpcA(Data(row), symbol);
      })},
-    {"BuildUpcE", Build<kUpcECapacity>([](const Row& row, TextArea& symbol) {
+    {"BuildUpcE", Build<kLongestUpcA>([](const Row& row, TextArea& symbol) {
          return BuildUpcE(Data(row), symbol);
      })},
     {"BuildCode128Auto", Build<kCode128AutoCapacity>([](const Row& row, TextArea& symbol) {
-         return BuildCode128Auto(Data(row), row.fields.value("escapes", false), symbol);
+         return BuildCode128Auto(Data(row), row.fields.Value("escapes", false), symbol);
      })},
     {"Code128PreParse",
      [](const Row& row) {
@@ -57,8 +57,8 @@ const bool kRegistered = RegisterCalls({
          return BuildCode39Current(Data(row), row.ratio, row.check != 0, symbol);
      })},
     {"BuildCodabarCurrent", Build<kCodabarCapacity>([](const Row& row, TextArea& symbol) {
-         const std::string start = row.fields.value("start", "A");
-         const std::string stop = row.fields.value("stop", "B");
+         const std::string start = row.fields.Value("start", std::string("A"));
+         const std::string stop = row.fields.Value("stop", std::string("B"));
          return BuildCodabarCurrent(Data(row), row.ratio, start.c_str(), stop.c_str(), symbol);
      })},
     {"BuildInterleaved2of5Current",

@@ -8,7 +8,7 @@ namespace {
 const bool kRegistered = RegisterCalls({
     {"ImbErrorMessage",
      [](const Row& row) {
-         const auto result = static_cast<ImbResult>(row.fields.at("value").get<int>());
+         const auto result = static_cast<ImbResult>(row.fields.At("value").get<int>());
          return Outcome{.result = ImbErrorMessage(result)};
      }},
 });

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "meaning/Warning.h"
+#include "render/DrawingFailure.h"
+#include "render/DrawingWarning.h"
+#include "requests/Outcome.h"
+#include "requests/RequestFailure.h"
+
+namespace linewright {
+
+// What the rooms below say by reasons, as sentences for people: UTF-8 that upsets no terminal.
+
+enum class Language { kEnglish, kGerman, kFrench, kJapanese };
+
+/** The language of a locale such as "deDE"; English where there is no other. */
+Language LanguageOf(std::string_view locale);
+
+std::string Sentence(const Warning& warning, Language language);
+/** All warnings of an outcome as one text. */
+std::string JoinedWarnings(const Outcome& outcome, Language language);
+/** Why an outcome is a refusal; "" for one that is none. */
+std::string WhyRefused(const Outcome& outcome, Language language);
+std::string Sentence(const RequestFailure& failure, Language language);
+std::string Sentence(const DrawingFailure& failure, Language language);
+std::string Sentence(const DrawingWarning& warning, Language language);
+
+}  // namespace linewright
