@@ -77,10 +77,10 @@ class Decoder {
 
 /** From the start character to the check character. */
 Bars BarsOf(const Values& values) {
-    if (values.size() < 2) return {};
+    if (values.empty()) return {};
     const std::size_t start = values.front();
     if (start < kCode128StartA) return {Symbol::kNoStart};
-    if (start > kCode128StartC) return {};
+    if (start > kCode128StartC || values.size() < 2) return {};
     Decoder decoder(static_cast<int>(start));
     std::size_t sum = start;
     for (std::size_t place = 1; place + 1 < values.size(); ++place) {

@@ -13,7 +13,9 @@ namespace linewright::meaning {
 namespace {
 
 std::string PaddedToPairs(std::string_view digits) {
-    return (digits.size() % 2 == 0 ? "" : "0") + std::string(digits);
+    std::string padded(digits.size() % 2, '0');
+    padded += digits;
+    return padded;
 }
 
 /** Modulo 11 with the weights 2 to 7 from the right; ":" where the check would be 10. */
@@ -101,7 +103,7 @@ Intent CodabarIntent(const TypedData& data) {
 
 /** The check digit weighs 3 on the first digit, and where the digits are even in number a zero
  *  stands in front of it. */
-Intent ClassicInterleavedTwoOfFiveIntent(const TypedData& data) {
+Intent ClassicInterleaved2of5Intent(const TypedData& data) {
     const std::string digits(data.bytes);
     Intent intent{.mayCarry = {PaddedToPairs(digits)}};
     if (digits.empty()) return intent;
@@ -111,13 +113,13 @@ Intent ClassicInterleavedTwoOfFiveIntent(const TypedData& data) {
     return intent;
 }
 
-Intent InterleavedTwoOfFiveIntent(const TypedData& data) {
+Intent Interleaved2of5Intent(const TypedData& data) {
     std::string digits(data.bytes);
     if (data.isCheckWanted) digits += Modulo10CheckDigit(digits);
     return {.mayCarry = {PaddedToPairs(digits)}};
 }
 
-Intent ClassicInterleavedTwoOfFiveTextIntent(const TypedData& data) {
+Intent ClassicInterleaved2of5TextIntent(const TypedData& data) {
     return {.mayCarry = {std::string(data.bytes), PaddedToPairs(data.bytes)}};
 }
 

@@ -69,9 +69,9 @@ TypeRules RulesOf(TypeCode code) {
         case TypeCode::kEan8: return {ReadRetail, Ean8Intent};
         case TypeCode::kClassicEan13: return {ReadClassicRetail, Ean13Intent};
         case TypeCode::kClassicInterleaved2of5:
-            return {ReadClassicInterleavedTwoOfFive, ClassicInterleavedTwoOfFiveIntent};
+            return {ReadClassicInterleaved2of5, ClassicInterleaved2of5Intent};
         case TypeCode::kClassicInterleaved2of5Text:
-            return {ReadDigits, ClassicInterleavedTwoOfFiveTextIntent};
+            return {ReadDigits, ClassicInterleaved2of5TextIntent};
         case TypeCode::kClassicJan13: return {ReadClassicRetail, Ean13Intent};
         case TypeCode::kClassicMsi: return {ReadClassicMsi, ClassicMsiIntent};
         case TypeCode::kClassicUpcA: return {ReadClassicRetail, UpcAIntent};
@@ -81,8 +81,8 @@ TypeRules RulesOf(TypeCode code) {
         case TypeCode::kCode128: return {ReadCode128, Code128Intent, DelAndFromNulOn};
         case TypeCode::kEan13: return {ReadRetail, Ean13Intent};
         case TypeCode::kInterleaved2of5:
-            return {ReadInterleavedTwoOfFive, InterleavedTwoOfFiveIntent};
-        case TypeCode::kInterleaved2of5Text: return {ReadDigits, InterleavedTwoOfFiveIntent};
+            return {ReadInterleaved2of5, Interleaved2of5Intent};
+        case TypeCode::kInterleaved2of5Text: return {ReadDigits, Interleaved2of5Intent};
         case TypeCode::kJan13: return {ReadRetail, Ean13Intent};
         case TypeCode::kMsi: return {ReadMsi, MsiIntent};
         case TypeCode::kUpcA: return {ReadRetail, UpcAIntent};

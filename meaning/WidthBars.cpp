@@ -7,7 +7,7 @@
 #include "meaning/Bars.h"
 #include "standards/CodabarPatterns.h"
 #include "standards/Code39Patterns.h"
-#include "standards/TwoOfFive.h"
+#include "standards/Interleaved2of5Patterns.h"
 
 // Symbologies with two widths of bars and spaces.
 
@@ -86,7 +86,7 @@ Bars PairsOf(std::string_view elements) {
         std::array<std::string, 2> patterns;
         for (std::size_t place = 0; place < kSize; ++place) patterns[place % 2] += elements[place];
         for (const std::string& pattern : patterns) {
-            const auto digit = ValueOf(pattern, kTwoOfFivePatterns);
+            const auto digit = ValueOf(pattern, kInterleaved2of5Patterns);
             if (!digit) return {};
             digits += static_cast<char>('0' + *digit);
         }
@@ -139,13 +139,13 @@ Bars ReadCodabar(std::string_view fontString) {
     return text ? CodabarOf(*text) : Bars{};
 }
 
-Bars ReadClassicInterleavedTwoOfFive(std::string_view fontString) {
+Bars ReadClassicInterleaved2of5(std::string_view fontString) {
     const auto letters = Between(fontString, kClassicStart, kClassicStop);
     const auto elements = letters ? ElementsOf(*letters, classic::kPairLetters) : std::nullopt;
     return elements ? PairsOf(*elements) : Bars{};
 }
 
-Bars ReadInterleavedTwoOfFive(std::string_view fontString) {
+Bars ReadInterleaved2of5(std::string_view fontString) {
     const auto elements = ElementsOf(fontString);
     const auto pairs = elements ? Between(*elements, "nnnn", "wnnn") : std::nullopt;
     return pairs ? PairsOf(*pairs) : Bars{};

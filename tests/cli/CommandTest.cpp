@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "cli/Utf8.h"
+#include "text/Readable.h"
 #include "tests/cli/CommandRunner.h"
 
 namespace linewright {

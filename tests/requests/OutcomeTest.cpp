@@ -10,6 +10,7 @@
 
 #include "host/runtime/Paths.h"
 #include "requests/RequestFailure.h"
+#include "tests/JsonLines.h"
 
 namespace linewright {
 
@@ -62,7 +63,7 @@ TEST_F(OutcomeTest, SendsATypeNameAsItWasWritten) {
 }
 
 TEST_F(OutcomeTest, NamesTheNearestTypesOfAnUnknownOne) {
-    for (const std::string type :
+    for (const std::string& type :
          {std::string("eann13"), std::string(), "_BARCODE_EAN13_" + std::string(300, 'x')}) {
         const Outcome outcome = Made({.type = type, .data = "1"});
         ASSERT_TRUE(outcome.refusal) << type;
@@ -96,6 +97,24 @@ TEST_F(OutcomeTest, IsARefusalWithoutAFontStringWhereWarningsAreNone) {
     EXPECT_EQ(outcome.bytes, "");
     EXPECT_EQ(outcome.status, std::nullopt);
     EXPECT_EQ(outcome.Warnings().size(), 1U);
+}
+
+/** The rows of tests/meaning/: what is warned about is made all the same, and strictness refuses
+ *  it. */
+TEST_F(OutcomeTest, WarnsOfTheRows) {
+    for (const JsonLine& row : ReadJsonLines(LINEWRIGHT_TESTS "/meaning/warnings.jsonl")) {
+        BarcodeWish wish{.type = row.fields.at("type")};
+        if (!row.fields.contains("data")) continue;
+        wish.data = row.fields.at("data");
+        wish.checkCharacter = row.fields.value("check", false) ? 1 : 0;
+        const bool isWarnedOf = !row.fields.at("warnings").empty();
+        const Outcome outcome = Made(wish);
+        EXPECT_TRUE(outcome.IsMade()) << row.fields;
+        EXPECT_EQ(!outcome.Warnings().empty(), isWarnedOf) << row.fields;
+        wish.isStrict = true;
+        EXPECT_EQ(Made(wish).IsMade(), !isWarnedOf) << row.fields;
+        EXPECT_EQ(Made(wish).bytes, isWarnedOf ? "" : outcome.bytes) << row.fields;
+    }
 }
 
 // Whoever read the file would put defaults in the place of what is none of ours.
