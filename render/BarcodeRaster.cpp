@@ -39,8 +39,7 @@ void BarcodeDrawing::PaintArgb(std::uint32_t* pixels, int pictureWidth, int pict
                                                        CAIRO_FORMAT_ARGB32, pictureWidth,
                                                        pictureHeight, rowBytes));
     cairo_translate(page.Context(), x, y);
-    cairo_scale(page.Context(), pixelsPerModule, pixelsPerModule);
-    FillShapes(page.Context(), InModules());
+    FillShapes(page.Context(), InDots(pixelsPerModule));
     page.Finish();
 }
 
