@@ -72,6 +72,7 @@ class RowDrawer {
                 return;
             }
         } catch (const DrawingFailure& failure) {
+            if (failure.problem.IsOfMachine()) throw;
             Say(row, AdvisedSentence(failure, console.language));
         } catch (const Failure& failure) {
             Say(row, failure.what());

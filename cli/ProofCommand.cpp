@@ -81,7 +81,7 @@ class Proof {
             if (drawn.drawing) return Show(drawn, wish, columns.TitleOf(row), row.line);
             Refuse(row, wish, WhyRefused(drawn.outcome, language));
         } catch (const DrawingFailure& failure) {
-            if (failure.problem.reason == DrawingProblem::Reason::kLibrary) throw;
+            if (failure.problem.IsOfMachine()) throw;
             Refuse(row, wish, AdvisedSentence(failure, language));
         } catch (const Failure& failure) {
             Refuse(row, wish, failure.what());

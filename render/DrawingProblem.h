@@ -44,6 +44,12 @@ struct DrawingProblem {
         kLibrary,
     };
 
+    /** Whether it is the machine's and not the wish's: any other drawing would have it too. */
+    bool IsOfMachine() const {
+        return reason == Reason::kNoFont || reason == Reason::kNoAxes ||
+               reason == Reason::kNoTextFace || reason == Reason::kLibrary;
+    }
+
     Reason reason{};
     std::vector<std::string> parameters{};
 };

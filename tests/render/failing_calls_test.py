@@ -2,7 +2,7 @@
 """Lets each allocation and each opening of a file fail, one a run, in what draws: a run that ends
 with exit status 0 has written the same bytes as one in which nothing fails, any other run nothing.
 
-Usage: failing_calls_test.py PROGRAM PRELOADED-LIBRARY [STEP]
+Usage: failing_calls_test.py PROGRAM PRELOADED-LIBRARY [STEP [LAST]]
 """
 import os
 import subprocess
@@ -11,9 +11,11 @@ import tempfile
 import unittest
 from pathlib import Path
 
-PROGRAM, LIBRARY = sys.argv[1:3]
-# Of the allocations every so manieth is tried; files are few.
-STEP = int(sys.argv[3]) if len(sys.argv) > 3 else 1
+PROGRAM, LIBRARY = (str(Path(name).resolve()) for name in sys.argv[1:3])
+# Of the allocations every so manieth is tried, and the last so many, when the drawing is made. Files
+# are few.
+STEP = int(sys.argv[3]) if len(sys.argv) > 3 else 97
+LAST = int(sys.argv[4]) if len(sys.argv) > 4 else 300
 
 
 class FailingCallsTest(unittest.TestCase):
@@ -37,14 +39,14 @@ class FailingCallsTest(unittest.TestCase):
     def check(self, output, *words):
         words = (*words, "-o", output)
         target = self.folder / output
-        for call, step in (("open", 1), ("malloc", STEP)):
+        for call, step, last in (("open", 1, 0), ("malloc", STEP, LAST)):
             counts = self.folder / "calls"
             self.assertEqual(self.run_program(words, call, 0, counts), 0)
             expected = target.read_bytes()
             total = int(counts.read_text())
             self.assertGreater(total, 5)
             failures = 0
-            for at in range(1, total + 1, step):
+            for at in {*range(1, total + 1, step), *range(max(1, total - last), total + 1)}:
                 target.unlink(missing_ok=True)
                 status = self.run_program(words, call, at)
                 if status == 0:
