@@ -14,22 +14,6 @@ namespace linewright {
 
 namespace {
 
-void CheckFreeType(FT_Error error) {
-    if (error == 0) return;
-    throw DrawingFailure(DrawingProblem::Reason::kLibrary,
-                         {"FreeType, error " + std::to_string(error)});
-}
-
-/** Lives as long as the program: Cairo keeps faces in caches of its own. */
-FT_Library Library() {
-    static FT_Library library = [] {
-        FT_Library made = nullptr;
-        CheckFreeType(FT_Init_FreeType(&made));
-        return made;
-    }();
-    return library;
-}
-
 /** An outline being taken down, in ems. */
 struct Pen {
     Outline outline;
@@ -52,8 +36,24 @@ int Add(void* pen, PathStep::Kind kind, const FT_Vector* control, const FT_Vecto
 
 }  // namespace
 
+void CheckFreeType(FT_Error error) {
+    if (error == 0) return;
+    throw DrawingFailure(DrawingProblem::Reason::kLibrary,
+                         {"FreeType, error " + std::to_string(error)});
+}
+
+FT_Library FreeTypeLibrary() {
+    // Cairo keeps faces in caches of its own.
+    static FT_Library library = [] {
+        FT_Library made = nullptr;
+        CheckFreeType(FT_Init_FreeType(&made));
+        return made;
+    }();
+    return library;
+}
+
 FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing) {
-    if (FT_New_Face(Library(), path.c_str(), 0, &file) != 0) throw DrawingFailure(missing);
+    if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &file) != 0) throw DrawingFailure(missing);
     cairoFace = cairo_ft_font_face_create_for_ft_face(file, FT_LOAD_NO_HINTING);
     // Cairo's caches may keep the face for longer than we do; the file goes with it.
     static constexpr cairo_user_data_key_t kFile{};

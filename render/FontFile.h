@@ -10,6 +10,12 @@
 
 namespace linewright {
 
+/** Throws a DrawingFailure unless there is no error. */
+void CheckFreeType(FT_Error error);
+
+/** The one that lives as long as the program. */
+FT_Library FreeTypeLibrary();
+
 /** A font from its file. Lengths are in ems, y upwards from the baseline. What a library cannot do
  *  is thrown as a DrawingFailure. */
 class FontFile {

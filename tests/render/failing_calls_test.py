@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Lets each allocation and each opening of a file fail, one a run, in what draws: a run that ends
-with exit status 0 has written the same bytes as one in which nothing fails, any other run nothing.
+with exit status 0 has written the same bytes as one in which nothing fails, any other run the same or
+nothing.
 
 Usage: failing_calls_test.py PROGRAM PRELOADED-LIBRARY [STEP [LAST]]
 """
@@ -53,7 +54,9 @@ class FailingCallsTest(unittest.TestCase):
                     self.assertEqual(target.read_bytes(), expected, f"{call} {at} of {total}")
                 else:
                     failures += 1
-                    self.assertFalse(target.exists(), f"{call} {at} of {total}")
+                    # What fails behind the writing leaves the file whole.
+                    if target.exists():
+                        self.assertEqual(target.read_bytes(), expected, f"{call} {at} of {total}")
             self.assertGreater(failures, 0, call)
 
     def test_pdf(self):
