@@ -61,12 +61,13 @@ void AddTypes(CLI::App& app, Arguments& arguments) {
 }
 
 /** What all commands have that make one barcode. */
-void AddBarcode(CLI::App& command, EncodeOptions& encode) {
+CLI::Option* AddBarcode(CLI::App& command, EncodeOptions& encode) {
     command.add_option("TYPE", encode.type, "Name of the type, see linewright types")->required();
-    command
-        .add_option("DATA", encode.data,
-                    "UTF-8 text; - reads standard input; put -- before data that begins with -")
-        ->required();
+    CLI::Option* const data =
+        command
+            .add_option("DATA", encode.data,
+                        "UTF-8 text; - reads standard input; put -- before data that begins with -")
+            ->required();
     command.add_flag("--check", encode.isCheckWanted, "Add the check character a type leaves open");
     AddRatio(command, [&encode](const CLI::results_t& results) {
         encode.ratio = std::stod(results.front());
@@ -74,6 +75,7 @@ void AddBarcode(CLI::App& command, EncodeOptions& encode) {
     });
     command.add_flag("--bytes", encode.isBytes, "Send the data as it is, without conversion");
     command.add_flag("--strict", encode.isStrict, "Refuse what there is a warning about");
+    return data;
 }
 
 void AddEncode(CLI::App& app, Arguments& arguments) {
@@ -113,19 +115,11 @@ char DelimiterOf(const std::string& text) {
     throw CLI::ValidationError("--delimiter", "is one character, comma, semicolon or tab");
 }
 
-/** What all commands have that work on the rows of a file. */
-void AddRows(CLI::App& command, Arguments& arguments) {
-    BatchOptions& batch = arguments.batch;
-    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
-        ->required();
+/** Where the rows of a file have what. */
+void AddColumns(CLI::App& command, BatchOptions& batch) {
     command.add_option("--type", batch.type, "One type for all rows")->type_name("TYPE");
     command.add_option("--column", batch.dataColumn, "Column of the data; data unless stated")
         ->type_name("NAME");
-    command.add_flag("--check", batch.isCheckWanted, "Add the check character in all rows");
-    AddRatio(command, [&batch](const CLI::results_t& results) {
-        batch.ratio = std::stod(results.front());
-        return true;
-    });
     command
         .add_option(
             "--delimiter",
@@ -135,6 +129,19 @@ void AddRows(CLI::App& command, Arguments& arguments) {
             },
             "Between fields; found from the header unless stated")
         ->type_name("C");
+}
+
+/** What all commands have that work on the rows of a file. */
+void AddRows(CLI::App& command, Arguments& arguments) {
+    BatchOptions& batch = arguments.batch;
+    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
+        ->required();
+    AddColumns(command, batch);
+    command.add_flag("--check", batch.isCheckWanted, "Add the check character in all rows");
+    AddRatio(command, [&batch](const CLI::results_t& results) {
+        batch.ratio = std::stod(results.front());
+        return true;
+    });
     command.add_flag("--strict", batch.isStrict, "Refuse rows that there is a warning about");
 }
 
@@ -164,17 +171,20 @@ void AddPrefs(CLI::App& app, Arguments& arguments) {
 
 void AddDraw(CLI::App& app, Arguments& arguments) {
     DrawOptions& draw = arguments.draw;
-    CLI::App& command = *app.add_subcommand("draw", "Draw one barcode into a file (Linux)");
-    AddBarcode(command, draw.encode);
-    command.add_option("-o,--output", draw.output, ".pdf, .eps, .svg or .png")
-        ->check(kNamesAFile)
-        ->type_name("F")
-        ->required();
+    CLI::App& command =
+        *app.add_subcommand("draw", "Draw barcodes into files (Linux): TYPE DATA, or a CSV file");
+    CLI::Option* const data = AddBarcode(command, draw.encode)->required(false);
+    command.callback([&draw, data] { draw.hasData = data->count() > 0; });
+    AddColumns(command, draw.rows);
+    AddFile(command, draw);
     AddDrawing(command, draw.drawing);
+    AddSurroundings(command, draw.drawing);
     AddText(command, draw.drawing);
     AddResolution(command, draw);
     command.add_flag("--verify", draw.isVerified, "Say what scanners read of it");
-    command.footer("Example:  linewright draw ean13 4006381333931 -o pen.pdf --verify");
+    command.footer(
+        "Example:  linewright draw ean13 4006381333931 -o pen.pdf --verify\n"
+        "          linewright draw labels.csv -o \"{line}-{data}.pdf\"");
 }
 
 void AddVerify(CLI::App& app, Arguments& arguments) {
@@ -195,6 +205,9 @@ void AddProof(CLI::App& app, Arguments& arguments) {
         ->check(kNamesAFile)
         ->type_name("F")
         ->required();
+    command.add_option("--title", arguments.batch.titleColumn, "Column of titles")
+        ->type_name("NAME");
+    command.add_flag("--letter", arguments.draw.isLetter, "Letter paper in place of A4");
     AddDrawing(command, arguments.draw.drawing);
     AddText(command, arguments.draw.drawing);
     command.add_flag("--verify", arguments.draw.isVerified,

@@ -108,6 +108,9 @@ BatchColumns::BatchColumns(const CsvRecord& header, const BatchOptions& wanted, 
     data = RequireColumn(names, options.dataColumn, "--column names the one that holds the data");
     if (!options.isCheckWanted) check = FindColumn(names, "check");
     if (!options.ratio) ratio = FindColumn(names, "ratio");
+    if (options.titleColumn) {
+        title = RequireColumn(names, *options.titleColumn, "--title names the one of titles");
+    }
     std::transform(resultColumns.begin(), resultColumns.end(), std::back_inserter(replaced),
                    [&names](std::string_view name) { return FindColumn(names, name); });
 }
@@ -128,6 +131,10 @@ BarcodeWish BatchColumns::WishOf(const CsvRecord& row) const {
     wish.isStrict = options.isStrict;
     wish.ratio = ratio ? RatioOf(ValueAt(row, *ratio)) : options.ratio.value_or(2.0);
     return wish;
+}
+
+std::string BatchColumns::TitleOf(const CsvRecord& row) const {
+    return title && *title < row.fields.size() ? ValueAt(row, *title) : "";
 }
 
 std::string BatchColumns::HeaderLine(const CsvRecord& header) const {

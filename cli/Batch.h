@@ -19,6 +19,8 @@ struct BatchOptions {
     std::optional<double> ratio;
     /** The column that holds the data; "data" by default. */
     std::string dataColumn = "data";
+    /** The column that says what each barcode is for. */
+    std::optional<std::string> titleColumn;
     std::optional<char> delimiter;
     bool isStrict = false;
     /** Draws each barcode with the fonts in `fonts` (a folder, UTF-8) and has it read. */
@@ -45,6 +47,8 @@ class BatchColumns {
 
     /** What a row asks for. Throws Failure with a sentence for a row that cannot be understood. */
     BarcodeWish WishOf(const CsvRecord& row) const;
+    /** What a row's barcode is for; "" where nothing says it. */
+    std::string TitleOf(const CsvRecord& row) const;
     /** The header with the columns that are added. */
     std::string HeaderLine(const CsvRecord& header) const;
     /** A row with its result in the columns for it; everything else as it stands in the file. A
@@ -62,6 +66,7 @@ class BatchColumns {
     std::optional<std::size_t> data;
     std::optional<std::size_t> check;
     std::optional<std::size_t> ratio;
+    std::optional<std::size_t> title;
     /** The columns of results, and where the file has them already. */
     std::vector<std::string> resultColumns;
     std::vector<std::optional<std::size_t>> replaced;

@@ -2,11 +2,12 @@
 
 #include <fmt/format.h>
 
-#include <chrono>
+#include <functional>
 
 #include "cli/BatchFile.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
+#include "cli/Progress.h"
 #include "cli/ScannedBarcode.h"
 #include "text/FontText.h"
 
@@ -29,40 +30,19 @@ struct Counts {
     }
 };
 
-/** A line on a terminal that says how far the work is, several times a second. */
-class Progress {
-  public:
-    Progress(Console& shownOn, std::size_t records) : console(shownOn), total(records) {}
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-    ~Progress() {
-        if (isShown) console.err << kEraseLine << std::flush;
-    }
+/** What makes a row's barcode. */
+using MakeRow = std::function<ScannedBarcode(const BarcodeWish&)>;
 
-    void Show(std::size_t done, const Counts& counts) {
-        const auto now = std::chrono::steady_clock::now();
-        if (!console.isErrTerminal || now < next) return;
-        next = now + std::chrono::milliseconds(200);
-        isShown = true;
-        console.err << kEraseLine << fmt::format("{:3} %  {}", 100 * done / total, counts.Summary())
-                    << std::flush;
-    }
+MakeRow RowMaker(Service& service, const BatchOptions& options) {
+    if (options.isVerified) return BarcodeScanner(service, options.fonts);
+    return [&service](const BarcodeWish& wish) {
+        return ScannedBarcode{MakeBarcode(service, wish), "", ""};
+    };
+}
 
-  private:
-    static constexpr std::string_view kEraseLine = "\r\x1B[K";
-
-    Console& console;
-    std::size_t total;
-    std::chrono::steady_clock::time_point next =
-        std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
-    bool isShown = false;
-};
-
-RowResult ResultOf(Service& service, const BarcodeWish& wish, const BatchOptions& options,
-                   Language language, Counts& counts) {
-    const ScannedBarcode made = options.isVerified
-                                    ? EncodeAndScan(service, wish, options.fonts)
-                                    : ScannedBarcode{MakeBarcode(service, wish), "", ""};
+RowResult ResultOf(const MakeRow& make, const BarcodeWish& wish, Language language,
+                   Counts& counts) {
+    const ScannedBarcode made = make(wish);
     if (!made.outcome.IsMade()) {
         ++counts.refused;
     } else if (!made.outcome.Warnings().empty()) {
@@ -78,8 +58,8 @@ RowResult ResultOf(Service& service, const BarcodeWish& wish, const BatchOptions
     };
 }
 
-RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
-                      const BatchOptions& options, Language language, Counts& counts) {
+RowResult ResultOfRow(const MakeRow& make, const BatchFile& batch, const CsvRecord& row,
+                      Language language, Counts& counts) {
     BarcodeWish wish;
     try {
         wish = batch.Columns().WishOf(row);
@@ -89,7 +69,7 @@ RowResult ResultOfRow(Service& service, const BatchFile& batch, const CsvRecord&
         result.message = failure.what();
         return result;
     }
-    return ResultOf(service, wish, options, language, counts);
+    return ResultOf(make, wish, language, counts);
 }
 
 Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options, std::ostream& out,
@@ -97,6 +77,7 @@ Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options
     Counts counts;
     const CsvFile& file = batch.File();
     Progress progress(console, file.records.size());
+    const MakeRow make = RowMaker(service, options);
     out << file.byteOrderMark << batch.Columns().HeaderLine(file.records.front());
     for (std::size_t i = 1; i < file.records.size(); ++i) {
         const CsvRecord& row = file.records[i];
@@ -105,8 +86,8 @@ Counts Run(Service& service, const BatchFile& batch, const BatchOptions& options
             continue;
         }
         ++counts.rows;
-        out << batch.Columns().RowLine(
-            row, ResultOfRow(service, batch, row, options, console.language, counts));
+        out << batch.Columns().RowLine(row,
+                                       ResultOfRow(make, batch, row, console.language, counts));
         progress.Show(i, counts);
     }
     return counts;

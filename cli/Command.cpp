@@ -8,6 +8,7 @@
 
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
+#include "cli/DrawingAdvice.h"
 #include "cli/Failure.h"
 #include "cli/FontsCommand.h"
 #include "cli/PrefsCommand.h"
@@ -72,7 +73,7 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
     console.language = LanguageOf(arguments->host.locale);
     if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
     if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
-    arguments->draw.drawing.fonts = arguments->fonts;
+    arguments->draw.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
@@ -93,7 +94,7 @@ int RunCommand(const std::vector<std::string>& arguments,
     } catch (const RequestFailure& failure) {
         return SayTrouble(Sentence(failure, console.language), console);
     } catch (const DrawingFailure& failure) {
-        return SayTrouble(Sentence(failure, console.language), console);
+        return SayTrouble(AdvisedSentence(failure, console.language), console);
     } catch (const std::bad_alloc&) {
         return SayTrouble("there is not enough memory", console);
     } catch (const std::length_error&) {

@@ -17,15 +17,27 @@ namespace linewright {
 struct DrawOptions {
     EncodeOptions encode;
     DrawingWish drawing;
-    /** Its ending says what is written: .pdf, .eps, .svg or .png. */
+    /** The folder that holds the fonts' files, UTF-8. */
+    std::string fonts;
+    /** Its ending says what is written; "-" is standard output. */
     std::string output;
-    std::optional<double> dotsPerInch;
+    /** In place of the ending: "pdf", "eps", "svg", "png" or "tiff". */
+    std::string format;
+    /** "black", "cmyk:C,M,Y,K" in per cent, or the name of an ink. */
+    std::string ink = "black";
+    bool isGrey = false;
     std::optional<int> pixelsPerModule;
     bool isVerified = false;
+    /** Without data the type is the name of a CSV file, whose rows are drawn. */
+    bool hasData = true;
+    BatchOptions rows;
+    /** Of a proof. */
+    bool isLetter = false;
 };
 
-/** Draws one barcode into a file; with `isVerified` what the scanners read goes to standard output,
- *  and kDoesNotScan says that it is not what is meant. */
+/** Draws one barcode into a file, or the rows of a CSV file each into one of its own, in whose name
+ *  {line}, {type} and {data} stand for the row's; with `isVerified` what the scanners read goes to
+ *  standard output, and kDoesNotScan says that it is not what is meant. */
 ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& console);
 
 /** Draws one barcode in memory and says what the scanners read. */

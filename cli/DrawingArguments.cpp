@@ -31,12 +31,33 @@ void AddDrawing(CLI::App& command, DrawingWish& wish) {
 }
 
 void AddResolution(CLI::App& command, DrawOptions& draw) {
-    command.add_option("--dpi", draw.dotsPerInch, "Resolution of a picture, or:")
+    command
+        .add_option("--dpi", draw.drawing.dotsPerInch, "Bars end on the dots of this resolution")
         ->type_name("N")
         ->check(CLI::Range(1, 100000).description(""));
-    command.add_option("--pixels-per-module", draw.pixelsPerModule, "The same by pixels")
+    command.add_flag("--fit", draw.drawing.isFitted, "Take the nearest X-dimension of whole dots");
+    command.add_option("--pixels-per-module", draw.pixelsPerModule, "Of a picture, without --dpi")
         ->type_name("N")
-        ->check(CLI::Range(1, 100).description(""));
+        ->check(CLI::Range(1, 1000).description(""));
+}
+
+void AddFile(CLI::App& command, DrawOptions& draw) {
+    command
+        .add_option("-o,--output", draw.output,
+                    ".pdf, .eps, .svg, .png or .tiff; - for standard output")
+        ->type_name("F")
+        ->required();
+    command.add_option("--format", draw.format, "In place of the name's ending")
+        ->type_name("pdf, eps, svg, png, tiff")
+        ->check(CLI::IsMember({"pdf", "eps", "svg", "png", "tiff"}).description(""));
+    command.add_option("--ink", draw.ink, "black, cmyk:C,M,Y,K in per cent, or a spot colour")
+        ->type_name("INK");
+    command.add_flag("--grey", draw.isGrey, "Pictures of 8 bits a pixel, with smooth text");
+}
+
+void AddSurroundings(CLI::App& command, DrawingWish& wish) {
+    command.add_flag("--bearer", wish.hasBearerBars, "Bearer bars around i2of5");
+    command.add_flag("--margin-marks", wish.hasMarginMarks, "< and > beside EAN");
 }
 
 void AddText(CLI::App& command, DrawingWish& wish) {

@@ -12,8 +12,12 @@ namespace linewright {
 
 /** How bars are drawn. */
 void AddDrawing(CLI::App& command, DrawingWish& wish);
-/** The pixels of a picture. */
+/** The dots that bars end on, and the pixels of a picture. */
 void AddResolution(CLI::App& command, DrawOptions& draw);
+/** What file is written. */
+void AddFile(CLI::App& command, DrawOptions& draw);
+/** What stands around the bars. */
+void AddSurroundings(CLI::App& command, DrawingWish& wish);
 /** Whether there is text below the bars. */
 void AddText(CLI::App& command, DrawingWish& wish);
 

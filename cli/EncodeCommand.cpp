@@ -66,7 +66,7 @@ BarcodeWish WishOf(const EncodeOptions& options, Console& console) {
         .data = DataOf(options, console.in),
         .isUtf8 = !options.isBytes,
         .checkCharacter = static_cast<uint8>(options.isCheckWanted ? 1 : 0),
-        .ratio = options.ratio,
+        .ratio = options.ratio.value_or(2.0),
         .isStrict = options.isStrict,
     };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "cli/Console.h"
@@ -14,7 +15,7 @@ struct EncodeOptions {
     /** "-" reads standard input. */
     std::string data;
     bool isCheckWanted = false;
-    double ratio = 2.0;
+    std::optional<double> ratio;
     bool isBytes = false;
     bool isStrict = false;
     Form form = Form::kText;

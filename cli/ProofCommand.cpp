@@ -1,11 +1,18 @@
+#include <fmt/chrono.h>
 #include <fmt/format.h>
 
+#include <charconv>
+#include <cstdlib>
+#include <ctime>
 #include <filesystem>
+#include <string_view>
 
 #include "cli/BatchFile.h"
 #include "cli/DrawCommand.h"
+#include "cli/DrawingAdvice.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
+#include "cli/Progress.h"
 #include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
 #include "render/Sheet.h"
@@ -30,53 +37,104 @@ struct ProofCounts {
     }
 };
 
+/** Today, or the day of SOURCE_DATE_EPOCH so that a proof can be made again to the byte. */
+std::string Today() {
+    std::time_t now = std::time(nullptr);
+    if (const char* const epoch = std::getenv("SOURCE_DATE_EPOCH")) {
+        const std::string_view text(epoch);
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), now);
+        if (error != std::errc() || end != text.data() + text.size()) {
+            throw Failure("SOURCE_DATE_EPOCH is no number of seconds");
+        }
+    }
+    return fmt::format("{:%Y-%m-%d}", fmt::gmtime(now));
+}
+
 std::string FontOf(const BarcodeDrawing& drawing, const BarcodeType& type) {
     if (type.face == nullptr) return "text, for any face";
     return fmt::format("{}, {:.2f} pt", type.face->family, drawing.FontSize());
 }
 
-SheetEntry Refused(std::string title, const std::string& data, const std::string& message) {
-    return {std::nullopt,
-            std::move(title),
-            {fmt::format("data     {}", Readable(data)), fmt::format("refused  {}", message)}};
+std::string SizeOf(const BarcodeDrawing& drawing, const BarcodeType& type) {
+    const double x = drawing.Module() * type.dimensions.modulesPerX;
+    return fmt::format("X {:.3f} mm, {:.1f} %; bars {:.2f} mm high", x / kMillimetre,
+                       100 * x / type.dimensions.xDimension, drawing.BarHeight() / kMillimetre);
 }
 
-SheetEntry EntryOf(const DrawnBarcode& drawn, const BarcodeWish& wish, std::string title,
-                   Language language, ProofCounts& counts) {
-    const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
-    if (verification.verdict == Verdict::kNoScanner) ++counts.withoutScanner;
-    if (verification.IsBad()) ++counts.unreadable;
-    SheetEntry entry{drawn.drawing, std::move(title), {}};
-    entry.lines.push_back(fmt::format("data  {}", Readable(wish.data)));
-    entry.lines.push_back(fmt::format("font  {}", FontOf(*drawn.drawing, *drawn.outcome.type)));
-    const std::string read = verification.WhatWasRead();
-    entry.lines.push_back(
-        fmt::format("read  {}{}", VerdictWords(verification), read.empty() ? "" : ": " + read));
-    for (const Warning& warning : drawn.outcome.Warnings()) {
-        entry.lines.push_back("note  " + Sentence(warning, language));
-    }
-    return entry;
-}
+/** Makes a sheet of rows, one after the other. */
+class Proof {
+  public:
+    Proof(Service& runService, const DrawOptions& runOptions, const std::string& title,
+          Language runLanguage)
+        : service(runService),
+          options(runOptions),
+          language(runLanguage),
+          fonts(host::PathFromUtf8(runOptions.fonts)),
+          sheet(fonts, runOptions.isLetter ? Paper::kLetter : Paper::kA4, title) {}
 
-SheetEntry EntryOfRow(Service& service, const BatchFile& batch, const CsvRecord& row,
-                      const DrawOptions& drawing, Language language, ProofCounts& counts) {
-    const std::string line = fmt::format("line {}", row.line);
-    BarcodeWish wish;
-    try {
-        wish = batch.Columns().WishOf(row);
-    } catch (const Failure& failure) {
-        ++counts.refused;
-        return Refused(line, "", failure.what());
+    void Add(const BatchColumns& columns, const CsvRecord& row) {
+        ++counts.rows;
+        BarcodeWish wish;
+        try {
+            wish = columns.WishOf(row);
+            const DrawnBarcode drawn = DrawBarcode(service, fonts, wish, options.drawing);
+            if (drawn.drawing) return Show(drawn, wish, columns.TitleOf(row), row.line);
+            Refuse(row, wish, WhyRefused(drawn.outcome, language));
+        } catch (const DrawingFailure& failure) {
+            if (failure.problem.IsOfMachine()) throw;
+            Refuse(row, wish, AdvisedSentence(failure, language));
+        } catch (const Failure& failure) {
+            Refuse(row, wish, failure.what());
+        }
     }
-    const DrawnBarcode drawn = DrawBarcode(service, wish, drawing.drawing);
-    if (!drawn.drawing) {
-        ++counts.refused;
-        return Refused(fmt::format("{}, {}", Readable(wish.type), line), wish.data,
-                       WhyRefused(drawn.outcome, language));
+
+    std::string Finish() {
+        std::vector<std::string> lines{Today(), counts.Summary(), ""};
+        lines.insert(lines.end(), refused.begin(), refused.end());
+        return sheet.Finish(lines);
     }
-    return EntryOf(drawn, wish, fmt::format("{}, {}", drawn.outcome.type->shortName, line),
-                   language, counts);
-}
+
+    ProofCounts counts;
+
+  private:
+    void Refuse(const CsvRecord& row, const BarcodeWish& wish, const std::string& why) {
+        ++counts.refused;
+        refused.push_back(
+            fmt::format("line {}  {}  {}", row.line, Readable(wish.type), Readable(wish.data)));
+        refused.push_back(fmt::format("    refused  {}", why));
+    }
+
+    void Show(const DrawnBarcode& drawn, const BarcodeWish& wish, const std::string& title,
+              std::size_t line) {
+        const BarcodeType& type = *drawn.outcome.type;
+        const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
+        if (verification.verdict == Verdict::kNoScanner) ++counts.withoutScanner;
+        if (verification.IsBad()) ++counts.unreadable;
+        const std::string read = verification.WhatWasRead();
+        std::vector<std::string> lines{
+            fmt::format("data  {}", Readable(wish.data)),
+            fmt::format("font  {}", FontOf(*drawn.drawing, type)),
+            fmt::format("size  {}", SizeOf(*drawn.drawing, type)),
+            fmt::format("read  {}{}", VerdictWords(verification), read.empty() ? "" : ": " + read)};
+        if (type.face == nullptr) lines.erase(lines.begin() + 2);
+        for (const Warning& warning : drawn.outcome.Warnings()) {
+            lines.push_back("note  " + Sentence(warning, language));
+        }
+        for (const DrawingWarning& warning : drawn.warnings) {
+            lines.push_back("note  " + Sentence(warning, language));
+        }
+        std::string head = fmt::format("{}, line {}", type.shortName, line);
+        if (!title.empty()) head = fmt::format("{}  ({})", Readable(title), head);
+        sheet.Add({*drawn.drawing, std::move(head), std::move(lines)});
+    }
+
+    Service& service;
+    const DrawOptions& options;
+    Language language;
+    Fonts fonts;
+    Sheet sheet;
+    std::vector<std::string> refused;
+};
 
 }  // namespace
 
@@ -84,26 +142,28 @@ ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOption
                     const DrawOptions& drawing, Console& console) {
     const std::string text = ReadInput(files.input, console.in);
     const BatchFile batch(text, files.input, options);
-    ProofCounts counts;
-    std::vector<SheetEntry> entries;
-    std::vector<SheetEntry> refused;
-    const std::vector<CsvRecord>& records = batch.File().records;
-    for (std::size_t i = 1; i < records.size(); ++i) {
-        if (records[i].IsBlank()) continue;
-        ++counts.rows;
-        SheetEntry entry =
-            EntryOfRow(service, batch, records[i], drawing, console.language, counts);
-        (entry.drawing ? entries : refused).push_back(std::move(entry));
-    }
-    // What was refused stands behind the barcodes.
-    std::move(refused.begin(), refused.end(), std::back_inserter(entries));
     const std::string name = host::Utf8FromPath(host::PathFromUtf8(files.input).filename());
-    OutputFile file(files.output);
-    file.Stream() << SheetPdf(fmt::format("Linewright proof of {}", Readable(name)), entries);
-    file.Keep();
-    console.err << counts.Summary() << '\n';
-    if (drawing.isVerified && counts.unreadable > 0) return kDoesNotScan;
-    return counts.refused == 0 ? kDone : kRowsRefused;
+    Proof proof(service, drawing, fmt::format("Linewright proof of {}", Readable(name)),
+                console.language);
+    const std::vector<CsvRecord>& records = batch.File().records;
+    {
+        Progress progress(console, records.size());
+        for (std::size_t i = 1; i < records.size(); ++i) {
+            if (!records[i].IsBlank()) proof.Add(batch.Columns(), records[i]);
+            progress.Show(i, proof.counts);
+        }
+    }
+    const std::string sheet = proof.Finish();
+    if (files.output == "-") {
+        console.out << sheet;
+    } else {
+        OutputFile file(files.output);
+        file.Stream() << sheet;
+        file.Keep();
+    }
+    console.err << proof.counts.Summary() << '\n';
+    if (drawing.isVerified && proof.counts.unreadable > 0) return kDoesNotScan;
+    return proof.counts.refused == 0 ? kDone : kRowsRefused;
 }
 
 }  // namespace linewright

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "requests/BarcodeOutcome.h"
@@ -15,8 +16,10 @@ struct ScannedBarcode {
     std::string read;
 };
 
-/** Makes a barcode, draws it in memory with the fonts in the folder `fonts` and reads it back.
- *  Throws Failure where there is no renderer (Windows). */
-ScannedBarcode EncodeAndScan(Service& service, const BarcodeWish& wish, const std::string& fonts);
+/** What makes a barcode, draws it in memory with the fonts in the folder `fonts` and reads it back;
+ *  for one run, in which the service is alive. Throws Failure where there is no renderer (Windows).
+ */
+std::function<ScannedBarcode(const BarcodeWish&)> BarcodeScanner(Service& service,
+                                                                 const std::string& fonts);
 
 }  // namespace linewright

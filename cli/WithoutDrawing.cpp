@@ -19,7 +19,7 @@ ExitStatus RunProof(Service&, const BatchFiles&, const BatchOptions&, const Draw
     throw Failure("proof is for Linux; this program has no renderer and no scanner");
 }
 
-ScannedBarcode EncodeAndScan(Service&, const BarcodeWish&, const std::string&) {
+std::function<ScannedBarcode(const BarcodeWish&)> BarcodeScanner(Service&, const std::string&) {
     throw Failure("--verify is for Linux; this program has no renderer and no scanner");
 }
 

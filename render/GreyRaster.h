@@ -12,10 +12,11 @@ struct GreyRaster {
     int height = 0;
     std::vector<std::uint8_t> pixels;
 
-    std::uint8_t At(int x, int y) const {
-        return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                      static_cast<std::size_t>(x)];
+    std::uint8_t* Row(int y) { return pixels.data() + static_cast<std::ptrdiff_t>(y) * width; }
+    const std::uint8_t* Row(int y) const {
+        return pixels.data() + static_cast<std::ptrdiff_t>(y) * width;
     }
+    std::uint8_t At(int x, int y) const { return Row(y)[x]; }
 };
 
 }  // namespace linewright

@@ -1,176 +1,188 @@
 #include "render/PdfForPress.h"
 
-#include <zlib.h>
-
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdio>
-#include <map>
-#include <sstream>
-#include <string_view>
+#include <new>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
 #include <vector>
+
+#include "render/Decimal.h"
 
 namespace linewright {
 
 namespace {
 
-constexpr std::string_view kStream = "\nstream\n";
-constexpr std::string_view kEndOfStream = "\nendstream";
-constexpr std::string_view kLength = "/Length ";
-/** How lists of widths begin, of simple fonts and of those with more than 256 characters. */
-constexpr std::string_view kWidths[]{"/Widths [ ", "/W [0 [ "};
+using Object = QPDFObjectHandle;
+
+/** Names of our own in a page's resources. */
+constexpr const char* kOverprint = "/LinewrightOverprint";
+constexpr const char* kSpotInk = "/LinewrightInk";
 /** Our glyphs' widths are multiples of this in thousandths of the size: half of 1/128. */
 constexpr double kWidthStep = 1000.0 / 256;
 
-std::string Inflated(std::string_view packed) {
-    std::string text;
-    z_stream stream{};
-    if (inflateInit(&stream) != Z_OK) return "";
-    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(packed.data()));
-    stream.avail_in = static_cast<uInt>(packed.size());
-    std::array<char, 16384> piece;
-    int result = Z_OK;
-    while (result == Z_OK) {
-        stream.next_out = reinterpret_cast<Bytef*>(piece.data());
-        stream.avail_out = piece.size();
-        result = inflate(&stream, Z_NO_FLUSH);
-        text.append(piece.data(), piece.size() - stream.avail_out);
+/** What sets the ink for what is filled. */
+std::string InkOperation(const Ink& ink) {
+    std::string operation;
+    switch (ink.kind) {
+        case Ink::Kind::kBlack: return "0 g";
+        case Ink::Kind::kCmyk:
+            for (const double part : ink.cmyk) operation += Decimal(part, 4) + ' ';
+            return operation + 'k';
+        case Ink::Kind::kSpot: break;
     }
-    inflateEnd(&stream);
-    return result == Z_STREAM_END ? text : "";
+    return std::string(kSpotInk) + " cs 1 scn";
 }
 
-std::string Deflated(const std::string& text) {
-    uLongf size = compressBound(static_cast<uLong>(text.size()));
-    std::string packed(size, '\0');
-    compress(reinterpret_cast<Bytef*>(packed.data()), &size,
-             reinterpret_cast<const Bytef*>(text.data()), static_cast<uLong>(text.size()));
-    packed.resize(size);
-    return packed;
-}
+/** Passes a page's content on with greys as greys, or all of it in one ink and, where it is asked
+ *  for, its text invisible. */
+class PressFilter : public Object::TokenFilter {
+  public:
+    explicit PressFilter(const PressPage* pressPage) : press(pressPage) {}
 
-/** The content with "0.5 0.5 0.5 rg" as "0.5 g" and "RG" as "G"; Cairo begins a line with them. */
-std::string GreyContent(const std::string& content) {
-    std::string result;
-    std::istringstream lines(content);
-    for (std::string line; std::getline(lines, line); result += line + '\n') {
-        std::istringstream words(line);
-        std::string red;
-        std::string green;
-        std::string blue;
-        std::string operation;
-        words >> red >> green >> blue >> operation;
-        if (operation != "rg" && operation != "RG") continue;
-        if (red != green || green != blue) continue;
-        const std::size_t end = line.find(operation) + operation.size();
-        line.replace(0, end, red + (operation == "rg" ? " g" : " G"));
+    void handleToken(const QPDFTokenizer::Token& token) override {
+        using Type = QPDFTokenizer::token_type_e;
+        const Type type = token.getType();
+        if (type == Type::tt_space || type == Type::tt_comment) return;
+        if (type == Type::tt_word) {
+            WriteOperation(token.getValue());
+        } else {
+            operands.push_back(token);
+        }
     }
-    return result;
+
+    void handleEOF() override { WriteOperands(); }
+
+  private:
+    void WriteOperation(const std::string& operation) {
+        const bool isRgb = (operation == "rg" || operation == "RG") && operands.size() == 3;
+        const bool isGrey = isRgb && operands[0].getValue() == operands[1].getValue() &&
+                            operands[0].getValue() == operands[2].getValue();
+        const bool isColour = isRgb || operation == "g" || operation == "G";
+        if (press != nullptr && isColour) {
+            operands.clear();
+            write(InkOperation(press->options.ink) + '\n');
+            return;
+        }
+        if (isGrey) operands.resize(1);
+        WriteOperands();
+        write((isGrey ? (operation == "rg" ? "g" : "G") : operation) + '\n');
+        if (operation == "BT" && press != nullptr && !press->paths.empty()) write("3 Tr\n");
+    }
+
+    void WriteOperands() {
+        for (const QPDFTokenizer::Token& operand : operands) {
+            writeToken(operand);
+            write(" ");
+        }
+        operands.clear();
+    }
+
+    const PressPage* press;
+    std::vector<QPDFTokenizer::Token> operands;
+};
+
+Object ExactWidth(Object width) {
+    const double cut = width.getNumericValue();
+    const double exact = std::ceil(cut / kWidthStep) * kWidthStep;
+    return exact - cut >= 1 ? width : Object::newReal(Decimal(exact, 6));
 }
 
-/** The number that a text goes on with at a place. */
-int NumberAt(const std::string& text, std::size_t place) {
-    return std::atoi(text.c_str() + place);
+void MakeExact(Object widths) {
+    for (int i = 0; i < widths.getArrayNItems(); ++i) {
+        Object item = widths.getArrayItem(i);
+        if (item.isArray()) {
+            MakeExact(item);
+        } else if (item.isNumber() && item.getNumericValue() != 0) {
+            widths.setArrayItem(i, ExactWidth(item));
+        }
+    }
 }
 
-/** Makes the content of a page grey; the new length goes to the object that holds it. */
-void MakeContentGrey(std::string& object, std::map<int, std::size_t>& lengths) {
-    const std::size_t start = object.find(kStream);
-    const std::size_t end = object.rfind(kEndOfStream);
-    if (start == std::string::npos || end == std::string::npos) return;
-    const std::string_view head = std::string_view(object).substr(0, start);
-    const std::size_t length = head.find(kLength);
-    const bool isContent = length != head.npos && head.find("/FlateDecode") != head.npos &&
-                           head.find("/Length1") == head.npos && head.find("/Subtype") == head.npos;
-    if (!isContent) return;
-    const std::size_t first = start + kStream.size();
-    const std::string packed =
-        Deflated(GreyContent(Inflated(std::string_view(object).substr(first, end - first))));
-    lengths[NumberAt(object, length + kLength.size())] = packed.size();
-    object.replace(first, end - first, packed);
-}
-
-std::string ExactWidth(double width) {
-    const double exact = std::ceil(width / kWidthStep) * kWidthStep;
-    if (exact - width >= 1) return std::to_string(std::lround(width));
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.8g", exact);
-    return text.data();
-}
-
-void MakeWidthsExact(std::string& object) {
-    const bool isOurs = object.find("+Linewright") != std::string::npos ||
-                        object.find("+CairoFont") != std::string::npos;
+/** Widths of simple fonts, and of those with more than 256 characters: [first [width…]]. */
+void MakeWidthsExact(Object font) {
+    Object name = font.getKey("/BaseFont");
+    const bool isOurs = name.isName() && name.getName().find("+Linewright") != std::string::npos;
     if (!isOurs) return;
-    for (const std::string_view begin : kWidths) {
-        const std::size_t widths = object.find(begin);
-        if (widths == std::string::npos) continue;
-        const std::size_t first = widths + begin.size();
-        const std::size_t end = object.find(']', first);
-        std::istringstream numbers(object.substr(first, end - first));
-        std::string exact;
-        for (double width = 0; numbers >> width;) exact += ExactWidth(width) + ' ';
-        object.replace(first, end - first, exact);
+    for (const char* key : {"/Widths", "/W"}) {
+        if (font.hasKey(key) && font.getKey(key).isArray()) MakeExact(font.getKey(key));
     }
 }
 
-void ReplaceAll(std::string& text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at)) {
-        text.replace(at, from.size(), to);
-        at += to.size();
-    }
+/** A tint of the ink, and black in its place where a device does not have it. */
+Object SpotSpace(const std::string& name) {
+    Object function =
+        Object::parse("<< /FunctionType 2 /Domain [0 1] /N 1 /C0 [0 0 0 0] /C1 [0 0 0 1] >>");
+    return Object::newArray({Object::newName("/Separation"), Object::newName('/' + name),
+                             Object::newName("/DeviceCMYK"), function});
 }
 
-/** The objects of a file by their numbers, each from its number to "endobj". */
-std::map<int, std::string> ObjectsOf(const std::string& pdf, std::size_t table) {
-    std::vector<std::size_t> places{table};
-    constexpr std::size_t kEntrySize = 20;
-    const std::size_t count = static_cast<std::size_t>(NumberAt(pdf, table + 7));
-    const std::size_t entries = pdf.find('\n', table + 5) + 1;
-    for (std::size_t number = 1; number < count; ++number) {
-        places.push_back(static_cast<std::size_t>(NumberAt(pdf, entries + number * kEntrySize)));
-    }
-    std::sort(places.begin(), places.end());
-    std::map<int, std::string> objects;
-    for (std::size_t i = 0; i + 1 < places.size(); ++i) {
-        objects[NumberAt(pdf, places[i])] = pdf.substr(places[i], places[i + 1] - places[i]);
-    }
-    return objects;
+void AddResources(QPDFPageObjectHelper& page, const Ink& ink) {
+    Object resources = page.getAttribute("/Resources", true);
+    const auto add = [&resources](const char* kind, const char* name, const Object& value) {
+        if (!resources.hasKey(kind)) resources.replaceKey(kind, Object::newDictionary());
+        Object entries = resources.getKey(kind);
+        entries.replaceKey(name, value);
+    };
+    add("/ExtGState", kOverprint, Object::parse("<< /Type /ExtGState /OP true /op true /OPM 1 >>"));
+    if (ink.kind == Ink::Kind::kSpot) add("/ColorSpace", kSpotInk, SpotSpace(ink.name));
+}
+
+void PreparePage(QPDF& file, QPDFPageObjectHelper page, const PressPage* press) {
+    Object dictionary = page.getObjectHandle();
+    // Nothing is transparent.
+    dictionary.removeKey("/Group");
+    dictionary.replaceKey("/TrimBox", page.getMediaBox().shallowCopy());
+    page.addContentTokenFilter(std::make_shared<PressFilter>(press));
+    if (press == nullptr) return;
+    AddResources(page, press->options.ink);
+    const std::string data = Object::newUnicodeString(press->options.data).unparse();
+    const std::string before = "/Span << /ActualText " + data + " >> BDC\nq\n" + kOverprint +
+                               " gs\n" + InkOperation(press->options.ink) + '\n' + press->paths;
+    page.addPageContents(file.newStream(before), true);
+    page.addPageContents(file.newStream("Q\nEMC\n"), false);
 }
 
 }  // namespace
 
-std::string PdfForPress(const std::string& pdf) {
-    const std::size_t last = pdf.rfind("startxref\n");
-    if (last == std::string::npos) return pdf;
-    const auto table = static_cast<std::size_t>(NumberAt(pdf, last + 10));
-    std::map<int, std::string> objects = ObjectsOf(pdf, table);
-    std::map<int, std::size_t> lengths;
-    for (auto& [number, object] : objects) {
-        MakeContentGrey(object, lengths);
-        MakeWidthsExact(object);
-        if (object.find(kStream) == std::string::npos) {
-            ReplaceAll(object, "/DeviceRGB", "/DeviceGray");
+std::string PdfForPress(const std::string& pdf, const std::string& title, const PressPage* press,
+                        int lastPagesFirst) {
+    try {
+        QPDF file;
+        file.setSuppressWarnings(true);
+        file.processMemoryFile("drawing", pdf.data(), pdf.size());
+        for (const QPDFPageObjectHelper& page : QPDFPageDocumentHelper(file).getAllPages()) {
+            PreparePage(file, page, press);
         }
+        for (int moved = 0; moved < lastPagesFirst; ++moved) {
+            QPDFPageDocumentHelper pages(file);
+            const QPDFPageObjectHelper last = pages.getAllPages().back();
+            pages.removePage(last);
+            pages.addPage(last, true);
+        }
+        for (Object object : file.getAllObjects()) {
+            if (object.isDictionary()) MakeWidthsExact(object);
+        }
+        Object information = Object::newDictionary();
+        information.replaceKey("/Title", Object::newUnicodeString(title));
+        information.replaceKey("/Producer", Object::newString("Linewright"));
+        file.getTrailer().replaceKey("/Info", file.makeIndirectObject(information));
+        QPDFWriter writer(file);
+        writer.setOutputMemory();
+        writer.setDeterministicID(true);
+        writer.setObjectStreamMode(qpdf_o_disable);
+        writer.write();
+        const auto written = writer.getBufferSharedPointer();
+        if (file.anyWarnings()) {
+            throw std::runtime_error(file.getWarnings().front().getMessageDetail());
+        }
+        return {reinterpret_cast<const char*>(written->getBuffer()), written->getSize()};
+    } catch (const std::bad_alloc&) {
+        throw;
+    } catch (const std::exception& failure) {
+        throw DrawingFailure(DrawingProblem::Reason::kLibrary,
+                             {std::string("QPDF, ") + failure.what()});
     }
-    for (const auto& [number, length] : lengths) {
-        objects[number] =
-            std::to_string(number) + " 0 obj\n   " + std::to_string(length) + "\nendobj\n";
-    }
-    std::string result = pdf.substr(0, pdf.find('\n', pdf.find('\n') + 1) + 1);
-    std::string entries = "0000000000 65535 f \n";
-    for (const auto& [number, object] : objects) {
-        std::array<char, 32> entry{};
-        std::snprintf(entry.data(), entry.size(), "%010zu 00000 n \n", result.size());
-        entries += entry.data();
-        result += object;
-    }
-    const std::size_t trailer = pdf.find("trailer\n", table);
-    const std::size_t newTable = result.size();
-    result += "xref\n0 " + std::to_string(objects.size() + 1) + '\n' + entries;
-    result += pdf.substr(trailer, last - trailer);
-    return result + "startxref\n" + std::to_string(newTable) + "\n%%EOF\n";
 }
 
 }  // namespace linewright

@@ -4,148 +4,142 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "render/CairoPage.h"
 #include "render/PdfForPress.h"
-#include "render/TextFace.h"
 
 namespace linewright {
 
 namespace {
 
-constexpr double kPageWidth = 210 * kMillimetre;
-constexpr double kPageHeight = 297 * kMillimetre;
 constexpr double kMargin = 15 * kMillimetre;
 constexpr double kGutter = 8 * kMillimetre;
-constexpr double kWhole = kPageWidth - 2 * kMargin;
-constexpr double kColumn = (kWhole - kGutter) / 2;
 constexpr double kTextSize = 6.5;
 constexpr double kTitleSize = 8;
 constexpr double kHeadSize = 11;
 constexpr double kLeading = 8.5;
 constexpr double kBetween = 14;
 constexpr double kTop = kMargin + 2 * kHeadSize;
-constexpr double kBottom = kPageHeight - kMargin - kLeading;
+/** Between a drawing and the lines above and below it: text must not pass for the barcode's. */
+constexpr double kClear = 8;
+/** Of a quiet zone's end. */
+constexpr double kTick = 4;
+constexpr double kTickWidth = 0.25;
 
-/** An entry with its place on the sheet. */
-struct Placed {
-    const SheetEntry* entry;
-    int page;
-    double x, y;
-    double width;
-    double scale;
-};
-
-double ScaleOf(const SheetEntry& entry) {
-    if (!entry.drawing) return 1;
-    const BarcodeDrawing& drawing = *entry.drawing;
-    const double tallest = kBottom - kTop - kLeading * static_cast<double>(entry.lines.size() + 3);
-    return std::min({1.0, kWhole / (drawing.Width() * drawing.Module()),
-                     tallest / (drawing.Height() * drawing.Module())});
-}
-
-double WidthOf(const SheetEntry& entry) {
-    const bool fits = entry.drawing && entry.drawing->Width() * entry.drawing->Module() <= kColumn;
-    return fits ? kColumn : kWhole;
-}
-
-double HeightOf(const SheetEntry& entry, double scale) {
-    const double bars =
-        entry.drawing ? entry.drawing->Height() * entry.drawing->Module() * scale + 4 : 0;
-    const auto lines = static_cast<double>(entry.lines.size() + (scale < 1 ? 1 : 0));
-    return kLeading * (1 + lines) + bars + kBetween;
-}
-
-/** Fills the pages from the top: two narrow entries beside each other, a wide one alone. */
-std::vector<Placed> PlacesOf(const std::vector<SheetEntry>& entries) {
-    std::vector<Placed> places;
-    int page = 0;
-    double y = kTop;
-    double rowHeight = 0;
-    bool isRightFree = false;
-    for (const SheetEntry& entry : entries) {
-        const double scale = ScaleOf(entry);
-        const double width = WidthOf(entry);
-        const double height = HeightOf(entry, scale);
-        const bool isBeside = isRightFree && width == kColumn && y + height <= kBottom;
-        if (!isBeside) {
-            y += rowHeight;
-            rowHeight = 0;
-            if (y + height > kBottom) {
-                ++page;
-                y = kTop;
-            }
-        }
-        places.push_back(
-            {&entry, page, isBeside ? kMargin + kColumn + kGutter : kMargin, y, width, scale});
-        rowHeight = std::max(rowHeight, height);
-        isRightFree = !isBeside && width == kColumn;
-    }
-    return places;
-}
-
-void ShowText(cairo_t* context, const std::string& text, double x, double y, double size,
-              double width, bool isBold = false) {
-    SelectTextFace(context, size, isBold);
-    cairo_move_to(context, x, y);
-    cairo_show_text(context, FittedText(text, size, width).c_str());
-}
-
-void ShowEntry(cairo_t* context, const Placed& place) {
-    const SheetEntry& entry = *place.entry;
-    double y = place.y + kLeading;
-    ShowText(context, entry.title, place.x, y, kTitleSize, place.width, true);
-    if (entry.drawing) {
-        const BarcodeDrawing& drawing = *entry.drawing;
-        const double size = drawing.Module() * place.scale;
-        cairo_save(context);
-        cairo_translate(context, place.x, y + 4);
-        cairo_scale(context, size, size);
-        drawing.Paint(context, drawing.NaturalForm());
-        cairo_restore(context);
-        y += drawing.Height() * size + 4;
-    }
-    std::vector<std::string> lines = entry.lines;
-    if (place.scale < 1) {
-        lines.push_back("shown at " + std::to_string(std::lround(100 * place.scale)) +
-                        " % of its size");
-    }
-    for (const std::string& line : lines) {
-        y += kLeading;
-        ShowText(context, line, place.x, y, kTextSize, place.width);
-    }
-}
-
-void ShowFrame(cairo_t* context, const std::string& title, int page, int pages) {
-    ShowText(context, title, kMargin, kMargin + kHeadSize, kHeadSize, kWhole, true);
-    ShowText(context, "page " + std::to_string(page + 1) + " of " + std::to_string(pages), kMargin,
-             kPageHeight - kMargin, kTextSize, kWhole);
+double BottomOf(double pageHeight) {
+    return pageHeight - kMargin - kLeading;
 }
 
 }  // namespace
 
-std::string SheetPdf(const std::string& title, const std::vector<SheetEntry>& entries) {
-    const std::vector<Placed> places = PlacesOf(entries);
-    const int pages = places.empty() ? 1 : places.back().page + 1;
-    std::string file;
-    cairo_surface_t* const surface = cairo_pdf_surface_create_for_stream(
-        [](void* target, const unsigned char* bytes, unsigned int count) {
-            static_cast<std::string*>(target)->append(reinterpret_cast<const char*>(bytes), count);
-            return CAIRO_STATUS_SUCCESS;
-        },
-        &file, kPageWidth, kPageHeight);
-    cairo_t* const context = cairo_create(surface);
-    cairo_set_source_rgb(context, 0, 0, 0);
-    for (int page = 0; page < pages; ++page) {
-        ShowFrame(context, title, page, pages);
-        for (const Placed& place : places) {
-            if (place.page == page) ShowEntry(context, place);
-        }
-        cairo_show_page(context);
+Sheet::Sheet(Fonts& runFonts, Paper paper, std::string sheetTitle)
+    : fonts(runFonts),
+      pageWidth(paper == Paper::kA4 ? 210 * kMillimetre : 8.5 * kInch),
+      pageHeight(paper == Paper::kA4 ? 297 * kMillimetre : 11 * kInch),
+      title(std::move(sheetTitle)),
+      page(std::make_unique<CairoPage>(
+          cairo_pdf_surface_create_for_stream(AppendToString, &file, pageWidth, pageHeight))),
+      y(kTop) {}
+
+Sheet::~Sheet() = default;
+
+void Sheet::Add(const SheetEntry& entry) {
+    const double whole = pageWidth - 2 * kMargin;
+    const double column = (whole - kGutter) / 2;
+    const double bottom = BottomOf(pageHeight);
+    const double drawnWidth = entry.drawing.Width() * entry.drawing.Module();
+    const double drawnHeight = entry.drawing.Height() * entry.drawing.Module();
+    const double lines = kLeading * static_cast<double>(entry.lines.size() + 2) + 2 * kClear;
+    const double scale =
+        std::min({1.0, whole / drawnWidth, (bottom - kTop - lines - kBetween) / drawnHeight});
+    const double width = drawnWidth <= column ? column : whole;
+    const double height = lines + drawnHeight * scale + kBetween;
+    const bool isBeside = isRightFree && width == column && y + height <= bottom;
+    if (!isBeside) {
+        y += rowHeight;
+        rowHeight = 0;
+        if (y + height > bottom && y > kTop) EndPage("page " + std::to_string(pages + 1));
     }
-    cairo_destroy(context);
-    cairo_surface_finish(surface);
-    cairo_surface_destroy(surface);
-    return PdfForPress(file);
+    Show(entry, isBeside ? kMargin + column + kGutter : kMargin, y, width, scale);
+    rowHeight = std::max(rowHeight, height);
+    isRightFree = !isBeside && width == column;
+}
+
+std::string Sheet::Finish(const std::vector<std::string>& firstLines) {
+    if (rowHeight > 0) EndPage("page " + std::to_string(pages + 1));
+    // The tally is known last and stands first.
+    const std::string behind = std::to_string(pages) + " pages of barcodes behind";
+    const double bottom = BottomOf(pageHeight);
+    const auto linesOfPage = static_cast<std::size_t>((bottom - kTop) / kLeading);
+    const std::size_t count =
+        std::max<std::size_t>(1, (firstLines.size() + linesOfPage - 1) / linesOfPage);
+    for (std::size_t number = 0; number < count; ++number) {
+        const std::size_t first = number * linesOfPage;
+        const std::size_t last = std::min(first + linesOfPage, firstLines.size());
+        for (std::size_t line = first; line < last; ++line) {
+            y += kLeading;
+            ShowLine(firstLines[line], kMargin, y, kTextSize, pageWidth - 2 * kMargin);
+        }
+        EndPage("summary " + std::to_string(number + 1) + " of " + std::to_string(count) + ", " +
+                behind);
+    }
+    page->Finish();
+    return PdfForPress(file, title, nullptr, static_cast<int>(count));
+}
+
+void Sheet::Show(const SheetEntry& entry, double x, double top, double width, double scale) {
+    cairo_t* const context = page->Context();
+    const BarcodeDrawing& drawing = entry.drawing;
+    const double size = drawing.Module() * scale;
+    double line = top + kLeading;
+    ShowLine(entry.title, x, line, kTitleSize, width, true);
+    line += kClear;
+    cairo_save(context);
+    cairo_translate(context, x, line);
+    cairo_scale(context, size, size);
+    if (drawing.IsFontText()) {
+        drawing.ShowText(context);
+    } else {
+        const Shapes shapes = drawing.Drawn();
+        cairo_scale(context, shapes.unit / drawing.Module(), shapes.unit / drawing.Module());
+        FillShapes(context, shapes);
+    }
+    cairo_restore(context);
+    const double drawnWidth = drawing.Width() * size;
+    const double drawnHeight = drawing.Height() * size;
+    for (const double side : {x, x + drawnWidth - kTickWidth}) {
+        cairo_rectangle(context, side, line - kTick - 1, kTickWidth, kTick);
+        cairo_rectangle(context, side, line + drawnHeight + 1, kTickWidth, kTick);
+    }
+    cairo_fill(context);
+    line += drawnHeight + kClear;
+    std::vector<std::string> lines = entry.lines;
+    if (scale < 1) {
+        lines.push_back("shown at " + std::to_string(std::lround(100 * scale)) + " % of its size");
+    }
+    for (const std::string& text : lines) {
+        line += kLeading;
+        ShowLine(text, x, line, kTextSize, width);
+    }
+}
+
+void Sheet::ShowLine(const std::string& text, double x, double baseline, double size, double width,
+                     bool isBold) {
+    const auto face = fonts.Text(isBold);
+    face->Show(page->Context(), face->SetWithin(text, size, width), size, x, baseline);
+}
+
+void Sheet::EndPage(const std::string& foot) {
+    const double width = pageWidth - 2 * kMargin;
+    ShowLine(title, kMargin, kMargin + kHeadSize, kHeadSize, width, true);
+    ShowLine(foot, kMargin, pageHeight - kMargin, kTextSize, width);
+    cairo_show_page(page->Context());
+    CheckCairo(cairo_status(page->Context()));
+    ++pages;
+    y = kTop;
+    rowHeight = 0;
+    isRightFree = false;
 }
 
 }  // namespace linewright

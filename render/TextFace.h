@@ -3,18 +3,38 @@
 #include <cairo/cairo.h>
 
 #include <string>
+#include <vector>
+
+#include "render/FontFile.h"
 
 namespace linewright {
 
-// The face for text that a barcode font does not print: the system's monospaced one.
+/** Text of one line, set in a face: what a context shows, at the baseline's start. */
+struct TextLine {
+    std::vector<cairo_glyph_t> glyphs;
+    double width = 0;
+};
 
-/** Sets the face for a context, `size` in its units. */
-void SelectTextFace(cairo_t* context, double size, bool isBold = false);
+/** The face for text that a barcode font does not print: DejaVu Sans Mono, and no other one in its
+ *  place, so that the same drawing has the same text on every machine. */
+class TextFace {
+  public:
+    explicit TextFace(bool isBold);
 
-/** The width of UTF-8 text at a size. */
-double TextWidth(const std::string& text, double size);
+    /** Sets UTF-8 text at a size. */
+    TextLine Set(const std::string& text, double size) const;
+    /** The text or, where it is wider than `width`, as much of it as fits with "…" behind. */
+    TextLine SetWithin(const std::string& text, double size, double width) const;
 
-/** The text or, where it is wider than `width`, as much of it as fits with "…" behind. */
-std::string FittedText(const std::string& text, double size, double width);
+    /** Shows a line that was set at this size. */
+    void Show(cairo_t* context, const TextLine& line, double size, double x, double y) const;
+    /** Adds the line's outline. */
+    void AddTo(Outline& outline, const TextLine& line, double size, double x, double y) const;
+
+  private:
+    TextLine Set(const std::u32string& characters, double size) const;
+
+    FontFile file;
+};
 
 }  // namespace linewright

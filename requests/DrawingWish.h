@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 namespace linewright {
 
@@ -15,8 +14,6 @@ struct Length {
 
 /** How a barcode is to be drawn; what is not wished for is as its type has it. */
 struct DrawingWish {
-    /** The folder that holds the fonts' files, UTF-8. */
-    std::string fonts;
     /** In points. */
     std::optional<double> xDimension{};
     std::optional<Length> height{};
@@ -25,6 +22,12 @@ struct DrawingWish {
     std::optional<Length> barWidthReduction{};
     /** Data below the bars; where nothing is said, if the font prints none. */
     std::optional<bool> isTextWanted{};
+    /** Of the device; the bars end on its dots. */
+    std::optional<double> dotsPerInch{};
+    /** Whether the nearest X-dimension that has whole dots will do. */
+    bool isFitted = false;
+    bool hasBearerBars = false;
+    bool hasMarginMarks = false;
 };
 
 }  // namespace linewright

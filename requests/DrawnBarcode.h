@@ -1,10 +1,10 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "render/BarcodeDrawing.h"
 #include "requests/BarcodeOutcome.h"
-#include "requests/DrawingFailure.h"
 #include "requests/DrawingWish.h"
 
 namespace linewright {
@@ -14,9 +14,13 @@ struct DrawnBarcode {
     BarcodeOutcome outcome;
     /** None where the outcome was a refusal. */
     std::optional<BarcodeDrawing> drawing{};
+    /** About the drawing, also where they were refused. */
+    std::vector<DrawingWarning> warnings{};
 };
 
-/** Makes and draws. Throws RequestFailure and DrawingFailure. */
-DrawnBarcode DrawBarcode(Service& service, const BarcodeWish& wish, const DrawingWish& drawing);
+/** Makes and draws; a strict wish has warnings about the drawing refused too. Throws RequestFailure
+ *  and DrawingFailure. */
+DrawnBarcode DrawBarcode(Service& service, Fonts& fonts, const BarcodeWish& wish,
+                         const DrawingWish& drawing);
 
 }  // namespace linewright

@@ -45,7 +45,7 @@ std::string Verification::WhatWasRead() const {
     return text;
 }
 
-Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, int pixelsPerModule) {
+Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, double pixelsPerModule) {
     if (!HasScanner(meaning.task.symbology)) return {};
     const GreyRaster picture = drawing.Raster(pixelsPerModule);
     Verification result;

@@ -33,6 +33,7 @@ std::string ShownData(const Reading& reading);
 
 /** Draws in memory and reads with both scanners. It scans when one of them reads what is meant and
  *  none reads anything else. `pixelsPerModule` as for BarcodeDrawing::Raster. */
-Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, int pixelsPerModule = 4);
+Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning,
+                    double pixelsPerModule = 4);
 
 }  // namespace linewright

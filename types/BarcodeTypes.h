@@ -91,7 +91,7 @@ inline constexpr std::array kBarcodeTypes{
     BarcodeType{TypeCode::kEan8, "_BARCODE_EAN8_",
      "ean8", "0x122100kLWRUtilityTypePopupItem23Key", {0, 1, 0},
      Family::kCurrent, Group::kRetail, Symbology::kEanUpc, &kEanUpcFace,
-     dimensions::Retail(7, 7), CheckDigit::kAlways, Trait::kNone, {{8}}},
+     dimensions::Retail(7, 7, dimensions::kEan8BarHeight), CheckDigit::kAlways, Trait::kNone, {{8}}},
     BarcodeType{TypeCode::kEan13, "_QVT_BARCODE_EAN13_",
      "ean13", "0x122100kLWRUtilityTypePopupItem9Key", {0, 1, 0},
      Family::kCurrent, Group::kRetail, Symbology::kEanUpc, &kEanUpcFace,

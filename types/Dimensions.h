@@ -18,6 +18,8 @@ struct Dimensions {
     double quietLeft;
     double quietRight;
     double quietVertical = 0;
+    /** The bars' height in modules where the font's is not the standard's; else 0. */
+    double barHeight = 0;
 };
 
 namespace dimensions {
@@ -37,20 +39,25 @@ constexpr Dimensions Linear(double quiet = 10) {
 constexpr double kMsiQuiet = 12;
 
 /** ISO/IEC 15420. */
-constexpr Dimensions Retail(double left, double right) {
+constexpr Dimensions Retail(double left, double right, double barHeight = 0) {
     return {.xDimension = 0.33 * kMillimetre,
             .xLeast = 0.264 * kMillimetre,
             .xLargest = 0.66 * kMillimetre,
             .quietLeft = left,
-            .quietRight = right};
+            .quietRight = right,
+            .barHeight = barHeight};
 }
+constexpr double kEan8BarHeight = 18.23 / 0.33;
 
 /** At 11.5 points the postal fonts' bars have the standards' nominal sizes: a bar is four modules
  *  wide and repeats after nine, which makes 20 to 24 bars an inch at the limits. */
 constexpr int kPostalModulesPerX = 4;
+constexpr int kPostalModulesPerPitch = 9;
 constexpr double kPostalX = kPostalModulesPerX * 11.5 / 32;
+constexpr double kLeastBarsPerInch = 20;
+constexpr double kMostBarsPerInch = 24;
 constexpr double PostalXAt(double barsPerInch) {
-    return kInch / barsPerInch * kPostalModulesPerX / 9;
+    return kInch / barsPerInch * kPostalModulesPerX / kPostalModulesPerPitch;
 }
 constexpr double PostalModules(double inches) {
     return inches * kInch / (kPostalX / kPostalModulesPerX);
@@ -58,8 +65,8 @@ constexpr double PostalModules(double inches) {
 /** USPS-B-3200; Domestic Mail Manual 708.4. */
 constexpr Dimensions Postal(double clearInches) {
     return {.xDimension = kPostalX,
-            .xLeast = PostalXAt(24),
-            .xLargest = PostalXAt(20),
+            .xLeast = PostalXAt(kMostBarsPerInch),
+            .xLargest = PostalXAt(kLeastBarsPerInch),
             .modulesPerX = kPostalModulesPerX,
             .quietLeft = PostalModules(0.125),
             .quietRight = PostalModules(0.125),

@@ -4,8 +4,9 @@
 #include <string_view>
 
 #include "meaning/Warning.h"
+#include "render/DrawingFailure.h"
+#include "render/DrawingWarning.h"
 #include "requests/BarcodeOutcome.h"
-#include "requests/DrawingFailure.h"
 #include "requests/RequestFailure.h"
 
 namespace linewright {
@@ -24,5 +25,6 @@ std::string JoinedWarnings(const BarcodeOutcome& outcome, Language language);
 std::string WhyRefused(const BarcodeOutcome& outcome, Language language);
 std::string Sentence(const RequestFailure& failure, Language language);
 std::string Sentence(const DrawingFailure& failure, Language language);
+std::string Sentence(const DrawingWarning& warning, Language language);
 
 }  // namespace linewright

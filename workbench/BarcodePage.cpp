@@ -14,6 +14,7 @@
 #include <array>
 #include <cmath>
 
+#include "host/runtime/Paths.h"
 #include "render/Export.h"
 #include "requests/DrawnBarcode.h"
 #include "scanners/Verification.h"
@@ -41,19 +42,16 @@ QString FromUtf8(const std::string& text) {
 }
 
 std::string FileContent(const BarcodeDrawing& drawing, const QString& file) {
-    if (file.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) return SvgOf(drawing);
-    if (file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
-        return PngOf(drawing, WholePixelsPerModule(drawing));
-    return PdfOf(drawing);
+    return FileOf(drawing, FormatOf(file.toStdString()).value_or(FileFormat::kPdf), {});
 }
 
 }  // namespace
 
-BarcodePage::BarcodePage(Service& plugIn, QSettings& userSettings, std::string fontFolder,
+BarcodePage::BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
                          const QString& locale)
     : service(plugIn),
       settings(userSettings),
-      fonts(std::move(fontFolder)),
+      fonts(host::PathFromUtf8(fontFolder)),
       language(locale),
       types(plugIn.Types()) {
     MakeFields();
@@ -213,7 +211,7 @@ void BarcodePage::Refresh() {
     settings.setValue(kZoomKey, zoomSlider->value());
     const Language spoken = LanguageOf(language.toStdString());
     try {
-        DrawnBarcode drawn = DrawBarcode(service, wish, {.fonts = fonts});
+        DrawnBarcode drawn = DrawBarcode(service, fonts, wish, {});
         const bool isMade = drawn.outcome.IsMade();
         ShowMessage(FromUtf8(isMade ? JoinedWarnings(drawn.outcome, spoken)
                                     : WhyRefused(drawn.outcome, spoken)),
@@ -289,7 +287,12 @@ void BarcodePage::ShowBadge(const DrawnBarcode& drawn) {
 
 bool BarcodePage::Export(const QString& name) const {
     if (!view->Drawing()) return false;
-    const std::string content = FileContent(*view->Drawing(), name);
+    std::string content;
+    try {
+        content = FileContent(*view->Drawing(), name);
+    } catch (const DrawingFailure&) {
+        return false;
+    }
     QSaveFile file(name);
     return file.open(QIODevice::WriteOnly) &&
            file.write(content.data(), static_cast<qint64>(content.size())) ==

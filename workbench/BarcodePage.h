@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "render/Fonts.h"
 #include "requests/Service.h"
 #include "workbench/BarcodeView.h"
 #include "workbench/Language.h"
@@ -26,7 +27,7 @@ class BarcodePage final : public QWidget {
   public:
     /** Service and settings outlive it; the settings keep type and data. `fontFolder` is the
      *  folder of the barcode fonts, UTF-8. */
-    BarcodePage(Service& plugIn, QSettings& userSettings, std::string fontFolder,
+    BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
                 const QString& locale);
 
     /** Makes the barcode anew, since the preferences may be others. */
@@ -51,7 +52,7 @@ class BarcodePage final : public QWidget {
 
     Service& service;
     QSettings& settings;
-    std::string fonts;
+    Fonts fonts;
     QString language;
     std::vector<TypeDescription> types;
 

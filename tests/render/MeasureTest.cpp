@@ -13,7 +13,7 @@ namespace linewright {
 
 namespace {
 
-constexpr int kPixels = 4;
+constexpr int kPixels = 8;
 constexpr std::size_t kPostalSymbols = LINEWRIGHT_SYMBOLS;
 
 /** A bar in the picture; pixels from the upper left corner. Its ends may lie within pixels, which

@@ -20,18 +20,30 @@ Warning Sample(WarningReason reason) {
     return {reason, {"3", "7"}};
 }
 
-TEST(Words, AreOtherOnesInEachLanguage) {
-    for (int reason = 0; reason <= static_cast<int>(WarningReason::kNoSymbol); ++reason) {
+/** What is said has a sentence of its own in each language, for each number up to the last. */
+template <typename Make>
+void ExpectOtherOnes(int last, const Make& make) {
+    for (int number = 0; number <= last; ++number) {
         std::set<std::string> sentences;
         for (const Language language : kLanguages) {
-            const std::string sentence =
-                Sentence(Sample(static_cast<WarningReason>(reason)), language);
-            EXPECT_NE(sentence, "") << reason;
-            EXPECT_THAT(sentence, Not(HasSubstr("{"))) << reason;
+            const std::string sentence = Sentence(make(number), language);
+            EXPECT_NE(sentence, "") << number;
+            EXPECT_THAT(sentence, Not(HasSubstr("{"))) << number;
             sentences.insert(sentence);
         }
-        EXPECT_EQ(sentences.size(), std::size(kLanguages)) << reason;
+        EXPECT_EQ(sentences.size(), std::size(kLanguages)) << number;
     }
+}
+
+TEST(Words, AreOtherOnesInEachLanguage) {
+    ExpectOtherOnes(static_cast<int>(WarningReason::kNoSymbol),
+                    [](int number) { return Sample(static_cast<WarningReason>(number)); });
+    ExpectOtherOnes(static_cast<int>(DrawingProblem::Reason::kLibrary), [](int number) {
+        return DrawingFailure(static_cast<DrawingProblem::Reason>(number));
+    });
+    ExpectOtherOnes(static_cast<int>(DrawingWarning::Kind::kReductionLost), [](int number) {
+        return DrawingWarning{static_cast<DrawingWarning::Kind>(number), {}};
+    });
 }
 
 TEST(Words, HaveAllParametersInEachLanguage) {
