@@ -4,11 +4,11 @@
 
 #include <functional>
 
-#include "cli/BatchFile.h"
-#include "cli/Failure.h"
-#include "cli/OutputFile.h"
 #include "cli/Progress.h"
 #include "cli/ScannedBarcode.h"
+#include "merge/BatchFile.h"
+#include "merge/Failure.h"
+#include "merge/OutputFile.h"
 #include "text/FontText.h"
 
 namespace linewright {

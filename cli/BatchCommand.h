@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "cli/Batch.h"
 #include "cli/Console.h"
+#include "merge/Batch.h"
 
 namespace linewright {
 

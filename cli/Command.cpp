@@ -9,12 +9,12 @@
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
 #include "cli/DrawingAdvice.h"
-#include "cli/Failure.h"
 #include "cli/FontsCommand.h"
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
 #include "host/runtime/Paths.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -2,8 +2,8 @@
 
 #include <fmt/format.h>
 
-#include "cli/Failure.h"
 #include "cli/LineReader.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -5,7 +5,7 @@
 #include <charconv>
 #include <nlohmann/json.hpp>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -7,10 +7,10 @@
 #include <iterator>
 
 #include "CoreResTypes.h"
-#include "cli/Failure.h"
 #include "core/IORTALinewright.h"
 #include "host/runtime/HostText.h"
 #include "host/runtime/Menus.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 #include "text/Utf8.h"
 

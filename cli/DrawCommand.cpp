@@ -4,14 +4,14 @@
 
 #include <memory>
 
-#include "cli/BatchFile.h"
 #include "cli/DrawnFile.h"
-#include "cli/Failure.h"
-#include "cli/OutputFile.h"
 #include "cli/Progress.h"
 #include "cli/ScannedBarcode.h"
 #include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
+#include "merge/BatchFile.h"
+#include "merge/Failure.h"
+#include "merge/OutputFile.h"
 #include "text/Readable.h"
 
 namespace linewright {

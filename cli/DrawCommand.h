@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
-#include "cli/Batch.h"
 #include "cli/BatchCommand.h"
 #include "cli/Console.h"
 #include "cli/EncodeCommand.h"
+#include "merge/Batch.h"
 #include "requests/DrawingWish.h"
 
 namespace linewright {

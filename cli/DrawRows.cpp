@@ -2,14 +2,14 @@
 
 #include <set>
 
-#include "cli/BatchFile.h"
 #include "cli/DrawingAdvice.h"
 #include "cli/DrawnFile.h"
-#include "cli/Failure.h"
-#include "cli/OutputFile.h"
 #include "cli/Progress.h"
 #include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
+#include "merge/BatchFile.h"
+#include "merge/Failure.h"
+#include "merge/OutputFile.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -6,7 +6,7 @@
 #include <charconv>
 
 #include "cli/DrawingAdvice.h"
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "requests/PrintedText.h"
 #include "text/Readable.h"
 

@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/ReadAll.h"
+#include "merge/ReadAll.h"
 #include "text/FontText.h"
 #include "text/Hex.h"
 

@@ -5,11 +5,11 @@
 #include <filesystem>
 #include <system_error>
 
-#include "cli/BatchFile.h"
-#include "cli/Failure.h"
 #include "cli/UserFonts.h"
 #include "files/NewFile.h"
 #include "host/runtime/Paths.h"
+#include "merge/BatchFile.h"
+#include "merge/Failure.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {

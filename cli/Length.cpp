@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 #include "types/Dimensions.h"
 

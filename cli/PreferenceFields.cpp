@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -2,10 +2,10 @@
 
 #include <fmt/format.h>
 
-#include "cli/Failure.h"
 #include "cli/PreferenceFields.h"
 #include "host/runtime/Host.h"
 #include "host/runtime/HostText.h"
+#include "merge/Failure.h"
 #include "plugin/PreferencesFile.h"
 #include "text/Readable.h"
 #include "text/Utf8.h"

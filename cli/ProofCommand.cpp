@@ -7,14 +7,14 @@
 #include <filesystem>
 #include <string_view>
 
-#include "cli/BatchFile.h"
 #include "cli/DrawCommand.h"
 #include "cli/DrawingAdvice.h"
-#include "cli/Failure.h"
-#include "cli/OutputFile.h"
 #include "cli/Progress.h"
 #include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
+#include "merge/BatchFile.h"
+#include "merge/Failure.h"
+#include "merge/OutputFile.h"
 #include "render/Sheet.h"
 #include "requests/DrawnBarcode.h"
 #include "scanners/Verification.h"

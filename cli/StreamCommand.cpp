@@ -4,9 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/Failure.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
+#include "merge/Failure.h"
 #include "text/FontText.h"
 #include "text/Hex.h"
 

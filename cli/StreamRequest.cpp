@@ -6,7 +6,7 @@
 #include <array>
 #include <nlohmann/json.hpp>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "text/Hex.h"
 #include "text/Readable.h"
 

@@ -1,6 +1,6 @@
 #include "cli/DrawCommand.h"
-#include "cli/Failure.h"
 #include "cli/ScannedBarcode.h"
+#include "merge/Failure.h"
 
 // In place of what draws and reads, where there are no libraries for it.
 

@@ -1,10 +1,10 @@
-#include "cli/Csv.h"
+#include "merge/Csv.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 
 namespace linewright {
 

@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/DialogStep.h"
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "tests/cli/CommandRunner.h"
 
 namespace linewright {

@@ -3,7 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
 #include "tests/cli/CommandRunner.h"

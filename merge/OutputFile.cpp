@@ -1,9 +1,9 @@
-#include "cli/OutputFile.h"
+#include "merge/OutputFile.h"
 
 #include <fmt/format.h>
 
-#include "cli/Failure.h"
 #include "host/runtime/Paths.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -1,11 +1,11 @@
-#include "cli/Batch.h"
+#include "merge/Batch.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <charconv>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 #include "text/Readable.h"
 
 namespace linewright {

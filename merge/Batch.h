@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/Csv.h"
+#include "merge/Csv.h"
 #include "requests/BarcodeOutcome.h"
 
 namespace linewright {

@@ -1,4 +1,4 @@
-#include "cli/BatchFile.h"
+#include "merge/BatchFile.h"
 
 #include <fmt/format.h>
 
@@ -6,9 +6,9 @@
 #include <fstream>
 #include <system_error>
 
-#include "cli/Failure.h"
-#include "cli/ReadAll.h"
 #include "host/runtime/Paths.h"
+#include "merge/Failure.h"
+#include "merge/ReadAll.h"
 #include "text/Readable.h"
 
 namespace linewright {

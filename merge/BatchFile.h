@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "cli/Batch.h"
+#include "merge/Batch.h"
 
 namespace linewright {
 

@@ -1,4 +1,4 @@
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 
 namespace linewright {
 

@@ -1,11 +1,11 @@
-#include "cli/Csv.h"
+#include "merge/Csv.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
 
-#include "cli/Failure.h"
+#include "merge/Failure.h"
 
 namespace linewright {
 
