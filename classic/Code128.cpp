@@ -1,5 +1,6 @@
 #include "classic/Code128.h"
 
+#include "classic/FontLetters.h"
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/Status.h"
@@ -9,29 +10,12 @@ namespace linewright {
 namespace {
 
 constexpr int kInvalid = -1;
-constexpr char kStop = static_cast<char>(0x8A);
-
-/** The font's bytes for the two values whose own places other characters hold. */
-constexpr uint8 kSpaceByte = 192;
-constexpr uint8 kApostropheByte = 193;
-
-/** The check character. Each value from 0 to 102 has a byte; a remainder below 0, which a wrapped
- *  sum can leave, is written by the general rule. */
-constexpr uint8 CheckByte(int value) {
-    if (value == 0) return kSpaceByte;
-    if (value == 7) return kApostropheByte;
-    if (value == 64) return 194;
-    if (value >= 95 && value <= 101) return static_cast<uint8>(value + 100);
-    if (value == 102) return 134;
-    return static_cast<uint8>(value + 32);
-}
-
 /** The modulo-103 sum, kept in 16 bits: long data wraps it. */
 class CheckSum {
   public:
     explicit CheckSum(int startValue) : sum(static_cast<int16>(startValue)) {}
     void Add(int value) { sum = static_cast<int16>(sum + value * ++position); }
-    uint8 Byte() const { return CheckByte(sum % 103); }
+    uint8 Byte() const { return classic::CheckByte(sum % 103); }
 
   private:
     int16 sum;
@@ -55,18 +39,9 @@ bool TranslateCharacters(std::string_view data, CheckSum& sum, TextArea& out) {
         const int value = ValueOf(byte);
         if (value == kInvalid) return false;
         sum.Add(value);
-        const uint8 glyph = byte == ' ' ? kSpaceByte : byte == '\'' ? kApostropheByte : byte;
-        out.Append(static_cast<char>(glyph));
+        out.Append(static_cast<char>(classic::CharacterByte(byte)));
     }
     return true;
-}
-
-/** Set C's pairs as data. Their bytes differ from the check character's for 64, 98 and 99: the font
- *  has both forms. */
-constexpr uint8 PairByte(int pair) {
-    if (pair == 64) return 96;
-    if (pair >= 98) return static_cast<uint8>(pair + 32);
-    return CheckByte(pair);
 }
 
 bool TranslatePairs(std::string_view data, CheckSum& sum, TextArea& out) {
@@ -79,23 +54,23 @@ bool TranslatePairs(std::string_view data, CheckSum& sum, TextArea& out) {
         padded = false;
         const int pair = 10 * tens + nextDigit();
         sum.Add(pair);
-        out.Append(static_cast<char>(PairByte(pair)));
+        out.Append(static_cast<char>(classic::PairByte(pair)));
     }
     return true;
 }
 
 struct CodeSet {
     int startValue;
-    char startByte;
+    unsigned char startByte;
     std::string_view marker;
     bool (*translate)(std::string_view data, CheckSum& sum, TextArea& out);
 };
 
-constexpr CodeSet kSetA{103, static_cast<char>(0x87), "***Bad Code 128 A***",
+constexpr CodeSet kSetA{103, classic::kStartBytes[0], "***Bad Code 128 A***",
                         TranslateCharacters<ValueInSetA>};
-constexpr CodeSet kSetB{104, static_cast<char>(0x88), "***Bad Code 128 B***",
+constexpr CodeSet kSetB{104, classic::kStartBytes[1], "***Bad Code 128 B***",
                         TranslateCharacters<ValueInSetB>};
-constexpr CodeSet kSetC{105, static_cast<char>(0x89), "***Bad Code 128 C***", TranslatePairs};
+constexpr CodeSet kSetC{105, classic::kStartBytes[2], "***Bad Code 128 C***", TranslatePairs};
 
 bool AppendDataAndCheck(const CodeSet& set, std::string_view data, TextArea& out) {
     CheckSum sum(set.startValue);
@@ -106,10 +81,10 @@ bool AppendDataAndCheck(const CodeSet& set, std::string_view data, TextArea& out
 
 int16 Encode(const CodeSet& set, DataBlock data) {
     FixedText<1 + kMaxPStringLength + 2> symbol;
-    symbol.Append(set.startByte);
+    symbol.Append(static_cast<char>(set.startByte));
     if (data.length > kMaxPStringLength || !AppendDataAndCheck(set, data.View(), symbol))
         return FinishWith(data, set.marker, kBadData);
-    symbol.Append(kStop);
+    symbol.Append(static_cast<char>(classic::kStopByte));
     const auto blockSize = static_cast<uint32>(symbol.View().size() + 2);
     return ReplaceData(data, symbol.View(), blockSize) ? kEncoded : kInternalError;
 }

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <optional>
 
+#include "classic/FontLetters.h"
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/Status.h"
@@ -59,7 +60,7 @@ bool ExpandFullAscii(std::string_view data, TextArea& out) {
 }
 
 constexpr char FontCharacter(char character) {
-    return character == ' ' ? '!' : character;
+    return character == ' ' ? classic::kCode39Space : character;
 }
 
 /** Modulo 10 with the doubling anchored at the leftmost digit, unlike other such rules. */
@@ -113,7 +114,7 @@ int16 EncodeCode39Classic(DataBlock data, bool fullAscii, uint16 checkMode, bool
     FixedText<2 * kLongestFullAscii> expanded;
     const bool isExpanded = fullAscii && ExpandFullAscii(data.View(), expanded);
 
-    const char startStop = useAsterisk ? '*' : '#';
+    const char startStop = classic::kCode39StartStops[useAsterisk ? 0 : 1];
     FixedText<1 + kMaxPStringLength + 2> symbol;
     symbol.Append(startStop);
     const std::string_view marker =

@@ -1,5 +1,6 @@
 #include "classic/Interleaved2of5.h"
 
+#include "classic/FontLetters.h"
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/Status.h"
@@ -38,24 +39,23 @@ void AppendText(std::string_view data, bool checkDigit, TextArea& out) {
     out.Append(data);
 }
 
-/** A letter is a bar and a space: "A" both narrow, "B" wide space, "C" wide bar, "D" both wide. */
 void AppendPair(char barDigit, char spaceDigit, TextArea& out) {
     const std::string_view bars =
         kInterleaved2of5Patterns[static_cast<std::size_t>(barDigit - '0')];
     const std::string_view spaces =
         kInterleaved2of5Patterns[static_cast<std::size_t>(spaceDigit - '0')];
     for (std::size_t element = 0; element < kLettersPerPair; ++element)
-        out.Append(static_cast<char>('A' + 2 * (bars[element] == 'w') + (spaces[element] == 'w')));
+        out.Append(classic::kPairLetters[2u * (bars[element] == 'w') + (spaces[element] == 'w')]);
 }
 
 void AppendSymbol(std::string_view data, bool checkDigit, TextArea& out) {
     FixedText<kMostDigits> digits;
     AppendDigits(data, checkDigit, digits);
     const std::string_view pairs = digits.View();
-    out.Append('<');
+    out.Append(classic::kStart);
     for (std::size_t place = 0; place < pairs.size(); place += 2)
         AppendPair(pairs[place], pairs[place + 1], out);
-    out.Append('>');
+    out.Append(classic::kStop);
 }
 
 bool Translate(std::string_view data, bool checkDigit, bool textOnly, TextArea& out) {

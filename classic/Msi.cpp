@@ -1,5 +1,6 @@
 #include "classic/Msi.h"
 
+#include "classic/FontLetters.h"
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/Status.h"
@@ -60,9 +61,9 @@ int16 EncodeMsiClassic(DataBlock data, int16 firstCheck, int16 secondCheck) {
         if (status != kEncoded) return FinishWith(data, "***Bad MSI Plessey***", status);
     }
     FixedText<1 + kLongestData + 2 + 1> symbol;
-    symbol.Append('<');
+    symbol.Append(classic::kStart);
     symbol.Append(digits.View());
-    symbol.Append('>');
+    symbol.Append(classic::kStop);
     return FinishWith(data, symbol.View(), kEncoded);
 }
 

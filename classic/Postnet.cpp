@@ -1,5 +1,6 @@
 #include "classic/Postnet.h"
 
+#include "classic/FontLetters.h"
 #include "core/CharClasses.h"
 #include "core/FixedText.h"
 #include "core/PString.h"
@@ -11,7 +12,6 @@ namespace linewright {
 namespace {
 
 constexpr std::string_view kMarker = "***Bad Zip Code***";
-constexpr char kFrameBar = '/';
 
 /** ZIP, ZIP+4 and delivery point. */
 constexpr bool IsZipLength(std::size_t digitCount) {
@@ -28,10 +28,10 @@ int16 EncodePostnetClassic(DataBlock data) {
     if (!IsZipLength(digits.View().size())) return FinishWith(data, kMarker, kBadData);
 
     FixedText<1 + 11 + 2> symbol;
-    symbol.Append(kFrameBar);
+    symbol.Append(classic::kFrameBar);
     symbol.Append(digits.View());
     symbol.Append(PostnetCheckDigit(digits.View()));
-    symbol.Append(kFrameBar);
+    symbol.Append(classic::kFrameBar);
     return FinishWith(data, symbol.View(), kEncoded);
 }
 

@@ -1,6 +1,7 @@
 #include "current/Code128Auto.h"
 
 #include "current/Code128PreParse.h"
+#include "current/FontLetters.h"
 #include "current/Front.h"
 #include "standards/Code128Patterns.h"
 
@@ -22,20 +23,10 @@ constexpr std::size_t kFnc1 = 102;
 
 constexpr uint8 kDelete = 127;
 
-/** The font's letter for a bar and the space behind it, of one to four modules each. */
-constexpr char LetterOf(char barWidth, char spaceWidth) {
-    return static_cast<char>('A' + 4 * (barWidth - '1') + (spaceWidth - '1'));
-}
-
-/** The stop character, whose last bar has four modules of the quiet zone with it. */
-constexpr std::string_view kStopLetters = "GIAH";
-static_assert(kCode128StopWidths == "2331112" && LetterOf('2', '3') == 'G' &&
-              LetterOf('3', '1') == 'I' && LetterOf('1', '1') == 'A' && LetterOf('2', '4') == 'H');
-
 void AppendLetters(std::size_t value, TextArea& symbol) {
     const std::string_view widths = kCode128Widths[value];
     for (std::size_t bar = 0; bar < widths.size(); bar += 2)
-        symbol.Append(LetterOf(widths[bar], widths[bar + 1]));
+        symbol.Append(current::LetterOf(widths[bar], widths[bar + 1]));
 }
 
 constexpr bool IsSetBMarker(uint8 byte) {
@@ -58,7 +49,7 @@ class SymbolWriter {
         WriteStart();
         while (position < data.size()) WriteNext();
         AppendLetters(sum % kCode128Modulus, symbol);
-        symbol.Append(kStopLetters);
+        symbol.Append(current::kStopLetters);
         return isComplete ? kEncoded : kInternalError;
     }
 

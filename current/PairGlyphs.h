@@ -4,18 +4,19 @@
 #include <string_view>
 
 #include "core/FixedText.h"
+#include "current/FontLetters.h"
 
 namespace linewright {
 
 /** The bars font draws a bar and the space behind it with one letter, from a set of four for each
- *  wide-to-narrow ratio. The ratios 3.0 and 2.0 share the letter of two narrow elements. */
+ *  wide-to-narrow ratio. */
 class PairGlyphs {
   public:
     /** The letters for 3.0, 2.5 or 2.0; any other ratio counts as 2.0. */
     constexpr explicit PairGlyphs(double ratio)
-        : letters(ratio == 3.0   ? "ACIK"
-                  : ratio == 2.5 ? "WXYZ"
-                                 : "ABEF") {}
+        : letters(ratio == 3.0   ? current::kPairLetters30
+                  : ratio == 2.5 ? current::kPairLetters25
+                                 : current::kPairLetters20) {}
 
     /** The letter of a bar and a space, each "n" (narrow) or "w" (wide). */
     constexpr char Of(char bar, char space) const {

@@ -1,7 +1,6 @@
 #include "current/Postnet.h"
 
-#include <array>
-
+#include "current/FontLetters.h"
 #include "current/Front.h"
 #include "standards/CheckDigits.h"
 
@@ -11,27 +10,11 @@ namespace {
 
 constexpr std::string_view kBadZipCode = "***Bad Zip Code***";
 
-constexpr char kTallBar = 'n';
-constexpr char kShortBar = 'o';
-/** Short-short, short-tall, tall-short, tall-tall. */
-constexpr std::string_view kBarPairs = "jklm";
-
-/** The bars of a digit as bits, the first one highest. Two are tall: those whose weights 7, 4, 2, 1
- *  and 0 add up to the digit, and 7 and 4 for 0. */
-constexpr unsigned BarsOf(int digit) {
-    constexpr std::array<int, 5> kWeights{0, 1, 2, 4, 7};
-    for (std::size_t low = 0; low < kWeights.size(); ++low)
-        for (std::size_t high = low + 1; high < kWeights.size(); ++high)
-            if ((kWeights[low] + kWeights[high]) % 11 == digit) return 1u << low | 1u << high;
-    return 0;
-}
-static_assert(BarsOf(0) == 0b11000 && BarsOf(1) == 0b00011 && BarsOf(9) == 0b10100);
-
 void AppendDigit(char digit, TextArea& symbol) {
-    const unsigned bars = BarsOf(digit - '0');
-    symbol.Append(kBarPairs[bars >> 3]);
-    symbol.Append(kBarPairs[bars >> 1 & 3]);
-    symbol.Append(bars & 1 ? kTallBar : kShortBar);
+    const unsigned bars = current::PostnetBarsOf(digit - '0');
+    symbol.Append(current::kBarPairs[bars >> 3]);
+    symbol.Append(current::kBarPairs[bars >> 1 & 3]);
+    symbol.Append(bars & 1 ? current::kTallBar : current::kShortBar);
 }
 
 }  // namespace
@@ -42,9 +25,9 @@ int16 BuildPostnetCurrent(const char* data, bool addCheckDigit, TextArea& symbol
     AppendDigits(FirstCharacters(data), digits);
     if (addCheckDigit) digits.Append(PostnetCheckDigit(digits.View()));
 
-    symbol.Append(kTallBar);
+    symbol.Append(current::kTallBar);
     for (const char digit : digits.View()) AppendDigit(digit, symbol);
-    symbol.Append(kTallBar);
+    symbol.Append(current::kTallBar);
     return kEncoded;
 }
 
