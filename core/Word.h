@@ -1,0 +1,68 @@
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace linewright {
+
+/** Eight bytes of text as one number, the first byte lowest: what is asked of each byte is then
+ *  answered for eight at a time. */
+using Word = std::uint64_t;
+static_assert(std::endian::native == std::endian::little);
+
+inline constexpr std::size_t kWordSize = sizeof(Word);
+
+/** The same byte eight times. */
+constexpr Word EightTimes(unsigned char byte) {
+    return 0x0101010101010101 * Word{byte};
+}
+
+/** A text of up to eight bytes, zeros behind them; for tables. */
+constexpr Word MakeWord(std::string_view text) {
+    Word word = 0;
+    for (std::size_t place = text.size(); place-- > 0;)
+        word = word << 8 | static_cast<unsigned char>(text[place]);
+    return word;
+}
+
+/** The first `Count` bytes, zeros behind them. */
+template <std::size_t Count = kWordSize>
+Word LoadWord(const char* bytes) {
+    Word word = 0;
+    std::memcpy(&word, bytes, Count);
+    return word;
+}
+
+/** The first eight bytes of a text, zeros behind a shorter one. */
+inline Word LoadWord(std::string_view text) {
+    if (text.size() >= kWordSize) return LoadWord(text.data());
+    if (text.size() < 4) return MakeWord(text);
+    // Two halves that overlap in a text of less than eight.
+    return LoadWord<4>(text.data()) | LoadWord<4>(text.data() + text.size() - 4)
+                                          << 8 * (text.size() - 4);
+}
+
+/** Whether each byte is a decimal digit: its upper half is 3, and stays so with 6 added. */
+constexpr bool AreDigits(Word word) {
+    constexpr Word kUpperHalves = EightTimes(0xF0);
+    return (word & kUpperHalves) == EightTimes('0') &&
+           ((word + EightTimes(6)) & kUpperHalves) == EightTimes('0');
+}
+
+/** The values of eight digits, a byte each. */
+constexpr Word DigitValues(Word digits) {
+    return digits & EightTimes(0x0F);
+}
+
+/** The sum of eight small values, of which every other one from the first on weighs `first`, and
+ *  those between weigh `second`. It is below 2^16, and so is each product of a value. */
+constexpr std::size_t WeightedSum(Word values, std::size_t first, std::size_t second) {
+    constexpr Word kEveryOther = 0x00FF00FF00FF00FF;
+    const Word pairs = (values & kEveryOther) * first + (values >> 8 & kEveryOther) * second;
+    return pairs * 0x0001000100010001 >> 48;
+}
+
+}  // namespace linewright
