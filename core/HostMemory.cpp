@@ -2,42 +2,54 @@
 
 #include "IMemoryService.h"
 #include "ISession.h"
-#include "InterfacePtr.h"
 
 namespace linewright {
 
 namespace {
 
-class Memory : public InterfacePtr<IMemoryService> {
-  public:
-    Memory() : InterfacePtr(GetExecutionContextSession(), UseDefaultIID()) {}
-};
+constinit const MemoryScope* innermost = nullptr;
+
+IMemoryService* QueryService() {
+    const ISession* const session = GetExecutionContextSession();
+    return session ? static_cast<IMemoryService*>(session->QueryInterface(IID_IMEMORYSERVICE))
+                   : nullptr;
+}
 
 }  // namespace
 
+MemoryScope::MemoryScope() : outer(innermost), service(outer ? outer->service : QueryService()) {
+    innermost = this;
+}
+
+MemoryScope::~MemoryScope() {
+    innermost = outer;
+    if (!outer && service) service->Release();
+}
+
 uint8* AllocBlock(uint32 size) {
-    const Memory memory;
-    return memory ? static_cast<uint8*>(memory->Allocate(size)) : nullptr;
+    const MemoryScope memory;
+    return memory.Service() ? static_cast<uint8*>(memory.Service()->Allocate(size)) : nullptr;
 }
 
 uint8* AllocConversionBlock(uint32 size) {
-    const Memory memory;
-    return memory ? static_cast<uint8*>(memory->AllocateForConversion(size)) : nullptr;
+    const MemoryScope memory;
+    return memory.Service() ? static_cast<uint8*>(memory.Service()->AllocateForConversion(size))
+                            : nullptr;
 }
 
 void FreeBlock(void* block) {
-    const Memory memory;
-    if (memory && block) memory->Deallocate(block);
+    const MemoryScope memory;
+    if (memory.Service() && block) memory.Service()->Deallocate(block);
 }
 
 bool ResizeBlock(void* block, uint32 size) {
-    const Memory memory;
-    return memory && block && memory->Resize(block, size);
+    const MemoryScope memory;
+    return memory.Service() && block && memory.Service()->Resize(block, size);
 }
 
 uint32 BlockSize(const void* block) {
-    const Memory memory;
-    return memory && block ? memory->GetSize(block) : 0;
+    const MemoryScope memory;
+    return memory.Service() && block ? memory.Service()->GetSize(block) : 0;
 }
 
 }  // namespace linewright
