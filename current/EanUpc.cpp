@@ -1,7 +1,5 @@
 #include "current/EanUpc.h"
 
-#include "core/CharClasses.h"
-
 namespace linewright {
 
 namespace {
@@ -17,11 +15,6 @@ constexpr std::size_t AddOnLength(std::size_t digitsBehindMain) {
 }
 
 }  // namespace
-
-void CollectDigits(std::string_view text, EanUpcDigits& digits) {
-    for (const char character : text)
-        if (IsDigit(character) && digits.View().size() < kMaxEanUpcDigits) digits.Append(character);
-}
 
 EanUpcNumber SplitNumber(std::string_view digits, std::size_t mainLength) {
     const std::size_t behind = digits.size() - mainLength;

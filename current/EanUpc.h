@@ -6,6 +6,7 @@
 #include "BaseType.h"
 #include "core/FixedText.h"
 #include "core/Status.h"
+#include "current/BuilderText.h"
 #include "retail/RetailSymbol.h"
 
 namespace linewright {
@@ -26,9 +27,6 @@ struct EanUpcNumber {
 /** One digit more than the longest number with check digit and add-on. */
 constexpr std::size_t kMaxEanUpcDigits = 12 + 1 + 5 + 1;
 using EanUpcDigits = FixedText<kMaxEanUpcDigits>;
-
-/** The decimal digits of a text, as many as there is room for. */
-void CollectDigits(std::string_view text, EanUpcDigits& digits);
 
 /** Divides digits, of which there are at least `mainLength`. */
 EanUpcNumber SplitNumber(std::string_view digits, std::size_t mainLength);

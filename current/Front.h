@@ -69,15 +69,24 @@ constexpr LengthRule OneOf(Numbers lengths, Numbers withCheckDigit) {
             .checkDigitAt = withCheckDigit};
 }
 
-/** Which characters are allowed, as for CheckCharClasses, and the key of the hint for others. */
+/** Which characters are allowed, and the key of the hint for others. */
 struct CharacterRule {
-    int32 classes;
-    const char* extra;
-    const char* hintKey;  // nullptr: every byte is allowed
+    /** Those of some classes and of `extra`, as for CheckCharClasses. */
+    constexpr CharacterRule(int32 classes, const char* extra, const char* key) : hintKey(key) {
+        for (std::size_t byte = 0; byte < allowed.size(); ++byte)
+            allowed[byte] = IsOfClass(static_cast<uint8>(byte), classes, extra);
+    }
+    /** All of them. */
+    constexpr CharacterRule() { allowed.fill(true); }
+
+    bool Allows(std::string_view text) const;
+
+    std::array<bool, 256> allowed{};
+    const char* hintKey = nullptr;
 };
 
 constexpr CharacterRule kDigitsOnly{kDigits, nullptr, hints::kDigitsOnly};
-constexpr CharacterRule kEveryByte{0, nullptr, nullptr};
+constexpr CharacterRule kEveryByte{};
 
 /** How a symbology's data is examined and normalised, and what makes the symbol of it. */
 struct FrontRule {

@@ -34,20 +34,39 @@ constexpr FrontRule kTextFront{.length = kBarsFront.length,
                                .padToPairs = kBarsFront.padToPairs,
                                .build = AppendText};
 
-std::string_view PatternOf(char digit) {
-    return kInterleaved2of5Patterns[static_cast<std::size_t>(digit - '0')];
-}
+constexpr std::size_t kLettersPerPair = 5;
 
-/** The first digit's elements are the bars, the second one's the spaces. */
-void AppendPair(char first, char second, const PairGlyphs& glyphs, TextArea& symbol) {
-    for (std::size_t element = 0; element < PatternOf(first).size(); ++element)
-        symbol.Append(glyphs.Of(PatternOf(first)[element], PatternOf(second)[element]));
+struct Letters {
+    Word start;
+    /** By the value of a pair of digits. */
+    std::array<Word, 100> pairs;
+    Word stop;
+};
+
+constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
+    Letters letters{glyphs.Of(kStart), {}, glyphs.Of(kStop)};
+    for (std::size_t pair = 0; pair < letters.pairs.size(); ++pair) {
+        // The first digit's elements are the bars, the second one's the spaces.
+        const std::string_view bars = kInterleaved2of5Patterns[pair / 10];
+        const std::string_view spaces = kInterleaved2of5Patterns[pair % 10];
+        std::array<char, 2 * kLettersPerPair> pattern{};
+        for (std::size_t element = 0; element < kLettersPerPair; ++element) {
+            pattern[2 * element] = bars[element];
+            pattern[2 * element + 1] = spaces[element];
+        }
+        letters.pairs[pair] = glyphs.Of({pattern.data(), pattern.size()});
+    }
+    return letters;
+});
+
+constexpr std::size_t PairValue(char first, char second) {
+    return static_cast<std::size_t>(10 * (first - '0') + (second - '0'));
 }
 
 }  // namespace
 
 int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckDigit,
-                                  TextArea& symbol) {
+                                  TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
     FixedText<kMaxBuilderText + 2> padded;
     padded.Append('0');
@@ -55,11 +74,12 @@ int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckD
     if (addCheckDigit) padded.Append(Modulo10CheckDigit(padded.View()));
     const std::string_view digits = padded.View().substr(padded.View().size() % 2);
 
-    const PairGlyphs glyphs(ratio);
-    glyphs.Append(kStart, symbol);
+    const Letters& letters = kLetters.For(ratio);
+    LetterWriter symbol(symbolText);
+    symbol.Append(letters.start, kStart.size() / 2);
     for (std::size_t place = 0; place < digits.size(); place += 2)
-        AppendPair(digits[place], digits[place + 1], glyphs, symbol);
-    glyphs.Append(kStop, symbol);
+        symbol.Append(letters.pairs[PairValue(digits[place], digits[place + 1])], kLettersPerPair);
+    symbol.Append(letters.stop, (kStop.size() + 1) / 2);
     return kEncoded;
 }
 

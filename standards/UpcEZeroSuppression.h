@@ -32,19 +32,43 @@ constexpr bool UpcEExpandsTo(std::string_view digits, std::string_view expected)
     return std::string_view(expanded.data(), expanded.size()) == expected;
 }
 
-/** The six digits, by the last of them, that stand for these ten manufacturer and product digits;
- *  none when zeros cannot be suppressed. */
-constexpr std::optional<std::array<char, 6>> SuppressUpcE(std::string_view expanded) {
-    for (char last = '0'; last <= '9'; ++last) {
-        std::array<char, 6> six{};
-        const std::string_view places = kUpcEExpansion[static_cast<std::size_t>(last - '0')];
-        for (std::size_t index = 0; index < places.size(); ++index)
-            if (places[index] != '0')
-                six[static_cast<std::size_t>(places[index] - '1')] = expanded[index];
-        six[5] = last;
-        if (UpcEExpandsTo({six.data(), six.size()}, expanded)) return six;
-    }
+/** The last of the six digits that stand for these ten, by the zeros among the ten; none when zeros
+ *  cannot be suppressed. Where several would do, the standard has the lowest. */
+constexpr std::optional<char> UpcELastDigit(std::string_view ten) {
+    const auto hasZeros = [&](std::size_t from, std::size_t to) {
+        return ten.substr(from, to - from) == std::string_view("00000").substr(0, to - from);
+    };
+    if (ten[2] <= '2' && hasZeros(3, 7)) return ten[2];
+    if (hasZeros(3, 8)) return '3';
+    if (hasZeros(4, 9)) return '4';
+    if (ten[9] >= '5' && hasZeros(5, 9)) return ten[9];
     return std::nullopt;
+}
+
+/** The six digits that stand for these ten manufacturer and product digits; none when zeros cannot
+ *  be suppressed. */
+constexpr std::optional<std::array<char, 6>> SuppressUpcE(std::string_view ten) {
+    const std::optional<char> last = UpcELastDigit(ten);
+    if (!last) return std::nullopt;
+    std::array<char, 6> six{};
+    const std::string_view places = kUpcEExpansion[static_cast<std::size_t>(*last - '0')];
+    for (std::size_t index = 0; index < places.size(); ++index)
+        if (places[index] != '0') six[static_cast<std::size_t>(places[index] - '1')] = ten[index];
+    six[5] = *last;
+    return six;
+}
+
+/** Whether six digits are those that stand for their own ten, so that to expand and to suppress
+ * them changes nothing. */
+constexpr bool IsSuppressedUpcE(std::string_view six) {
+    switch (six[5]) {
+        case '0':
+        case '1':
+        case '2': return true;
+        case '3': return six[2] > '2';
+        case '4': return six[3] != '0';
+        default: return six[4] != '0';
+    }
 }
 
 // Worked out by hand from the rule of zero suppression, one for each case.
@@ -57,5 +81,7 @@ static_assert(UpcEExpandsTo("123456", "1234500006"));
 static_assert(UpcEExpandsTo("987659", "9876500009"));
 static_assert(SuppressUpcE("4210000526") == std::array{'4', '2', '5', '2', '6', '1'});
 static_assert(!SuppressUpcE("1234567890"));
+// 4200000526 is 425260, not 420263 nor 420064.
+static_assert(IsSuppressedUpcE("425260") && !IsSuppressedUpcE("420263"));
 
 }  // namespace linewright
