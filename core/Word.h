@@ -57,6 +57,15 @@ constexpr Word DigitValues(Word digits) {
     return digits & EightTimes(0x0F);
 }
 
+/** The number that eight digits are in the decimal system, the first byte the highest: neighbours
+ *  are joined to two digits, then to four, then to eight. */
+constexpr std::uint64_t DecimalNumber(Word digits) {
+    Word number = DigitValues(digits);
+    number = (number * 10 + (number >> 8)) & 0x00FF00FF00FF00FF;
+    number = (number * 100 + (number >> 16)) & 0x0000FFFF0000FFFF;
+    return (number * 10'000 + (number >> 32)) & 0xFFFFFFFF;
+}
+
 /** The sum of eight small values, of which every other one from the first on weighs `first`, and
  *  those between weigh `second`. It is below 2^16, and so is each product of a value. */
 constexpr std::size_t WeightedSum(Word values, std::size_t first, std::size_t second) {

@@ -1,0 +1,71 @@
+#include "bench/PlugIn.h"
+
+#include <filesystem>
+#include <random>
+#include <stdexcept>
+
+#include "CreateObject.h"
+#include "ISession.h"
+#include "core/BarcodeTypeRegistry.h"
+#include "core/EncodeBarcodeData.h"
+#include "core/PluginID.h"
+
+namespace fs = std::filesystem;
+
+namespace linewright::bench {
+
+namespace {
+
+std::string MakeFolder() {
+    const fs::path folder =
+        fs::temp_directory_path() / ("linewright-bench-" + std::to_string(std::random_device()()));
+    fs::create_directories(folder);
+    return folder.string();
+}
+
+PString NameOf(const Case& benchCase) {
+    PString name;
+    SetPString(name, benchCase.type);
+    return name;
+}
+
+}  // namespace
+
+PlugIn::PlugIn() : folder(MakeFolder()) {
+    if (!host.Start({.plugin = LINEWRIGHT_PLUGIN,
+                     .roamingFolder = folder.c_str(),
+                     .appFolder = folder.c_str()}))
+        throw std::runtime_error(host.Error());
+    BuildTypeRegistry();
+    service =
+        static_cast<IORTALinewright*>(CreateObject(kLinewrightServiceBoss, IID_IORTALINEWRIGHT));
+    memory = static_cast<IMemoryService*>(
+        GetExecutionContextSession()->QueryInterface(IID_IMEMORYSERVICE));
+    if (!service || !memory) throw std::runtime_error("the plug-in has no service");
+}
+
+PlugIn::~PlugIn() {
+    memory->Release();
+    service->Release();
+    host.Stop();
+    fs::remove_all(folder);
+}
+
+void PlugIn::Send(const Case& benchCase) {
+    params.typeName = NameOf(benchCase);
+    params.convertFromUtf8 = 1;
+    params.checkCharacter = benchCase.addCheck;
+    params.ratio = kRatio;
+    params.slot2 = &recognised;
+    LinewrightRequest request{.result = 0, .code = kEncodeRequest, .params = &params};
+    service->ProcessRequest(&request);
+    if (request.result != 0 || !recognised) throw std::runtime_error("a row was refused");
+}
+
+void PlugIn::EncodeLinkedIn(const Case& benchCase, uint8*& block, uint32& length) {
+    const int16 status = EncodeBarcodeData(&block, NameOf(benchCase), &length, 1, &recognised,
+                                           benchCase.addCheck, kRatio, 0, nullptr, nullptr);
+    if (status != 0 || !recognised) throw std::runtime_error("a row was refused");
+}
+
+}  // namespace linewright::bench
