@@ -75,11 +75,12 @@ void ByZint(benchmark::State& state, const Case& benchCase) {
 /** The rows of a case in which the two print something else. */
 int CountDifferences(PlugIn& plugIn, const Case& benchCase) {
     const ZintSymbol symbol = MakeZintSymbol();
+    plugIn.Choose(benchCase);
     int differences = 0;
     for (const std::string& row : benchCase.rows) {
         EncodeByZint(benchCase, benchCase.zintRow(row), *symbol);
         const std::string theirs = benchCase.bars.ofZint(*symbol);
-        plugIn.Request(benchCase, row, [&](std::string_view result) {
+        plugIn.Request(row, [&](std::string_view result) {
             const std::string ours = benchCase.bars.ofFontString(result);
             if (ours == theirs && !ours.empty()) return;
             if (++differences > 1) return;
@@ -99,12 +100,12 @@ void Register(PlugIn& plugIn, const Case& benchCase) {
     if (benchCase.build)
         add("builder", [&](benchmark::State& state) { ByBuilder(state, benchCase); });
     add("encode", [&](benchmark::State& state) {
-        ForRows(state, benchCase.rows,
-                [&](const std::string& row) { plugIn.Encode(benchCase, row, kUse); });
+        plugIn.Choose(benchCase);
+        ForRows(state, benchCase.rows, [&](const std::string& row) { plugIn.Encode(row, kUse); });
     });
     add("request", [&](benchmark::State& state) {
-        ForRows(state, benchCase.rows,
-                [&](const std::string& row) { plugIn.Request(benchCase, row, kUse); });
+        plugIn.Choose(benchCase);
+        ForRows(state, benchCase.rows, [&](const std::string& row) { plugIn.Request(row, kUse); });
     });
 }
 

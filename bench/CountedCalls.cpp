@@ -27,14 +27,13 @@ void MakeCalls(const Case& benchCase, long count, Encode encode) {
 
 int Run(const Case& benchCase, std::string_view level, long count) {
     PlugIn plugIn;
+    plugIn.Choose(benchCase);
     std::size_t written = 0;
     const auto use = [&](std::string_view result) { written += result.size(); };
     if (level == "request") {
-        MakeCalls(benchCase, count,
-                  [&](const std::string& row) { plugIn.Request(benchCase, row, use); });
+        MakeCalls(benchCase, count, [&](const std::string& row) { plugIn.Request(row, use); });
     } else if (level == "encode") {
-        MakeCalls(benchCase, count,
-                  [&](const std::string& row) { plugIn.Encode(benchCase, row, use); });
+        MakeCalls(benchCase, count, [&](const std::string& row) { plugIn.Encode(row, use); });
     } else if (level == "builder" && benchCase.build) {
         Symbol symbol;
         MakeCalls(benchCase, count, [&](const std::string& row) {

@@ -23,12 +23,6 @@ std::string MakeFolder() {
     return folder.string();
 }
 
-PString NameOf(const Case& benchCase) {
-    PString name;
-    SetPString(name, benchCase.type);
-    return name;
-}
-
 }  // namespace
 
 PlugIn::PlugIn() : folder(MakeFolder()) {
@@ -51,20 +45,24 @@ PlugIn::~PlugIn() {
     fs::remove_all(folder);
 }
 
-void PlugIn::Send(const Case& benchCase) {
-    params.typeName = NameOf(benchCase);
+void PlugIn::Choose(const Case& benchCase) {
+    SetPString(params.typeName, benchCase.type);
     params.convertFromUtf8 = 1;
     params.checkCharacter = benchCase.addCheck;
     params.ratio = kRatio;
     params.slot2 = &recognised;
+}
+
+void PlugIn::Send() {
     LinewrightRequest request{.result = 0, .code = kEncodeRequest, .params = &params};
     service->ProcessRequest(&request);
     if (request.result != 0 || !recognised) throw std::runtime_error("a row was refused");
 }
 
-void PlugIn::EncodeLinkedIn(const Case& benchCase, uint8*& block, uint32& length) {
-    const int16 status = EncodeBarcodeData(&block, NameOf(benchCase), &length, 1, &recognised,
-                                           benchCase.addCheck, kRatio, 0, nullptr, nullptr);
+void PlugIn::EncodeLinkedIn(uint8*& block, uint32& length) {
+    const int16 status =
+        EncodeBarcodeData(&block, params.typeName, &length, params.convertFromUtf8, &recognised,
+                          params.checkCharacter, params.ratio, 0, nullptr, nullptr);
     if (status != 0 || !recognised) throw std::runtime_error("a row was refused");
 }
 

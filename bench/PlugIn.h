@@ -20,33 +20,36 @@ class PlugIn {
     PlugIn& operator=(const PlugIn&) = delete;
     ~PlugIn();
 
+    /** What the following rows are of. */
+    void Choose(const Case& benchCase);
+
     /** Request 1100 as a caller makes it: a block for the row's data, the request, what comes back,
      *  and the block given back. `use` is called with the result. */
     template <class Use>
-    void Request(const Case& benchCase, const std::string& row, Use use) {
+    void Request(const std::string& row, Use use) {
         auto* block = static_cast<uint8*>(memory->Allocate(static_cast<uint32>(row.size())));
         row.copy(reinterpret_cast<char*>(block), row.size());
         params.dataLength = static_cast<uint32>(row.size());
         params.slot1 = &block;
-        Send(benchCase);
+        Send();
         use(std::string_view(reinterpret_cast<const char*>(block), params.dataLength));
         memory->Deallocate(block);
     }
 
     /** The same by the encoders that are linked in, without the plug-in's border. */
     template <class Use>
-    void Encode(const Case& benchCase, const std::string& row, Use use) {
+    void Encode(const std::string& row, Use use) {
         auto* block = static_cast<uint8*>(memory->Allocate(static_cast<uint32>(row.size())));
         row.copy(reinterpret_cast<char*>(block), row.size());
         auto length = static_cast<uint32>(row.size());
-        EncodeLinkedIn(benchCase, block, length);
+        EncodeLinkedIn(block, length);
         use(std::string_view(reinterpret_cast<const char*>(block), length));
         memory->Deallocate(block);
     }
 
   private:
-    void Send(const Case& benchCase);
-    void EncodeLinkedIn(const Case& benchCase, uint8*& block, uint32& length);
+    void Send();
+    void EncodeLinkedIn(uint8*& block, uint32& length);
 
     std::string folder;
     host::Host host;

@@ -52,6 +52,16 @@ constexpr bool AreDigits(Word word) {
            ((word + EightTimes(6)) & kUpperHalves) == EightTimes('0');
 }
 
+/** A bit for each byte, the first one's lowest: whether it is a decimal digit. */
+constexpr std::uint64_t DigitMask(Word word) {
+    const Word low = word & EightTimes(0x7F);
+    const Word isZeroOrMore = low + EightTimes(0x80 - '0');
+    const Word isMoreThanNine = low + EightTimes(0x7F - '9');
+    const Word isDigit = isZeroOrMore & ~isMoreThanNine & ~word & EightTimes(0x80);
+    // Brings the upper bits of all bytes together in the highest one.
+    return (isDigit >> 7) * 0x0102040810204080 >> 56;
+}
+
 /** The values of eight digits, a byte each. */
 constexpr Word DigitValues(Word digits) {
     return digits & EightTimes(0x0F);

@@ -4,7 +4,6 @@
 
 #include "current/BuilderText.h"
 #include "current/Front.h"
-#include "standards/CheckDigits.h"
 #include "standards/UpcEZeroSuppression.h"
 
 namespace linewright {
@@ -31,13 +30,12 @@ std::string_view ExpandNumber(std::string_view digits, EanUpcDigits& expanded) {
 }
 
 /** Any number system but 0 is printed as 1; the number sets of 1 are only those of 1 itself. */
-void AppendSuppressed(const EanUpcNumber& number, std::string_view six, TextArea& symbol) {
-    const char numberSystem = number.main[0];
+void AppendSix(char numberSystem, std::string_view six, std::string_view addOn, TextArea& symbol) {
     AppendUpcE<kAlphabet>({.numberSystem = numberSystem == '0' ? '0' : '1',
                            .six = six,
                            .parityOf = numberSystem,
-                           .checkDigit = Modulo10CheckDigit(number.main)},
-                          number.addOn, symbol);
+                           .checkDigit = UpcECheckDigit(numberSystem, six)},
+                          addOn, symbol);
 }
 
 }  // namespace
@@ -46,6 +44,11 @@ int16 BuildUpcE(const char* data, TextArea& symbol) {
     if (!data || !*data) return kNoDigits;
     EanUpcDigits spare;
     std::string_view digits = OnlyDigits(FirstCharacters(data, kMaxText), kMaxEanUpcDigits, spare);
+    const bool hasNumberSystem = digits.size() == 7 || digits.size() == 8;
+    if (hasNumberSystem && IsSuppressedUpcE(digits.substr(1, 6))) {
+        AppendSix(digits[0], digits.substr(1, 6), {}, symbol);
+        return kEncoded;
+    }
     EanUpcDigits expanded;
     if (digits.size() >= 6 && digits.size() <= 8) digits = ExpandNumber(digits, expanded);
     if (digits.size() < kUpcALength) return kEncoded;
@@ -53,7 +56,7 @@ int16 BuildUpcE(const char* data, TextArea& symbol) {
     const EanUpcNumber number = SplitNumber(digits, kUpcALength);
     if (!number.isKnownLength && digits.size() != 18) return kEncoded;
     if (const auto six = SuppressUpcE(number.main.substr(1))) {
-        AppendSuppressed(number, {six->data(), six->size()}, symbol);
+        AppendSix(number.main[0], {six->data(), six->size()}, number.addOn, symbol);
     } else {
         AppendUpcA<kAlphabet>(number.main, number.addOn, kAlphabet.upcERightGuard, symbol);
     }

@@ -5,6 +5,9 @@
 #include <optional>
 #include <string_view>
 
+#include "core/Word.h"
+#include "standards/CheckDigits.h"
+
 namespace linewright {
 
 /** ISO/IEC 15420:2009, UPC-E: the ten digits (manufacturer and product) behind the number system
@@ -69,6 +72,35 @@ constexpr bool IsSuppressedUpcE(std::string_view six) {
         case '4': return six[3] != '0';
         default: return six[4] != '0';
     }
+}
+
+/** The places of the six digits, by the last of them, that weigh 3 in the check digit of the number
+ *  they stand for, and those that weigh anything: a byte of ones each. */
+struct UpcEWeights {
+    Word three = 0;
+    Word any = 0;
+};
+inline constexpr auto kUpcEWeights = [] {
+    std::array<UpcEWeights, kUpcEExpansion.size()> weights{};
+    for (std::size_t last = 0; last < weights.size(); ++last) {
+        for (std::size_t index = 0; index < kUpcEExpansion[last].size(); ++index) {
+            const char place = kUpcEExpansion[last][index];
+            if (place == '0') continue;
+            const Word byte = Word{0xFF} << 8 * (place - '1');
+            weights[last].any |= byte;
+            if (index % 2 == 1) weights[last].three |= byte;
+        }
+    }
+    return weights;
+}();
+
+/** The check digit of the number that six digits stand for, without expanding them. */
+inline char UpcECheckDigit(char numberSystem, std::string_view six) {
+    const Word values = DigitValues(LoadWord<6>(six.data()));
+    const UpcEWeights& weights = kUpcEWeights[static_cast<std::size_t>(six[5] - '0')];
+    return Modulo10Complement(static_cast<std::size_t>(numberSystem - '0') * 3 +
+                              WeightedSum(values & weights.any, 1, 1) +
+                              WeightedSum(values & weights.three, 2, 2));
 }
 
 // Worked out by hand from the rule of zero suppression, one for each case.
