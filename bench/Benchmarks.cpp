@@ -103,10 +103,13 @@ void Register(PlugIn& plugIn, const Case& benchCase) {
         plugIn.Choose(benchCase);
         ForRows(state, benchCase.rows, [&](const std::string& row) { plugIn.Encode(row, kUse); });
     });
-    add("request", [&](benchmark::State& state) {
-        plugIn.Choose(benchCase);
-        ForRows(state, benchCase.rows, [&](const std::string& row) { plugIn.Request(row, kUse); });
-    });
+    for (const bool isUtf8 : {false, true}) {
+        add(isUtf8 ? "request UTF-8" : "request", [&plugIn, &benchCase, isUtf8](auto& state) {
+            plugIn.Choose(benchCase, isUtf8);
+            ForRows(state, benchCase.rows,
+                    [&](const std::string& row) { plugIn.Request(row, kUse); });
+        });
+    }
 }
 
 int Run(int argumentCount, char** arguments) {

@@ -27,10 +27,10 @@ void MakeCalls(const Case& benchCase, long count, Encode encode) {
 
 int Run(const Case& benchCase, std::string_view level, long count) {
     PlugIn plugIn;
-    plugIn.Choose(benchCase);
+    plugIn.Choose(benchCase, level == "request UTF-8");
     std::size_t written = 0;
     const auto use = [&](std::string_view result) { written += result.size(); };
-    if (level == "request") {
+    if (level.starts_with("request")) {
         MakeCalls(benchCase, count, [&](const std::string& row) { plugIn.Request(row, use); });
     } else if (level == "encode") {
         MakeCalls(benchCase, count, [&](const std::string& row) { plugIn.Encode(row, use); });
@@ -57,7 +57,7 @@ int main(int argumentCount, char** arguments) try {
     using namespace linewright::bench;
     const Case* const benchCase = argumentCount == 4 ? FindCase(arguments[1]) : nullptr;
     if (!benchCase) {
-        std::fprintf(stderr, "usage: %s CASE builder|encode|request CALLS\n", arguments[0]);
+        std::fprintf(stderr, "usage: %s CASE LEVEL CALLS\n", arguments[0]);
         return EXIT_FAILURE;
     }
     return Run(*benchCase, arguments[2], std::strtol(arguments[3], nullptr, 10));

@@ -45,9 +45,9 @@ PlugIn::~PlugIn() {
     fs::remove_all(folder);
 }
 
-void PlugIn::Choose(const Case& benchCase) {
+void PlugIn::Choose(const Case& benchCase, bool isUtf8) {
     SetPString(params.typeName, benchCase.type);
-    params.convertFromUtf8 = 1;
+    params.convertFromUtf8 = isUtf8;
     params.checkCharacter = benchCase.addCheck;
     params.ratio = kRatio;
     params.slot2 = &recognised;

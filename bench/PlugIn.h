@@ -20,8 +20,9 @@ class PlugIn {
     PlugIn& operator=(const PlugIn&) = delete;
     ~PlugIn();
 
-    /** What the following rows are of. */
-    void Choose(const Case& benchCase);
+    /** What the following rows are of, and whether they are sent as UTF-8, which is a block more.
+     */
+    void Choose(const Case& benchCase, bool isUtf8 = false);
 
     /** Request 1100 as a caller makes it: a block for the row's data, the request, what comes back,
      *  and the block given back. `use` is called with the result. */

@@ -59,11 +59,11 @@ bool DropExtraLastChar(DataBlock data, uint32 n) {
 
 bool TrimSpaces(DataBlock data) {
     const std::string_view text = data.View();
+    if (!text.starts_with(' ') && !text.ends_with(' ')) return true;
     const auto start = text.find_first_not_of(' ');
     if (start == std::string_view::npos) return true;
     const auto end = text.find_last_not_of(' ');
-    const std::string_view trimmed = text.substr(start, end - start + 1);
-    return trimmed.size() == text.size() || ReplaceData(data, trimmed);
+    return ReplaceData(data, text.substr(start, end - start + 1));
 }
 
 }  // namespace linewright

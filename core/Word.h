@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <type_traits>
 
 namespace linewright {
 
@@ -28,21 +29,31 @@ constexpr Word MakeWord(std::string_view text) {
     return word;
 }
 
-/** The first `Count` bytes, zeros behind them. */
+template <class Unsigned>
+Unsigned Load(const char* bytes) {
+    Unsigned number;
+    std::memcpy(&number, bytes, sizeof number);
+    return number;
+}
+
+/** The first three to eight bytes, zeros behind them: two loads that
+ *  may overlap. */
 template <std::size_t Count = kWordSize>
 Word LoadWord(const char* bytes) {
-    Word word = 0;
-    std::memcpy(&word, bytes, Count);
-    return word;
+    static_assert(Count >= 3 && Count <= kWordSize);
+    if constexpr (Count == kWordSize) return Load<Word>(bytes);
+    using Part = std::conditional_t<Count == 3, std::uint16_t, std::uint32_t>;
+    constexpr std::size_t kRest = Count - sizeof(Part);
+    return Load<Part>(bytes) | Word{Load<Part>(bytes + kRest)} << 8 * kRest;
 }
 
 /** The first eight bytes of a text, zeros behind a shorter one. */
 inline Word LoadWord(std::string_view text) {
-    if (text.size() >= kWordSize) return LoadWord(text.data());
+    if (text.size() >= kWordSize) return Load<Word>(text.data());
     if (text.size() < 4) return MakeWord(text);
-    // Two halves that overlap in a text of less than eight.
-    return LoadWord<4>(text.data()) | LoadWord<4>(text.data() + text.size() - 4)
-                                          << 8 * (text.size() - 4);
+    const std::size_t rest = text.size() - 4;
+    return Load<std::uint32_t>(text.data()) | Word{Load<std::uint32_t>(text.data() + rest)}
+                                                  << 8 * rest;
 }
 
 /** Whether each byte is a decimal digit: its upper half is 3, and stays so with 6 added. */

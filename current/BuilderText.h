@@ -34,10 +34,4 @@ inline std::string_view OnlyDigits(std::string_view text, std::size_t most, Text
     return spare.View();
 }
 
-/** Appends the decimal digits of a text of at most kMaxBuilderText characters. */
-inline void AppendDigits(std::string_view text, TextArea& digits) {
-    FixedText<kMaxBuilderText> spare;
-    digits.Append(OnlyDigits(text, kMaxBuilderText, spare));
-}
-
 }  // namespace linewright

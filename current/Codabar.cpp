@@ -8,9 +8,11 @@ namespace linewright {
 
 namespace {
 
+constexpr char kOtherCharacters[] = "-$:/.+";
+
 constexpr FrontRule kFront{
     .length = Between(4, 255),
-    .characters = {kDigits, "-$:/.+", hints::kDigitsPlus},
+    .characters = {AreOfClass<kDigits, kOtherCharacters>, hints::kDigitsPlus},
     .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildCodabarCurrent(text, arguments.ratio, "A", "B", symbol);
     }};

@@ -8,9 +8,11 @@ namespace linewright {
 
 namespace {
 
+constexpr char kOtherCharacters[] = " -.$/+%";
+
 constexpr FrontRule kFront{
     .length = AtMost(255),
-    .characters = {kDigits | kUpperCase, " -.$/+%", hints::kUpperCasePlusSpaces},
+    .characters = {AreOfClass<kDigits | kUpperCase, kOtherCharacters>, hints::kUpperCasePlusSpaces},
     .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildCode39Current(text, arguments.ratio, arguments.checkCharacter != 0, symbol);
     }};

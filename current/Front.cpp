@@ -56,11 +56,6 @@ bool LengthRule::Allows(int32 length) const {
     return IsInRange(length, shortest, longest);
 }
 
-bool CharacterRule::Allows(std::string_view text) const {
-    return std::all_of(text.begin(), text.end(),
-                       [this](char byte) { return allowed[static_cast<uint8>(byte)]; });
-}
-
 int16 EncodeByRule(const FrontRule& rule, const EncoderArguments& arguments, TextArea& symbol) {
     if (arguments.hint) arguments.hint->Clear();
 
@@ -69,7 +64,7 @@ int16 EncodeByRule(const FrontRule& rule, const EncoderArguments& arguments, Tex
         SetHint(arguments.hint, rule.length);
         return FinishWith(arguments.data, kLengthError, kBadLength);
     }
-    if (!rule.characters.Allows(arguments.data.View())) {
+    if (!rule.characters.allows(arguments.data.View())) {
         SetHint(arguments.hint, rule.characters);
         return FinishWith(arguments.data, kDataError, kInvalidData);
     }

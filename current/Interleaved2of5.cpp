@@ -59,26 +59,30 @@ constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
     return letters;
 });
 
-constexpr std::size_t PairValue(char first, char second) {
-    return static_cast<std::size_t>(10 * (first - '0') + (second - '0'));
-}
-
 }  // namespace
 
 int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckDigit,
                                   TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
-    FixedText<kMaxBuilderText + 2> padded;
-    padded.Append('0');
-    AppendDigits(FirstCharacters(data), padded);
-    if (addCheckDigit) padded.Append(Modulo10CheckDigit(padded.View()));
-    const std::string_view digits = padded.View().substr(padded.View().size() % 2);
+    FixedText<kMaxBuilderText> spare;
+    std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
+    FixedText<kMaxBuilderText + 1> completed;
+    if (addCheckDigit) {
+        completed.Append(digits);
+        completed.Append(Modulo10CheckDigit(digits));
+        digits = completed.View();
+    }
 
     const Letters& letters = kLetters.For(ratio);
     LetterWriter symbol(symbolText);
+    const auto appendPair = [&](char first, char second) {
+        const auto value = static_cast<std::size_t>(10 * (first - '0') + (second - '0'));
+        symbol.Append(letters.pairs[value], kLettersPerPair);
+    };
     symbol.Append(letters.start, kStart.size() / 2);
-    for (std::size_t place = 0; place < digits.size(); place += 2)
-        symbol.Append(letters.pairs[PairValue(digits[place], digits[place + 1])], kLettersPerPair);
+    std::size_t place = digits.size() % 2;
+    if (place == 1) appendPair('0', digits[0]);
+    for (; place < digits.size(); place += 2) appendPair(digits[place], digits[place + 1]);
     symbol.Append(letters.stop, (kStop.size() + 1) / 2);
     return kEncoded;
 }

@@ -52,16 +52,18 @@ const char* MsiCheckDigit(const char* digits) {
 
 int16 BuildMsiCurrent(const char* data, double ratio, bool addCheckDigit, TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
-    FixedText<kMaxBuilderText + 1> digits;
-    AppendDigits(FirstCharacters(data), digits);
-    if (digits.View().empty()) return kEmptyData;
-    if (addCheckDigit) digits.Append(MsiModulo10CheckDigit(digits.View()));
+    FixedText<kMaxBuilderText> spare;
+    const std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
+    if (digits.empty()) return kEmptyData;
 
     const Letters& letters = kLetters.For(ratio);
     LetterWriter symbol(symbolText);
-    symbol.Append(letters.start, kStart.size() / 2);
-    for (const char digit : digits.View())
+    const auto append = [&](char digit) {
         symbol.Append(letters.digits[static_cast<std::size_t>(digit - '0')], kLettersPerDigit);
+    };
+    symbol.Append(letters.start, kStart.size() / 2);
+    for (const char digit : digits) append(digit);
+    if (addCheckDigit) append(MsiModulo10CheckDigit(digits));
     symbol.Append(letters.stop, kStop.size() / 2);
     return kEncoded;
 }

@@ -30,14 +30,16 @@ constexpr std::array<Word, 10> kDigitLetters = [] {
 
 int16 BuildPostnetCurrent(const char* data, bool addCheckDigit, TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
-    FixedText<kMaxBuilderText + 1> digits;
-    AppendDigits(FirstCharacters(data), digits);
-    if (addCheckDigit) digits.Append(PostnetCheckDigit(digits.View()));
+    FixedText<kMaxBuilderText> spare;
+    const std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
 
     LetterWriter symbol(symbolText);
-    symbol.Append(current::kTallBar);
-    for (const char digit : digits.View())
+    const auto append = [&](char digit) {
         symbol.Append(kDigitLetters[static_cast<std::size_t>(digit - '0')], kLettersPerDigit);
+    };
+    symbol.Append(current::kTallBar);
+    for (const char digit : digits) append(digit);
+    if (addCheckDigit) append(PostnetCheckDigit(digits));
     symbol.Append(current::kTallBar);
     return kEncoded;
 }

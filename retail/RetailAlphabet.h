@@ -89,8 +89,12 @@ constexpr bool IsReadable(const RetailAlphabet& alphabet) {
 static_assert(IsReadable(kClassicRetailAlphabet));
 static_assert(IsReadable(kCurrentRetailAlphabet));
 
-/** Whether the letters of digits between the guards follow one another as the digits do. */
+/** Whether the guards are one letter each, and the letters of digits between them follow one
+ * another as the digits do. */
 constexpr bool AreInOrder(const RetailAlphabet& alphabet) {
+    for (const std::string_view mark :
+         {alphabet.guard, alphabet.centreGuard, alphabet.upcERightGuard})
+        if (mark.size() != 1) return false;
     for (const std::string_view row :
          {alphabet.setA, alphabet.setB, alphabet.setC, alphabet.longSetA, alphabet.longSetC})
         for (std::size_t digit = 0; digit < row.size(); ++digit)

@@ -1,5 +1,9 @@
 #include "retail/RetailSymbol.h"
 
+#include <array>
+#include <initializer_list>
+#include <iterator>
+
 #include "standards/CheckDigits.h"
 #include "standards/EanUpcParity.h"
 
@@ -46,6 +50,13 @@ constexpr std::array<Word, 10> UpcEFirstLetters(const RetailAlphabet& alphabet, 
     return letters;
 }
 
+/** A word behind single letters. */
+constexpr Word Joined(std::initializer_list<std::string_view> letters, Word word) {
+    for (auto letter = std::rbegin(letters); letter != std::rend(letters); ++letter)
+        word = word << 8 | MakeWord(*letter);
+    return word;
+}
+
 constexpr std::size_t ValueOf(char digit) {
     return static_cast<std::size_t>(digit - '0');
 }
@@ -55,11 +66,11 @@ Word Values(const char* digits) {
     return DigitValues(LoadWord<Count>(digits));
 }
 
-/** The digits at the end of a number, and its check digit. */
-template <std::size_t Count>
+/** The last `Count` digits of a number of `Size`, and its check digit. */
+template <std::size_t Size, std::size_t Count>
 Word ValuesWithCheckDigit(std::string_view number) {
-    const Word checkValue = ValueOf(Modulo10CheckDigit(number));
-    return Values<Count>(number.data() + number.size() - Count) | checkValue << 8 * Count;
+    const Word checkValue = ValueOf(Modulo10CheckDigit({number.data(), Size}));
+    return Values<Count>(number.data() + Size - Count) | checkValue << 8 * Count;
 }
 
 void Append(std::string_view letters, LetterWriter& symbol) {
@@ -79,50 +90,52 @@ void AppendAddOn(std::string_view addOn, LetterWriter& symbol) {
 
 }  // namespace
 
+// A symbol is written in words: the letters that do not depend on its digits and those of 0, to
+// which the values of the digits are added in their places.
+
 template <const RetailAlphabet& kAlphabet>
 void AppendEan13(std::string_view number, std::string_view addOn, TextArea& symbolText) {
     // The first digit has no bars: it chooses the number sets of the left half.
-    static constexpr auto kLeft = FirstLetters(kAlphabet, kEan13Parity);
-    constexpr Word kRight = FirstLetters(kAlphabet, "CCCCCC");
-    const std::size_t first = ValueOf(number[0]);
+    static constexpr auto kLeft = [] {
+        std::array<Word, 10> words = FirstLetters(kAlphabet, kEan13Parity);
+        for (std::size_t first = 0; first < words.size(); ++first)
+            words[first] =
+                Joined({kAlphabet.outside.substr(first, 1), kAlphabet.guard}, words[first]);
+        return words;
+    }();
+    constexpr Word kRight = Joined({kAlphabet.centreGuard}, FirstLetters(kAlphabet, "CCCCCC")) |
+                            MakeWord(kAlphabet.guard) << 56;
 
     LetterWriter symbol(symbolText);
-    symbol.Append(kAlphabet.outside[first]);
-    Append(kAlphabet.guard, symbol);
-    symbol.Append(kLeft[first] + Values<6>(number.data() + 1), 6);
-    Append(kAlphabet.centreGuard, symbol);
-    symbol.Append(kRight + ValuesWithCheckDigit<5>(number), 6);
-    Append(kAlphabet.guard, symbol);
-    if (!addOn.empty()) Append(kAlphabet.ean13AddOnGap, symbol);
+    symbol.Append(kLeft[ValueOf(number[0])] + (Values<6>(number.data() + 1) << 16), 8);
+    symbol.Append(kRight + (ValuesWithCheckDigit<12, 5>(number) << 8), 8);
+    if (addOn.empty()) return;
+    Append(kAlphabet.ean13AddOnGap, symbol);
     AppendAddOn<kAlphabet>(addOn, symbol);
 }
 
 template <const RetailAlphabet& kAlphabet>
 void AppendEan8(std::string_view number, TextArea& symbolText) {
-    constexpr Word kLeft = FirstLetters(kAlphabet, "AAAA");
-    constexpr Word kRight = FirstLetters(kAlphabet, "CCCC");
+    constexpr Word kLeft = Joined({kAlphabet.guard}, FirstLetters(kAlphabet, "AAAA"));
+    constexpr Word kRight = Joined({kAlphabet.centreGuard}, FirstLetters(kAlphabet, "CCCC")) |
+                            MakeWord(kAlphabet.guard) << 40;
 
     LetterWriter symbol(symbolText);
-    Append(kAlphabet.guard, symbol);
-    symbol.Append(kLeft + Values<4>(number.data()), 4);
-    Append(kAlphabet.centreGuard, symbol);
-    symbol.Append(kRight + ValuesWithCheckDigit<3>(number), 4);
-    Append(kAlphabet.guard, symbol);
+    symbol.Append(kLeft + (Values<4>(number.data()) << 8), 5);
+    symbol.Append(kRight + (ValuesWithCheckDigit<7, 3>(number) << 8), 6);
 }
 
 template <const RetailAlphabet& kAlphabet>
 void AppendUpcA(std::string_view number, std::string_view addOn, std::string_view rightGuard,
                 TextArea& symbolText) {
-    constexpr Word kLeft = FirstLetters(kAlphabet, "aAAAAA");
-    constexpr Word kRight = FirstLetters(kAlphabet, "CCCCCc");
-    const Word right = ValuesWithCheckDigit<5>(number);
+    constexpr Word kLeft = Joined({kAlphabet.guard}, FirstLetters(kAlphabet, "aAAAAA"));
+    constexpr Word kRight = Joined({kAlphabet.centreGuard}, FirstLetters(kAlphabet, "CCCCCc"));
+    const Word right = ValuesWithCheckDigit<11, 5>(number);
 
     LetterWriter symbol(symbolText);
     symbol.Append(kAlphabet.outside[ValueOf(number[0])]);
-    Append(kAlphabet.guard, symbol);
-    symbol.Append(kLeft + Values<6>(number.data()), 6);
-    Append(kAlphabet.centreGuard, symbol);
-    symbol.Append(kRight + right, 6);
+    symbol.Append(kLeft + (Values<6>(number.data()) << 8), 7);
+    symbol.Append(kRight + (right << 8), 7);
     Append(rightGuard, symbol);
     symbol.Append(kAlphabet.outside[right >> 40]);
     AppendAddOn<kAlphabet>(addOn, symbol);

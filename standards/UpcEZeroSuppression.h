@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "core/Word.h"
 #include "standards/CheckDigits.h"
@@ -64,14 +65,21 @@ constexpr std::optional<std::array<char, 6>> SuppressUpcE(std::string_view ten) 
 /** Whether six digits are those that stand for their own ten, so that to expand and to suppress
  * them changes nothing. */
 constexpr bool IsSuppressedUpcE(std::string_view six) {
-    switch (six[5]) {
-        case '0':
-        case '1':
-        case '2': return true;
-        case '3': return six[2] > '2';
-        case '4': return six[3] != '0';
-        default: return six[4] != '0';
-    }
+    // By the last digit, the place of a digit and the least that it is, lest a lower last digit do.
+    constexpr std::array<std::pair<std::size_t, char>, 10> kLeast{{
+        {0, '0'},
+        {0, '0'},
+        {0, '0'},
+        {2, '3'},
+        {3, '1'},
+        {4, '1'},
+        {4, '1'},
+        {4, '1'},
+        {4, '1'},
+        {4, '1'},
+    }};
+    const auto& [place, least] = kLeast[static_cast<std::size_t>(six[5] - '0')];
+    return six[place] >= least;
 }
 
 /** The places of the six digits, by the last of them, that weigh 3 in the check digit of the number
