@@ -13,34 +13,36 @@ static_assert(kBarcodeTypes[kFirstCurrentType - 1].family == Family::kClassic &&
 
 namespace {
 
-// Callers send a name and nothing behind it. The types are therefore laid out by the lengths of
-// their names; those of one length are told apart by how they end.
+// Callers send a name and nothing behind it. The types are therefore laid out by the endings and
+// lengths of their names, each in the first free place from the one that they give.
 
-constexpr std::size_t kLongestName =
-    std::max_element(kBarcodeTypes.begin(), kBarcodeTypes.end(), [](const auto& a, const auto& b) {
-        return a.name.size() < b.name.size();
-    }) -> name.size();
-
-struct NameIndex {
-    struct Row {
-        Word end;
-        const BarcodeType* type;
-    };
-    std::array<Row, kBarcodeTypes.size()> rows{};
-    std::array<std::uint8_t, kLongestName + 2> firstOfLength{};
+struct NamedType {
+    Word key = 0;
+    const BarcodeType* type = nullptr;
 };
+
+/** Of the last eight bytes of a name, and its length. */
+constexpr Word KeyOf(Word ending, std::size_t length) {
+    return ending + length;
+}
+
+constexpr std::size_t kPlaceBits = 6;
+using NameIndex = std::array<NamedType, (1 << kPlaceBits)>;
+static_assert(kBarcodeTypes.size() < std::tuple_size_v<NameIndex>);
+
+constexpr std::size_t PlaceOf(Word key) {
+    return key * 0x9E3779B97F4A7C15 >> (64 - kPlaceBits);
+}
 
 constexpr NameIndex kNameIndex = [] {
     NameIndex index;
-    std::uint8_t count = 0;
-    for (std::size_t length = 0; length <= kLongestName; ++length) {
-        index.firstOfLength[length] = count;
-        for (const BarcodeType& type : kBarcodeTypes) {
-            if (type.name.size() != length) continue;
-            index.rows[count++] = {MakeWord(type.name.substr(length - kWordSize)), &type};
-        }
+    for (const BarcodeType& type : kBarcodeTypes) {
+        const std::size_t length = type.name.size();
+        const Word key = KeyOf(MakeWord(type.name.substr(length - kWordSize)), length);
+        std::size_t place = PlaceOf(key);
+        while (index[place].type) place = (place + 1) % index.size();
+        index[place] = {key, &type};
     }
-    index.firstOfLength.back() = count;
     return index;
 }();
 // No name begins with another one, so a name is found here exactly if it is found by its beginning.
@@ -48,12 +50,12 @@ static_assert(std::all_of(kBarcodeTypes.begin(), kBarcodeTypes.end(),
                           [](const auto& type) { return FindTypeByPrefix(type.name) == &type; }));
 
 const BarcodeType* FindTypeByName(std::string_view name) {
-    if (name.size() < kWordSize || name.size() > kLongestName) return nullptr;
-    const Word end = LoadWord(name.data() + name.size() - kWordSize);
-    for (std::size_t i = kNameIndex.firstOfLength[name.size()];
-         i < kNameIndex.firstOfLength[name.size() + 1]; ++i)
-        if (kNameIndex.rows[i].end == end && kNameIndex.rows[i].type->name == name)
-            return kNameIndex.rows[i].type;
+    if (name.size() < kWordSize) return nullptr;
+    const Word key = KeyOf(LoadWord(name.data() + name.size() - kWordSize), name.size());
+    for (std::size_t place = PlaceOf(key); kNameIndex[place].type;
+         place = (place + 1) % kNameIndex.size())
+        if (kNameIndex[place].key == key && kNameIndex[place].type->name == name)
+            return kNameIndex[place].type;
     return nullptr;
 }
 

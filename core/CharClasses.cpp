@@ -9,10 +9,6 @@ int32 IsInList(int32 value, const int32* list, int32 count) {
     return std::find(list, list + count, value) != list + count;
 }
 
-int32 IsInRange(int32 value, int32 min, int32 max) {
-    return (min == 0 || value >= min) && (max == 0 || value <= max);
-}
-
 int32 CheckCharClasses(const uint8* bytes, int32 length, int32 classes, const char* extra) {
     if (length < 1) return 1;
     return std::all_of(bytes, bytes + length,

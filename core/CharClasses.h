@@ -10,7 +10,9 @@ namespace linewright {
 /** 1 if `value` is one of the first `count` entries of `list`, else 0; also without a list. */
 int32 IsInList(int32 value, const int32* list, int32 count);
 /** 1 if min ≤ value ≤ max, else 0. A bound of 0 leaves that side open. */
-int32 IsInRange(int32 value, int32 min, int32 max);
+constexpr int32 IsInRange(int32 value, int32 min, int32 max) {
+    return (min == 0 || value >= min) && (max == 0 || value <= max);
+}
 
 /** Classes of the C locale, as flags. */
 enum CharClass : int32 { kDigits = 1, kUpperCase = 2, kPrintable = 4, kAscii = 8 };

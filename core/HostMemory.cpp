@@ -15,6 +15,14 @@ IMemoryService* QueryService() {
                    : nullptr;
 }
 
+/** Calls `use` with the service that is held, or with one of its own. */
+template <class Use>
+auto WithService(Use use) {
+    if (innermost) return use(innermost->Service());
+    const MemoryScope memory;
+    return use(memory.Service());
+}
+
 }  // namespace
 
 MemoryScope::MemoryScope() : outer(innermost), service(outer ? outer->service : QueryService()) {
@@ -27,29 +35,31 @@ MemoryScope::~MemoryScope() {
 }
 
 uint8* AllocBlock(uint32 size) {
-    const MemoryScope memory;
-    return memory.Service() ? static_cast<uint8*>(memory.Service()->Allocate(size)) : nullptr;
+    return WithService([=](IMemoryService* service) {
+        return service ? static_cast<uint8*>(service->Allocate(size)) : nullptr;
+    });
 }
 
 uint8* AllocConversionBlock(uint32 size) {
-    const MemoryScope memory;
-    return memory.Service() ? static_cast<uint8*>(memory.Service()->AllocateForConversion(size))
-                            : nullptr;
+    return WithService([=](IMemoryService* service) {
+        return service ? static_cast<uint8*>(service->AllocateForConversion(size)) : nullptr;
+    });
 }
 
 void FreeBlock(void* block) {
-    const MemoryScope memory;
-    if (memory.Service() && block) memory.Service()->Deallocate(block);
+    WithService([=](IMemoryService* service) {
+        if (service && block) service->Deallocate(block);
+    });
 }
 
 bool ResizeBlock(void* block, uint32 size) {
-    const MemoryScope memory;
-    return memory.Service() && block && memory.Service()->Resize(block, size);
+    return WithService(
+        [=](IMemoryService* service) { return service && block && service->Resize(block, size); });
 }
 
 uint32 BlockSize(const void* block) {
-    const MemoryScope memory;
-    return memory.Service() && block ? memory.Service()->GetSize(block) : 0;
+    return WithService(
+        [=](IMemoryService* service) { return service && block ? service->GetSize(block) : 0; });
 }
 
 }  // namespace linewright

@@ -62,23 +62,26 @@ constexpr std::optional<std::array<char, 6>> SuppressUpcE(std::string_view ten) 
     return six;
 }
 
+/** By the last of six digits, the place of one of them and the least that it must be, lest a lower
+ *  last digit stands for the same ten. */
+inline constexpr std::array<std::pair<std::size_t, char>, 10> kUpcELeastDigits{{
+    // 0
+    {0, '0'},
+    {0, '0'},
+    {0, '0'},
+    {2, '3'},
+    {3, '1'},
+    {4, '1'},
+    {4, '1'},
+    {4, '1'},
+    {4, '1'},
+    {4, '1'},
+}};
+
 /** Whether six digits are those that stand for their own ten, so that to expand and to suppress
  * them changes nothing. */
 constexpr bool IsSuppressedUpcE(std::string_view six) {
-    // By the last digit, the place of a digit and the least that it is, lest a lower last digit do.
-    constexpr std::array<std::pair<std::size_t, char>, 10> kLeast{{
-        {0, '0'},
-        {0, '0'},
-        {0, '0'},
-        {2, '3'},
-        {3, '1'},
-        {4, '1'},
-        {4, '1'},
-        {4, '1'},
-        {4, '1'},
-        {4, '1'},
-    }};
-    const auto& [place, least] = kLeast[static_cast<std::size_t>(six[5] - '0')];
+    const auto& [place, least] = kUpcELeastDigits[static_cast<std::size_t>(six[5] - '0')];
     return six[place] >= least;
 }
 
