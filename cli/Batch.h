@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "cli/Csv.h"
-#include "requests/Outcome.h"
+#include "requests/BarcodeOutcome.h"
 
 namespace linewright {
 

@@ -9,6 +9,7 @@
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
 #include "cli/ScannedBarcode.h"
+#include "cli/VerdictWords.h"
 #include "render/Export.h"
 #include "requests/DrawnBarcode.h"
 #include "scanners/Verification.h"
@@ -69,7 +70,7 @@ int PixelsOf(const BarcodeDrawing& drawing, const DrawOptions& options) {
 }
 
 void PrintVerification(const Verification& verification, std::ostream& out) {
-    out << verification.Words() << '\n';
+    out << VerdictWords(verification) << '\n';
     for (const Reading& reading : verification.readings) {
         const std::string found =
             reading.isFound ? fmt::format("{:9}  {}", reading.symbology, ShownData(reading))
@@ -128,7 +129,7 @@ ScannedBarcode EncodeAndScan(Service& service, const BarcodeWish& wish, const st
     DrawnBarcode drawn = DrawBarcode(service, wish, {.fonts = fonts, .isTextWanted = false});
     if (!drawn.drawing) return {std::move(drawn.outcome), "", ""};
     const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
-    return {std::move(drawn.outcome), verification.Words(), verification.WhatWasRead()};
+    return {std::move(drawn.outcome), VerdictWords(verification), verification.WhatWasRead()};
 }
 
 }  // namespace linewright

@@ -4,9 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/Hex.h"
 #include "cli/ReadAll.h"
 #include "text/FontText.h"
+#include "text/Hex.h"
 
 namespace linewright {
 
@@ -27,7 +27,7 @@ std::string DataOf(const EncodeOptions& options, std::istream& input) {
 }
 
 /** What was made or, of a refusal, why nothing was. */
-std::string JsonOf(const Outcome& outcome, Language language) {
+std::string JsonOf(const BarcodeOutcome& outcome, Language language) {
     nlohmann::ordered_json object{
         {"type", outcome.typeName},
         {"shortName", outcome.type ? outcome.type->shortName : ""},
@@ -48,7 +48,7 @@ std::string JsonOf(const Outcome& outcome, Language language) {
     return object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-void Print(const Outcome& outcome, EncodeOptions::Form form, Console& console) {
+void Print(const BarcodeOutcome& outcome, EncodeOptions::Form form, Console& console) {
     std::ostream& out = console.out;
     switch (form) {
         case EncodeOptions::Form::kText: out << FontText(outcome.bytes) << '\n'; break;
@@ -71,7 +71,7 @@ BarcodeWish WishOf(const EncodeOptions& options, Console& console) {
     };
 }
 
-void ReportOutcome(const Outcome& outcome, Console& console) {
+void ReportOutcome(const BarcodeOutcome& outcome, Console& console) {
     for (const Warning& warning : outcome.Warnings()) {
         console.err << "linewright: warning: " << Sentence(warning, console.language) << '\n';
     }
@@ -82,7 +82,7 @@ void ReportOutcome(const Outcome& outcome, Console& console) {
 }
 
 ExitStatus RunEncode(Service& service, const EncodeOptions& options, Console& console) {
-    const Outcome outcome = MakeBarcode(service, WishOf(options, console));
+    const BarcodeOutcome outcome = MakeBarcode(service, WishOf(options, console));
     ReportOutcome(outcome, console);
     if (outcome.IsMade() || options.form == EncodeOptions::Form::kJson) {
         Print(outcome, options.form, console);

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "cli/Console.h"
-#include "requests/Outcome.h"
+#include "requests/BarcodeOutcome.h"
 
 namespace linewright {
 
@@ -24,7 +24,7 @@ struct EncodeOptions {
 BarcodeWish WishOf(const EncodeOptions& options, Console& console);
 
 /** Warnings and a refusal, to standard error. */
-void ReportOutcome(const Outcome& outcome, Console& console);
+void ReportOutcome(const BarcodeOutcome& outcome, Console& console);
 
 /** Makes one barcode: the font string to standard output, warnings and refusals to standard error,
  *  kRefused for a refusal, of which the JSON form has an object too. */

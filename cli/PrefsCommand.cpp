@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include "cli/Failure.h"
-#include "cli/LoadedPreferences.h"
 #include "cli/PreferenceFields.h"
 #include "host/runtime/HostText.h"
 #include "plugin/PreferencesFile.h"
@@ -13,6 +12,13 @@
 namespace linewright {
 
 namespace {
+
+/** Reads this program's own copy of the record from the file that the plug-in reads. */
+void ReadPreferences() {
+    ClearLocalConfig();
+    DetectLocalConfig();
+    LoadPreferences();
+}
 
 std::string FileName() {
     IDFile file;
@@ -29,7 +35,7 @@ void Print(std::ostream& out, std::string_view name, std::string_view text,
 }  // namespace
 
 ExitStatus RunPrefs(Console& console) {
-    LoadedPreferences();
+    ReadPreferences();
     console.out << FileName() << "\n\n";
     Print(console.out, "version", std::to_string(preferences.version), "");
     Print(console.out, "lastData",
@@ -42,7 +48,7 @@ ExitStatus RunPrefs(Console& console) {
 }
 
 ExitStatus RunPrefsSet(const std::vector<std::string>& assignments, Console& console) {
-    LoadedPreferences();
+    ReadPreferences();
     SetPreferences(preferences, assignments);
     if (!SavePreferences()) throw Failure(FileName() + " cannot be written");
     return RunPrefs(console);

@@ -6,6 +6,7 @@
 #include "cli/DrawCommand.h"
 #include "cli/Failure.h"
 #include "cli/OutputFile.h"
+#include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
 #include "render/Sheet.h"
 #include "requests/DrawnBarcode.h"
@@ -50,7 +51,7 @@ SheetEntry EntryOf(const DrawnBarcode& drawn, const BarcodeWish& wish, std::stri
     entry.lines.push_back(fmt::format("font  {}", FontOf(*drawn.drawing, *drawn.outcome.type)));
     const std::string read = verification.WhatWasRead();
     entry.lines.push_back(
-        fmt::format("read  {}{}", verification.Words(), read.empty() ? "" : ": " + read));
+        fmt::format("read  {}{}", VerdictWords(verification), read.empty() ? "" : ": " + read));
     for (const Warning& warning : drawn.outcome.Warnings()) {
         entry.lines.push_back("note  " + Sentence(warning, language));
     }

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "requests/Outcome.h"
+#include "requests/BarcodeOutcome.h"
 
 namespace linewright {
 
 /** A barcode and what scanners made of it. Texts are UTF-8, "" for a refusal. */
 struct ScannedBarcode {
-    Outcome outcome;
+    BarcodeOutcome outcome;
     /** "scans", "scans as …", "does not scan" or "no scanner for this symbology". */
     std::string scan;
     /** What the scanners read. */

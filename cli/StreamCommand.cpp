@@ -5,10 +5,10 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Failure.h"
-#include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
 #include "text/FontText.h"
+#include "text/Hex.h"
 
 namespace linewright {
 

@@ -7,7 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Failure.h"
-#include "cli/Hex.h"
+#include "text/Hex.h"
 #include "text/Readable.h"
 
 namespace linewright {

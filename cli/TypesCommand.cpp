@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "types/BarcodeTypes.h"
@@ -11,13 +12,27 @@ namespace linewright {
 
 namespace {
 
+double Millimetres(double points) {
+    constexpr double kSteps = 1e4;
+    return std::round(points / kMillimetre * kSteps) / kSteps;
+}
+
 nlohmann::ordered_json JsonOf(std::size_t index, const TypeDescription& type) {
+    const BarcodeType& row = *FindTypeByPrefix(type.typeName);
     nlohmann::ordered_json object{
         {"index", index},
         {"type", type.typeName},
-        {"shortName", FindTypeByPrefix(type.typeName)->shortName},
+        {"shortName", row.shortName},
         {"displayText", type.displayText},
+        {"font", nullptr},
+        {"modulesPerEm", nullptr},
+        {"xDimension", nullptr},
     };
+    if (row.face != nullptr) {
+        object["font"] = row.face->family;
+        object["modulesPerEm"] = row.face->modulesPerEm;
+        object["xDimension"] = Millimetres(row.dimensions.xDimension);
+    }
     if (type.optionFlags) {
         object["optionFlag1"] = (*type.optionFlags)[0];
         object["optionFlag2"] = (*type.optionFlags)[1];

@@ -58,12 +58,12 @@ constexpr Encoder EncoderOf(TypeCode code) {
         case TypeCode::kEan8: return EncodeEan8;
         case TypeCode::kClassicEan13:
             return [](Arguments a) -> int32 { return EncodeEan13Classic(a.data); };
-        case TypeCode::kClassicInterleavedTwoOfFive:
+        case TypeCode::kClassicInterleaved2of5:
             return [](Arguments a) -> int32 {
                 return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0,
                                                     false);
             };
-        case TypeCode::kClassicInterleavedTwoOfFiveText:
+        case TypeCode::kClassicInterleaved2of5Text:
             return [](Arguments a) -> int32 {
                 return EncodeInterleaved2of5Classic(a.data, preferences.i2of5CheckDigit != 0, true);
             };
@@ -82,8 +82,8 @@ constexpr Encoder EncoderOf(TypeCode code) {
         case TypeCode::kCode39: return EncodeCode39Current;
         case TypeCode::kCode128: return EncodeCode128Auto;
         case TypeCode::kEan13: return EncodeEan13Current;
-        case TypeCode::kInterleavedTwoOfFive: return EncodeInterleaved2of5Current;
-        case TypeCode::kInterleavedTwoOfFiveText: return EncodeInterleaved2of5TextCurrent;
+        case TypeCode::kInterleaved2of5: return EncodeInterleaved2of5Current;
+        case TypeCode::kInterleaved2of5Text: return EncodeInterleaved2of5TextCurrent;
         case TypeCode::kJan13: return EncodeEan13Current;
         case TypeCode::kMsi: return EncodeMsiCurrent;
         case TypeCode::kUpcA: return EncodeUpcACurrent;

@@ -43,7 +43,8 @@ class BarcodeDrawing {
      *  `fonts` is the folder that holds the fonts' files. */
     static std::optional<BarcodeDrawing> Make(const std::filesystem::path& fonts,
                                               const BarcodeType& type, std::string_view fontString,
-                                              const DrawingOptions& options, DrawingProblem& problem);
+                                              const DrawingOptions& options,
+                                              DrawingProblem& problem);
 
     int Width() const { return width; }
     int Height() const { return height; }

@@ -5,8 +5,8 @@
 
 namespace linewright {
 
-/** Why a drawing cannot be made. The parameters, UTF-8, fill a door's sentence in the order in which
- *  they stand here. */
+/** Why a drawing cannot be made. The parameters, UTF-8, fill a door's sentence in the order in
+ * which they stand here. */
 struct DrawingProblem {
     enum class Reason {
         /** A font is not there or cannot be read: its file. */

@@ -27,9 +27,15 @@ DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeType& type,
 }  // namespace
 
 DrawnBarcode DrawBarcode(Service& service, const BarcodeWish& wish, const DrawingWish& drawing) {
-    DrawnBarcode drawn{MakeBarcode(service, wish)};
+    DrawnBarcode drawn{MakeBarcodeLeniently(service, wish)};
     if (!drawn.outcome.IsMade()) return drawn;
     const BarcodeType& type = *drawn.outcome.type;
+    std::vector<Warning>& warnings = drawn.outcome.meaning.warnings;
+    if (type.symbology == Symbology::kText) warnings.push_back({WarningReason::kNoBars});
+    if (wish.isStrict && !warnings.empty()) {
+        RefuseForWarnings(drawn.outcome);
+        return drawn;
+    }
     DrawingProblem problem;
     drawn.drawing =
         BarcodeDrawing::Make(host::PathFromUtf8(drawing.fonts), type, drawn.outcome.bytes,

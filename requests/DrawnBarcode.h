@@ -3,15 +3,15 @@
 #include <optional>
 
 #include "render/BarcodeDrawing.h"
+#include "requests/BarcodeOutcome.h"
 #include "requests/DrawingFailure.h"
 #include "requests/DrawingWish.h"
-#include "requests/Outcome.h"
 
 namespace linewright {
 
 /** A barcode that was made and drawn. */
 struct DrawnBarcode {
-    Outcome outcome;
+    BarcodeOutcome outcome;
     /** None where the outcome was a refusal. */
     std::optional<BarcodeDrawing> drawing{};
 };

@@ -13,10 +13,10 @@ namespace linewright {
 
 /** Where the host finds things, as UTF-8 texts; an empty one takes the host's default. */
 struct HostOptions {
-    std::string plugin;
-    std::string roamingFolder;
-    std::string appFolder;
-    std::string locale;
+    std::string plugin{};
+    std::string roamingFolder{};
+    std::string appFolder{};
+    std::string locale{};
     /** Who shows alerts and dialogs; nullptr for the console. Outlives the host. */
     host::FrontEnd* frontEnd = nullptr;
 };

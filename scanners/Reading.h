@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "render/GreyRaster.h"
 #include "meaning/Meaning.h"
+#include "render/GreyRaster.h"
 
 namespace linewright {
 

@@ -26,15 +26,9 @@ std::string ShownData(const Reading& reading) {
     return reading.addOn.empty() ? text : text + " +" + reading.addOn;
 }
 
-std::string Verification::Words() const {
-    switch (verdict) {
-        case Verdict::kScans: return "scans";
-        case Verdict::kDoesNotScan: return "does not scan";
-        case Verdict::kNoScanner: return "no scanner for this symbology";
-        case Verdict::kScansAs: break;
-    }
+const Reading* Verification::Other() const {
     const auto other = std::find_if(readings.begin(), readings.end(), IsOther);
-    return "scans as " + (other == readings.end() ? std::string() : ShownData(*other));
+    return other == readings.end() ? nullptr : &*other;
 }
 
 std::string Verification::WhatWasRead() const {

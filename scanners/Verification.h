@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "render/BarcodeDrawing.h"
 #include "meaning/Meaning.h"
+#include "render/BarcodeDrawing.h"
 #include "scanners/Reading.h"
 
 namespace linewright {
@@ -17,8 +17,8 @@ struct Verification {
     /** One for each scanner that knows the symbology. */
     std::vector<Reading> readings;
 
-    /** "scans", "scans as …", "does not scan" or "no scanner for this symbology". */
-    std::string Words() const;
+    /** The first reading of something else than is meant; nullptr where there is none. */
+    const Reading* Other() const;
     /** What the scanners read, one text where they agree; "" where none read anything. UTF-8. */
     std::string WhatWasRead() const;
     /** Whether scanners know the symbology, and do not say what is meant. */

@@ -41,7 +41,7 @@ Scanner ScannerFor(const ScannerTask& task) {
             Enable(scanner.get(), zbar::ZBAR_CODABAR);
             AllowLength(scanner.get(), zbar::ZBAR_CODABAR, 1);
             break;
-        case Symbology::kInterleavedTwoOfFive:
+        case Symbology::kInterleaved2of5:
             Enable(scanner.get(), zbar::ZBAR_I25);
             AllowLength(scanner.get(), zbar::ZBAR_I25, 2);
             break;
@@ -82,7 +82,7 @@ void Take(const zbar::zbar_symbol_t* symbol, Reading& reading) {
     reading.symbology = zbar::zbar_get_symbol_name(type);
     const bool isEanUpc = type == zbar::ZBAR_EAN13 || type == zbar::ZBAR_EAN8 ||
                           type == zbar::ZBAR_UPCA || type == zbar::ZBAR_UPCE;
-    reading.data = isEanUpc ? verify::EanUpcNumber(data, type == zbar::ZBAR_UPCE) : data;
+    reading.data = isEanUpc ? EanUpcNumber(data, type == zbar::ZBAR_UPCE) : data;
     reading.isGs1 = (zbar::zbar_symbol_get_modifiers(symbol) & 1U << zbar::ZBAR_MOD_GS1) != 0;
 }
 

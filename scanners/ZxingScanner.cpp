@@ -2,7 +2,6 @@
 #define ZX_USE_UTF8
 #include <ZXing/ReadBarcode.h>
 
-#include "meaning/CheckRules.h"
 #include "scanners/EanUpcNumber.h"
 #include "scanners/Reading.h"
 
@@ -17,7 +16,7 @@ ZXing::BarcodeFormats FormatsOf(Symbology symbology) {
         case Symbology::kCode128: return BarcodeFormat::Code128;
         case Symbology::kCode39: return BarcodeFormat::Code39;
         case Symbology::kCodabar: return BarcodeFormat::Codabar;
-        case Symbology::kInterleavedTwoOfFive: return BarcodeFormat::ITF;
+        case Symbology::kInterleaved2of5: return BarcodeFormat::ITF;
         case Symbology::kEanUpc:
             return BarcodeFormat::EAN13 | BarcodeFormat::EAN8 | BarcodeFormat::UPCA |
                    BarcodeFormat::UPCE;
@@ -59,7 +58,7 @@ Reading ReadWithZxing(const GreyRaster& picture, const ScannerTask& task) {
         const std::size_t space = reading.data.find(' ');
         if (space != std::string::npos) reading.addOn = reading.data.substr(space + 1);
         reading.said = reading.data.substr(0, space);
-        reading.data = verify::EanUpcNumber(reading.said, result.format() == BarcodeFormat::UPCE);
+        reading.data = EanUpcNumber(reading.said, result.format() == BarcodeFormat::UPCE);
     }
     return reading;
 }

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
-
-#include "gtest/gtest.h"
 
 namespace linewright {
 

@@ -8,7 +8,7 @@ import unittest
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-ROOMS = ["core", "classic", "current", "imb", "plugin"]
+ROOMS = ["types", "core", "classic", "current", "imb", "plugin"]
 STRINGS = ROOT / "plugin" / "resources" / "strings"
 PREFIX = "0x122100kLWR"
 

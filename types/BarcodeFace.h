@@ -18,7 +18,8 @@ struct BarcodeFace {
 };
 
 inline constexpr BarcodeFace kBarsFace{"Linewright Bars", "LinewrightBars", 32, 32};
-inline constexpr BarcodeFace kEanUpcFace{"Linewright EAN UPC", "LinewrightEANUPC", 128, 69.25, true};
+inline constexpr BarcodeFace kEanUpcFace{"Linewright EAN UPC", "LinewrightEANUPC", 128, 69.25,
+                                         true};
 inline constexpr BarcodeFace kPostalFace{"Linewright Postal", "LinewrightPostal", 32, 29};
 inline constexpr BarcodeFace kClassicCode128Face{"Linewright Classic Code 128",
                                                  "LinewrightClassicCode128", 32, 32};

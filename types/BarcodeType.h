@@ -23,7 +23,7 @@ enum class Symbology : std::uint8_t {
     kCode128,
     kCode39,
     kCodabar,
-    kInterleavedTwoOfFive,
+    kInterleaved2of5,
     kEanUpc,
     kMsi,
     kPostnet,
@@ -36,7 +36,7 @@ constexpr bool HasScanner(Symbology symbology) {
         case Symbology::kCode128:
         case Symbology::kCode39:
         case Symbology::kCodabar:
-        case Symbology::kInterleavedTwoOfFive:
+        case Symbology::kInterleaved2of5:
         case Symbology::kEanUpc: return true;
         case Symbology::kText:
         case Symbology::kMsi:

@@ -23,9 +23,9 @@ constexpr OtherName kOtherNames[]{
     {"gs1128", TypeCode::kCode128, Expectation::kIdentifiers},
     {"isbn", TypeCode::kEan13},
     {"issn", TypeCode::kEan13},
-    {"itf", TypeCode::kInterleavedTwoOfFive},
-    {"itf14", TypeCode::kInterleavedTwoOfFive, Expectation::kFourteenDigits},
-    {"interleaved2of5", TypeCode::kInterleavedTwoOfFive},
+    {"itf", TypeCode::kInterleaved2of5},
+    {"itf14", TypeCode::kInterleaved2of5, Expectation::kFourteenDigits},
+    {"interleaved2of5", TypeCode::kInterleaved2of5},
     {"intelligentmail", TypeCode::kIntelligentMail},
 };
 

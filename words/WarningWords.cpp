@@ -38,10 +38,12 @@ constexpr Translations TranslationsOf(WarningReason reason) {
                     "la clé de contrôle {0} a été remplacée par la clé calculée, {1}",
                     "チェックデジット {0} は計算値 {1} に置き換えられました"};
         case WarningReason::kAddOnCut:
-            return {"the last digit of the add-on was dropped: the bars say {0}, not {1}",
-                    "die letzte Ziffer des Zusatzes fiel weg: die Balken sagen {0}, nicht {1}",
-                    "le dernier chiffre du complément est omis : les barres disent {0}, non {1}",
-                    "アドオンの最後の数字が省かれました。バーは {1} ではなく {0} を表します"};
+            return {
+                "the add-on of the symbol is {0}, not {1}: data with both check digit and add-on "
+                "loses its last digit",
+                "die letzte Ziffer des Zusatzes fiel weg: die Balken sagen {0}, nicht {1}",
+                "le dernier chiffre du complément est omis : les barres disent {0}, non {1}",
+                "アドオンの最後の数字が省かれました。バーは {1} ではなく {0} を表します"};
         case WarningReason::kCode128SumOverflow:
             return {
                 "the data is too long for the check character, whose sum is kept in 16 bits: "
@@ -105,15 +107,15 @@ constexpr Translations TranslationsOf(WarningReason reason) {
                     "この種類は人が読む数字だけで、バーはありません"};
         case WarningReason::kNoIdentifiers:
             return {
-                "GS1-128 has application identifiers, as in (01)09501101530003; this data has "
-                "none",
+                "GS1-128 wants GS1 application identifiers, as in \"(01)09501101530003\", and the "
+                "data has none",
                 "GS1-128 hat Datenbezeichner wie in (01)09501101530003; diese Daten haben keine",
                 "le GS1-128 a des identifiants comme dans (01)09501101530003 ; ces données n’en "
                 "ont pas",
                 "GS1-128 には (01)09501101530003 のような識別子が要りますが、"
                 "このデータにはありません"};
         case WarningReason::kNotFourteenDigits:
-            return {"ITF-14 has 14 digits; this symbol has {0}",
+            return {"ITF-14 has 14 digits, and the symbol has {0}",
                     "ITF-14 hat 14 Ziffern; dieses Symbol hat {0}",
                     "l’ITF-14 a 14 chiffres ; ce symbole en a {0}",
                     "ITF-14 は 14 桁ですが、このシンボルは {0} 桁です"};
@@ -121,10 +123,10 @@ constexpr Translations TranslationsOf(WarningReason reason) {
             return {"the bars say {0}", "die Balken sagen {0}", "les barres disent {0}",
                     "バーは {0} を表します"};
         case WarningReason::kDigitsSay:
-            return {"the digits say {0}", "die Ziffern sagen {0}", "les chiffres disent {0}",
-                    "数字は {0} です"};
+            return {"the digits to be read say {0}", "die Ziffern sagen {0}",
+                    "les chiffres disent {0}", "数字は {0} です"};
         case WarningReason::kNoSymbol:
-            return {"no scanner finds a symbol in these bars",
+            return {"the bars are no symbol of this type: no scanner reads them",
                     "kein Scanner findet in diesen Balken ein Symbol",
                     "aucun lecteur ne trouve de symbole dans ces barres",
                     "スキャナはこのバーからシンボルを読み取れません"};
@@ -176,7 +178,7 @@ std::string Sentence(const Warning& warning, Language language) {
     }
 }
 
-std::string JoinedWarnings(const Outcome& outcome, Language language) {
+std::string JoinedWarnings(const BarcodeOutcome& outcome, Language language) {
     std::string text;
     for (const Warning& warning : outcome.Warnings()) {
         if (!text.empty()) text += "; ";

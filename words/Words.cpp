@@ -77,7 +77,7 @@ Language LanguageOf(std::string_view locale) {
     return Language::kEnglish;
 }
 
-std::string WhyRefused(const Outcome& outcome, Language language) {
+std::string WhyRefused(const BarcodeOutcome& outcome, Language language) {
     if (!outcome.refusal) return "";
     const std::vector<std::string>& texts = outcome.refusal->texts;
     switch (outcome.refusal->reason) {

@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "meaning/Warning.h"
+#include "requests/BarcodeOutcome.h"
 #include "requests/DrawingFailure.h"
-#include "requests/Outcome.h"
 #include "requests/RequestFailure.h"
 
 namespace linewright {
@@ -19,9 +19,9 @@ Language LanguageOf(std::string_view locale);
 
 std::string Sentence(const Warning& warning, Language language);
 /** All warnings of an outcome as one text. */
-std::string JoinedWarnings(const Outcome& outcome, Language language);
+std::string JoinedWarnings(const BarcodeOutcome& outcome, Language language);
 /** Why an outcome is a refusal; "" for one that is none. */
-std::string WhyRefused(const Outcome& outcome, Language language);
+std::string WhyRefused(const BarcodeOutcome& outcome, Language language);
 std::string Sentence(const RequestFailure& failure, Language language);
 std::string Sentence(const DrawingFailure& failure, Language language);
 

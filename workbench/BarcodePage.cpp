@@ -233,7 +233,7 @@ void BarcodePage::ShowFailure(const std::string& sentence) {
 }
 
 void BarcodePage::Show(DrawnBarcode& drawn) {
-    const Outcome& outcome = drawn.outcome;
+    const BarcodeOutcome& outcome = drawn.outcome;
     ShowBadge(drawn);
     fontText = FromUtf8(FontText(outcome.bytes));
     copyButton->setEnabled(!fontText.isEmpty());

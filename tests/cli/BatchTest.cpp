@@ -112,8 +112,10 @@ TEST(Batch, KnowsDelimiters) {
 TEST(Batch, IsStrictWhenAsked) {
     const auto result = Convert("type,data\nclassic-code128b,10€\n", {"--strict"});
     EXPECT_EQ(result.status, 3);
-    EXPECT_THAT(result.out,
-                HasSubstr("10€,,,\"there is a warning, and warnings are refused\",\"1 character above U+00FF"));
+    EXPECT_THAT(
+        result.out,
+        HasSubstr(
+            "10€,,,\"there is a warning, and warnings are refused\",\"1 character above U+00FF"));
 }
 
 TEST(Batch, SaysWhatIsWrongWithAFile) {

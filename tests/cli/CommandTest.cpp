@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "cli/Utf8.h"
 #include "tests/cli/CommandRunner.h"
+#include "text/Readable.h"
 
 namespace linewright {
 
@@ -198,12 +198,20 @@ TEST(Types, AreListedInThePlugInsOrder) {
                                {"type", "_QVT_BARCODE_CODE39_"},
                                {"shortName", "code39"},
                                {"displayText", "0x122100kLWRUtilityTypePopupItem7Key"},
+                               {"font", "Linewright Bars"},
+                               {"modulesPerEm", 32},
+                               {"xDimension", 0.254},
                                {"optionFlag1", 1},
                                {"optionFlag2", 1},
                                {"optionFlag3", 1}}));
     EXPECT_EQ(types[18]["shortName"], "ean8");
+    EXPECT_EQ(types[18]["font"], "Linewright EAN UPC");
+    EXPECT_EQ(types[18]["xDimension"], 0.33);
     EXPECT_EQ(types[18]["optionFlag2"], 1);
     EXPECT_EQ(types[20]["shortName"], "i2of5-text");
+    for (const char* const name : {"font", "modulesPerEm", "xDimension"}) {
+        EXPECT_EQ(types[20].at(name), nullptr) << "digits for any face";
+    }
     EXPECT_EQ(types[26]["type"], "_QVT_BARCODE_POSTNET_");
 }
 
@@ -258,6 +266,55 @@ TEST(Encode, PrintsTheFontStringInEachForm) {
 
 TEST(Encode, TakesTypeNamesToo) {
     EXPECT_EQ(CommandRunner().Run({"encode", "_BARCODE_CODE128B_", "AB"}).out, "ˆAB†Š\n");
+}
+
+TEST(Encode, TakesTheNamesThatPeopleWrite) {
+    const CommandRunner command;
+    const auto encoded = [&](const char* type, const char* data) {
+        return command.Run({"encode", type, data}).out;
+    };
+    EXPECT_EQ(encoded("EAN-13", "4006381333931"), encoded("ean13", "4006381333931"));
+    EXPECT_EQ(encoded("ISBN", "9780306406157"), encoded("ean13", "9780306406157"));
+    EXPECT_EQ(encoded("ITF-14", "15400141288763"), encoded("i2of5", "15400141288763"));
+    EXPECT_EQ(encoded("GS1-128", "(10)AB"), encoded("code128", "(10)AB"));
+}
+
+TEST(Encode, WarnsWhereANameMeansMoreThanItsType) {
+    const CommandRunner command;
+    EXPECT_THAT(command.Run({"encode", "GS1-128", "AB"}).err, HasSubstr("application identifiers"));
+    EXPECT_EQ(command.Run({"encode", "GS1-128", "(10)AB"}).err, "");
+    EXPECT_EQ(command.Run({"encode", "code128", "AB"}).err, "");
+    EXPECT_THAT(command.Run({"encode", "ITF-14", "1234"}).err, HasSubstr("14 digits"));
+    EXPECT_EQ(command.Run({"encode", "ITF-14", "15400141288763"}).err, "");
+    EXPECT_EQ(command.Run({"encode", "ITF-14", "1540014128876", "--check"}).err, "");
+    EXPECT_EQ(command.Run({"encode", "i2of5", "1234"}).err, "");
+}
+
+TEST(Encode, WarnsByTheBeginningOfATypeNameAsThePlugInKnowsIt) {
+    const CommandRunner command;
+    for (const char* const type : {"_QVT_BARCODE_EAN13_", "_QVT_BARCODE_EAN13_ "}) {
+        const auto strict = command.Run({"encode", type, "4006381333937", "--strict"});
+        EXPECT_EQ(strict.status, 1) << type;
+        EXPECT_EQ(strict.out, "") << type;
+        EXPECT_THAT(strict.err, HasSubstr("the check digit 7 was replaced")) << type;
+    }
+}
+
+// The check character of 60 "z" needs a sum above 16 bits: no scanner takes the symbol.
+TEST(Encode, RefusesWhatNoScannerReadsWhenItIsStrict) {
+    const auto result =
+        CommandRunner().Run({"encode", "classic-code128b", std::string(60, 'z'), "--strict"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+}
+
+TEST(Encode, SpeaksOneLanguage) {
+    const CommandRunner command;
+    const auto result =
+        command.Run({"encode", "ean13", "4006381333937", "--strict", "--locale", "deDE"});
+    EXPECT_EQ(result.err,
+              "linewright: warning: die Prüfziffer 7 wurde durch die berechnete ersetzt, 1\n"
+              "linewright: refused: es gibt eine Warnung, und Warnungen werden abgelehnt\n");
 }
 
 TEST(Encode, TakesAnyData) {
@@ -343,7 +400,7 @@ TEST(Encode, PrintsAnObjectForARefusalToo) {
     EXPECT_THAT(unknown["message"].get<std::string>(), StartsWith("there is no type"));
     const json strict = run("classic-codabar", "");
     EXPECT_EQ(strict["status"], nullptr);
-    EXPECT_EQ(strict["message"], "a warning, and --strict is on");
+    EXPECT_EQ(strict["message"], "there is a warning, and warnings are refused");
     EXPECT_EQ(strict["warnings"], json{"the data is empty"});
     EXPECT_FALSE(strict.contains("hex"));
 }
@@ -371,7 +428,8 @@ TEST(Encode, WarnsAndIsStrictWhenAsked) {
     const auto strict = command.Run(words);
     EXPECT_EQ(strict.status, 1);
     EXPECT_EQ(strict.out, "");
-    EXPECT_EQ(strict.err, lenient.err + "linewright: refused: there is a warning, and warnings are refused\n");
+    EXPECT_EQ(strict.err,
+              lenient.err + "linewright: refused: there is a warning, and warnings are refused\n");
 }
 
 TEST(Encode, ListsWarningsInJson) {

@@ -4,10 +4,10 @@
 #include <sstream>
 
 #include "cli/Failure.h"
-#include "cli/Hex.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
 #include "tests/cli/CommandRunner.h"
+#include "text/Hex.h"
 
 namespace linewright {
 

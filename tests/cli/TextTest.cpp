@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "cli/Hex.h"
-#include "cli/PlugInConversion.h"
+#include "meaning/PlugInConversion.h"
+#include "text/Hex.h"
 
 namespace linewright {
 

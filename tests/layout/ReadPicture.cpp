@@ -3,9 +3,11 @@
 #include <iterator>
 
 #include "scanners/Verification.h"
+#include "text/FontText.h"
+#include "types/BarcodeTypes.h"
 
 // Reads a picture (binary PGM, 8 bits) of one barcode with both scanners.
-// Usage: read_picture TYPE-NAME DATA PICTURE.pgm
+// Usage: read_picture TYPE-NAME DATA FONT-STRING PICTURE.pgm
 // Prints what each scanner reads; exit status 0 when both read what the data means.
 
 namespace {
@@ -29,12 +31,18 @@ GreyRaster ReadPgm(const char* name) {
 }  // namespace
 
 int main(int count, char** values) {
-    if (count != 4) {
-        std::cerr << "usage: read_picture TYPE-NAME DATA PICTURE.pgm\n";
+    if (count != 5) {
+        std::cerr << "usage: read_picture TYPE-NAME DATA FONT-STRING PICTURE.pgm\n";
         return 2;
     }
-    const Meaning meaning = MeaningOf({.typeName = values[1], .data = values[2], .settings = {}});
-    const GreyRaster picture = ReadPgm(values[3]);
+    const BarcodeType* const type = FindTypeByPrefix(values[1]);
+    if (type == nullptr) {
+        std::cerr << "read_picture: no such type: " << values[1] << '\n';
+        return 2;
+    }
+    const std::string fontString = FontStringFromText(values[3]).value_or("");
+    const Meaning meaning = MeaningOf({.type = *type, .data = values[2], .fontString = fontString});
+    const GreyRaster picture = ReadPgm(values[4]);
     bool isMeant = true;
     for (const Reading& reading :
          {ReadWithZxing(picture, meaning.task), ReadWithZbar(picture, meaning.task)}) {

@@ -70,24 +70,26 @@ def export(folder):
         '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig>'
         f"<dir>{BUILD}/share/linewright/fonts</dir><dir>/usr/share/fonts</dir>"
         f"<cachedir>{folder}/cache</cachedir></fontconfig>")
-    rows = [{"text": font_text(folder, short_name, data), "family": family, "size": size}
-            for short_name, _, data, family, size, _ in SAMPLES]
+    texts = [font_text(folder, short_name, data) for short_name, _, data, _, _, _ in SAMPLES]
+    rows = [{"text": text, "family": family, "size": size}
+            for text, (_, _, _, family, size, _) in zip(texts, SAMPLES)]
     (folder / "rows.json").write_text(json.dumps(rows))
     run("scribus", "-g", "-ns", "-py", HERE / "set_fonts.py", folder / "rows.json",
         folder / "out.pdf", stderr=subprocess.DEVNULL,
         env={**os.environ, "QT_QPA_PLATFORM": "offscreen", "FONTCONFIG_FILE": str(fonts),
              "HOME": str(folder)})
     run("pdftoppm", "-gray", "-r", RESOLUTION, folder / "out.pdf", folder / "page")
+    return texts
 
 
-def problem_with(sample, picture):
+def problem_with(sample, text, picture):
     short_name, type_name, data, _, _, bars = sample
     if bars is not None:
         found = bars_in(picture)
         print(f"{short_name}: {found} bars")
         return found != bars
-    reader = subprocess.run([BUILD / "bin/read_picture", type_name, data, picture], text=True,
-                            stdout=subprocess.PIPE, timeout=60)
+    reader = subprocess.run([BUILD / "bin/read_picture", type_name, data, text, picture],
+                            text=True, stdout=subprocess.PIPE, timeout=60)
     print(f"{short_name}: {'; '.join(reader.stdout.splitlines())}")
     return reader.returncode != 0
 
@@ -95,11 +97,12 @@ def problem_with(sample, picture):
 def main():
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
-        export(folder)
+        texts = export(folder)
         pages = sorted(folder.glob("page-*.pgm"))
         if len(pages) != len(SAMPLES):
             sys.exit(f"layout_test: {len(pages)} pages came out, not {len(SAMPLES)}")
-        wrong = [sample[0] for sample, page in zip(SAMPLES, pages) if problem_with(sample, page)]
+        wrong = [sample[0] for sample, text, page in zip(SAMPLES, texts, pages)
+                 if problem_with(sample, text, page)]
     if wrong:
         sys.exit(f"layout_test: not as it should be: {', '.join(wrong)}")
     print(f"layout_test: {len(SAMPLES)} strings, all read")

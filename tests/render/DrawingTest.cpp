@@ -4,6 +4,7 @@
 #include "render/Export.h"
 #include "tests/TestHost.h"
 #include "tests/render/Drawn.h"
+#include "words/Words.h"
 
 namespace linewright {
 
@@ -39,10 +40,10 @@ bool IsPureBlackAndWhite(const GreyRaster& picture) {
 std::string ProblemWith(std::string_view type, const std::string& fontString,
                         const DrawingOptions& options,
                         const std::filesystem::path& fonts = LINEWRIGHT_FONTS) {
-    std::string problem;
+    DrawingProblem problem;
     EXPECT_FALSE(
         BarcodeDrawing::Make(fonts, *FindTypeByPrefix(type), fontString, options, problem));
-    return problem;
+    return Sentence(DrawingFailure(problem), Language::kEnglish);
 }
 
 TEST(DrawingTest, BarsHaveWholePixelsAndNoGrey) {

@@ -7,6 +7,7 @@
 #include "core/EncodeBarcodeData.h"
 #include "render/BarcodeDrawing.h"
 #include "tests/TestBlock.h"
+#include "types/BarcodeTypes.h"
 
 namespace linewright {
 
@@ -25,10 +26,10 @@ inline std::string Encoded(std::string_view typeName, const std::string& data, b
 /** A drawing with the built fonts; a failed test when there is none. */
 inline BarcodeDrawing Drawn(std::string_view typeName, const std::string& fontString,
                             const DrawingOptions& options = {}) {
-    std::string problem;
+    DrawingProblem problem;
     auto drawing = BarcodeDrawing::Make(LINEWRIGHT_FONTS, *FindTypeByPrefix(typeName), fontString,
                                         options, problem);
-    EXPECT_TRUE(drawing) << problem;
+    EXPECT_TRUE(drawing) << testing::PrintToString(problem.parameters);
     return std::move(drawing).value();
 }
 

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "render/Export.h"
+#include "tests/RandomData.h"
 #include "tests/TestHost.h"
 #include "tests/ZintSymbol.h"
 #include "tests/render/Drawn.h"
-#include "tests/render/RandomData.h"
 
 // The symbologies that no scanner here knows: bars are measured in the picture and compared with
 // another encoder's symbol and with the dimensions of the standards.

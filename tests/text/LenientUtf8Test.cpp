@@ -4,8 +4,8 @@
 
 #include <random>
 
-#include "cli/PlugInConversion.h"
 #include "core/ConvertUtf8Data.h"
+#include "meaning/PlugInConversion.h"
 #include "tests/TestBlock.h"
 #include "tests/TestHost.h"
 #include "text/Utf8.h"

@@ -10,7 +10,7 @@ import tempfile
 from pathlib import Path
 
 # Which files have a word to say on each type.
-FILES = ["plugin/Encoders.cpp"]
+FILES = ["meaning/TypeRules.cpp", "plugin/Encoders.cpp"]
 NAME = "kTelepen"
 
 

@@ -179,6 +179,26 @@ TEST_F(PageTest, FollowsThePreferences) {
     EXPECT_EQ(Copied().size(), before.size() - 1);
 }
 
+// An alert would stop this here: once started, nothing of the page reads the preferences' file.
+TEST_F(PageTest, GoesOnWhenThePreferencesFileIsSpoiltElsewhere) {
+    Start();
+    Enter("Code 39 (Classic)", "ABC");
+    const QString before = Copied();
+    QFile file(folder.filePath("Corvane/Config/QVT Linewright.prf"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    ASSERT_EQ(file.write("nonsense"), 8);
+    file.close();
+    Enter("Code 39 (Classic)", "ABC");
+    EXPECT_EQ(Copied(), before);
+    EXPECT_EQ(Named<QLabel>("badge").text(), "Scans");
+}
+
+TEST_F(PageTest, WarnsInTheLanguageOfTheWindow) {
+    Start("deDE");
+    Enter("EAN-13", "4006381333932");
+    EXPECT_EQ(Message(), "die Prüfziffer 2 wurde durch die berechnete ersetzt, 1");
+}
+
 TEST_F(PageTest, FindsTypeAndDataAgainAfterARestart) {
     Start();
     Enter("Code 128", "again");

@@ -1,4 +1,4 @@
-#include "cli/Hex.h"
+#include "text/Hex.h"
 
 namespace linewright {
 

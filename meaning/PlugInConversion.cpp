@@ -1,4 +1,4 @@
-#include "cli/PlugInConversion.h"
+#include "meaning/PlugInConversion.h"
 
 #include "text/LenientUtf8.h"
 

@@ -1,4 +1,4 @@
-#include "requests/Outcome.h"
+#include "requests/BarcodeOutcome.h"
 
 #include <utility>
 
@@ -35,9 +35,9 @@ std::string_view SentName(const BarcodeWish& wish, const BarcodeType& type) {
 
 }  // namespace
 
-Outcome MakeBarcode(Service& service, const BarcodeWish& wish) {
+BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish) {
     const WrittenType written = FindWrittenType(wish.type);
-    Outcome outcome{.typeName = wish.type, .type = written.type};
+    BarcodeOutcome outcome{.typeName = wish.type, .type = written.type};
     if (written.type) outcome.typeName = SentName(wish, *written.type);
     if (!written.type || outcome.typeName.size() > kMaxPStringLength) {
         outcome.refusal = UnknownType(wish.type);
@@ -60,12 +60,20 @@ Outcome MakeBarcode(Service& service, const BarcodeWish& wish) {
                                  .isCheckWanted = wish.checkCharacter != 0,
                                  .expectation = written.expectation,
                                  .fontString = answer.bytes});
-    if (wish.isStrict && !outcome.Warnings().empty()) {
-        outcome.status.reset();
-        outcome.refusal = Refusal{RefusalReason::kStrict};
-        return outcome;
-    }
     outcome.bytes = std::move(answer.bytes);
+    return outcome;
+}
+
+void RefuseForWarnings(BarcodeOutcome& outcome) {
+    outcome.status.reset();
+    outcome.bytes.clear();
+    outcome.refusal = Refusal{RefusalReason::kStrict};
+}
+
+BarcodeOutcome MakeBarcode(Service& service, const BarcodeWish& wish) {
+    BarcodeOutcome outcome = MakeBarcodeLeniently(service, wish);
+    const bool isWarnedOf = outcome.IsMade() && !outcome.Warnings().empty();
+    if (wish.isStrict && isWarnedOf) RefuseForWarnings(outcome);
     return outcome;
 }
 

@@ -39,7 +39,7 @@ struct Refusal {
 };
 
 /** What became of a wish. Texts are UTF-8. */
-struct Outcome {
+struct BarcodeOutcome {
     /** The type name that was sent, or what was written where it names no type. */
     std::string typeName;
     /** nullptr for an unknown type. */
@@ -58,7 +58,13 @@ struct Outcome {
     const std::vector<Warning>& Warnings() const { return meaning.warnings; }
 };
 
-/** Has the plug-in make a barcode. Throws RequestFailure. */
-Outcome MakeBarcode(Service& service, const BarcodeWish& wish);
+/** Has the plug-in make a barcode, and refuses one with warnings where the wish is strict. Throws
+ *  RequestFailure. */
+BarcodeOutcome MakeBarcode(Service& service, const BarcodeWish& wish);
+
+/** The same before it is decided whether warnings are a refusal, for who has more of them. */
+BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish);
+/** Makes a refusal of a barcode that was made, for its warnings. */
+void RefuseForWarnings(BarcodeOutcome& outcome);
 
 }  // namespace linewright
