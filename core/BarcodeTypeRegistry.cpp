@@ -17,7 +17,7 @@ namespace {
 // lengths of their names, each in the first free place from the one that they give.
 
 struct NamedType {
-    Word key = 0;
+    Word key = 0;  // 0 in a free place
     const BarcodeType* type = nullptr;
 };
 
@@ -40,19 +40,21 @@ constexpr NameIndex kNameIndex = [] {
         const std::size_t length = type.name.size();
         const Word key = KeyOf(MakeWord(type.name.substr(length - kWordSize)), length);
         std::size_t place = PlaceOf(key);
-        while (index[place].type) place = (place + 1) % index.size();
+        while (index[place].key != 0) place = (place + 1) % index.size();
         index[place] = {key, &type};
     }
     return index;
 }();
-// No name begins with another one, so a name is found here exactly if it is found by its beginning.
-static_assert(std::all_of(kBarcodeTypes.begin(), kBarcodeTypes.end(),
-                          [](const auto& type) { return FindTypeByPrefix(type.name) == &type; }));
+// No name begins with that of a type in front of it, so a whole name finds here what its beginning
+// finds.
+static_assert(std::all_of(kBarcodeTypes.begin(), kBarcodeTypes.end(), [](const BarcodeType& type) {
+    return FindTypeByPrefix(type.name)->code == type.code;
+}));
 
 const BarcodeType* FindTypeByName(std::string_view name) {
     if (name.size() < kWordSize) return nullptr;
     const Word key = KeyOf(LoadWord(name.data() + name.size() - kWordSize), name.size());
-    for (std::size_t place = PlaceOf(key); kNameIndex[place].type;
+    for (std::size_t place = PlaceOf(key); kNameIndex[place].key != 0;
          place = (place + 1) % kNameIndex.size())
         if (kNameIndex[place].key == key && kNameIndex[place].type->name == name)
             return kNameIndex[place].type;
