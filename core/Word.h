@@ -36,8 +36,7 @@ Unsigned Load(const char* bytes) {
     return number;
 }
 
-/** The first three to eight bytes, zeros behind them: two loads that
- *  may overlap. */
+/** The first three to eight bytes, zeros behind them: two loads that may overlap. */
 template <std::size_t Count = kWordSize>
 Word LoadWord(const char* bytes) {
     static_assert(Count >= 3 && Count <= kWordSize);
