@@ -8,7 +8,6 @@
 #include "core/Status.h"
 #include "retail/RetailSymbol.h"
 #include "standards/CheckDigits.h"
-#include "standards/EanUpcParity.h"
 #include "standards/UpcEZeroSuppression.h"
 
 namespace linewright {
@@ -24,15 +23,12 @@ struct Symbology {
     void (*append)(std::string_view number, std::string_view addOn, TextArea& out);
 };
 
-void AppendEan(std::string_view number, std::string_view addOn, TextArea& out) {
-    AppendEan13(kAlphabet, number, addOn, out);
-}
 void AppendUpc(std::string_view number, std::string_view addOn, TextArea& out) {
-    AppendUpcA(kAlphabet, number, addOn, kAlphabet.guard, out);
+    AppendUpcA<kAlphabet>(number, addOn, kAlphabet.guard, out);
 }
 
-constexpr Symbology kEan13{12, "***Bad EAN-13***", AppendEan};
-constexpr Symbology kJan13{12, "***Bad JAN-13***", AppendEan};
+constexpr Symbology kEan13{12, "***Bad EAN-13***", AppendEan13<kAlphabet>};
+constexpr Symbology kJan13{12, "***Bad JAN-13***", AppendEan13<kAlphabet>};
 constexpr Symbology kUpcA{11, "***Bad UPC-A***", AppendUpc};
 
 bool HasLengthFor(const Symbology& symbology, std::size_t length) {
@@ -88,13 +84,11 @@ void AppendSymbol(std::string_view data, TextArea& out) {
     const TenDigits digits = ExpandUpcEData(data.substr(1));
     const char check = Modulo10CheckDigit({digits.data(), digits.size()});
     const auto printed = PrintedUpcEDigits(digits);
-    const auto numberSets = UpcENumberSets(data[0], check);
-    AppendUpcE(kAlphabet,
-               {.numberSystem = data[0],
-                .six = {printed.data(), printed.size()},
-                .numberSets = {numberSets.data(), numberSets.size()},
-                .checkDigit = check},
-               {}, out);
+    AppendUpcE<kAlphabet>({.numberSystem = data[0],
+                           .six = {printed.data(), printed.size()},
+                           .parityOf = data[0],
+                           .checkDigit = check},
+                          {}, out);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "core/CharClasses.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace linewright {
 
@@ -10,18 +9,10 @@ int32 IsInList(int32 value, const int32* list, int32 count) {
     return std::find(list, list + count, value) != list + count;
 }
 
-int32 IsInRange(int32 value, int32 min, int32 max) {
-    return (min == 0 || value >= min) && (max == 0 || value <= max);
-}
-
 int32 CheckCharClasses(const uint8* bytes, int32 length, int32 classes, const char* extra) {
     if (length < 1) return 1;
-    return std::all_of(bytes, bytes + length, [=](uint8 byte) {
-        return ((classes & kDigits) && byte >= '0' && byte <= '9') ||
-               ((classes & kUpperCase) && byte >= 'A' && byte <= 'Z') ||
-               ((classes & kPrintable) && byte >= 0x20 && byte <= 0x7E) ||
-               ((classes & kAscii) && byte < 128) || (extra && std::strchr(extra, byte));
-    });
+    return std::all_of(bytes, bytes + length,
+                       [=](uint8 byte) { return IsOfClass(byte, classes, extra); });
 }
 
 }  // namespace linewright

@@ -15,7 +15,8 @@ bool Rebuild(DataBlock data, uint32 fillCount, uint8 fill, std::string_view text
              uint32 blockSize) {
     uint8* const block = AllocBlock(blockSize);
     if (!block) return false;
-    std::copy(text.begin(), text.end(), std::fill_n(block, fillCount, fill));
+    std::fill_n(block, fillCount, fill);
+    text.copy(reinterpret_cast<char*>(block) + fillCount, text.size());
     FreeBlock(data.bytes);
     data.bytes = block;
     data.length = fillCount + static_cast<uint32>(text.size());
@@ -57,13 +58,12 @@ bool DropExtraLastChar(DataBlock data, uint32 n) {
     return true;
 }
 
-bool TrimSpaces(DataBlock data) {
+bool DropSpaces(DataBlock data) {
     const std::string_view text = data.View();
     const auto start = text.find_first_not_of(' ');
     if (start == std::string_view::npos) return true;
     const auto end = text.find_last_not_of(' ');
-    const std::string_view trimmed = text.substr(start, end - start + 1);
-    return trimmed.size() == text.size() || ReplaceData(data, trimmed);
+    return ReplaceData(data, text.substr(start, end - start + 1));
 }
 
 }  // namespace linewright

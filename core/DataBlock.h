@@ -25,8 +25,14 @@ bool ReplaceData(DataBlock data, std::string_view text, uint32 blockSize);
 /** ReplaceData as the last step of an encoder: its status, or kInternalError without memory. */
 int16 FinishWith(DataBlock data, std::string_view text, int16 status);
 
-/** Removes leading and trailing spaces. Data made only of spaces stays as it is. */
-bool TrimSpaces(DataBlock data);
+/** Removes leading and trailing spaces, of which there are some. Data made only of spaces stays as
+ * it is. */
+bool DropSpaces(DataBlock data);
+/** The same, whether or not there are any. */
+inline bool TrimSpaces(DataBlock data) {
+    const std::string_view text = data.View();
+    return (!text.starts_with(' ') && !text.ends_with(' ')) || DropSpaces(data);
+}
 
 // Service: no caller of our own.
 

@@ -4,6 +4,7 @@
 #include "core/ConvertUtf8Data.h"
 #include "core/EncoderTable.h"
 #include "core/ErrorAlert.h"
+#include "core/HostMemory.h"
 #include "core/PreferencesRecord.h"
 #include "core/Status.h"
 
@@ -15,6 +16,13 @@ int16 EncodeByCode(int32 code, const EncoderArguments& arguments) {
     if (code >= static_cast<int32>(encoders->size())) return kEncoded;
     const Encoder encoder = (*encoders)[static_cast<std::size_t>(code)];
     return encoder ? static_cast<int16>(encoder(arguments)) : EncodeNotSupported(arguments.data);
+}
+
+int16 Encode(int32 code, bool convert, const EncoderArguments& arguments) {
+    const MemoryScope memory;
+    const bool isPrepared =
+        (!convert || ConvertUtf8Data(arguments.data)) && TrimSpaces(arguments.data);
+    return isPrepared ? EncodeByCode(code, arguments) : kInternalError;
 }
 
 }  // namespace
@@ -37,11 +45,8 @@ int16 EncodeBarcodeData(uint8** data, const PString& typeName, uint32* length, u
     }
     if (recognised) *recognised = 1;
 
-    const bool convert = (options & 0xFF) != 0;
-    const bool prepared = (!convert || ConvertUtf8Data(block)) && TrimSpaces(block);
     const int16 status =
-        prepared ? EncodeByCode(code, {block, checkCharacter, ratio, hint, humanReadable})
-                 : kInternalError;
+        Encode(code, (options & 0xFF) != 0, {block, checkCharacter, ratio, hint, humanReadable});
 
     if (showAlerts && preferences.showErrorAlerts && status != kEncoded)
         ReportFailure(status, static_cast<uint16>(code), block, hint);

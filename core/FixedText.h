@@ -1,8 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <cassert>
 #include <cstddef>
+#include <cstring>
 #include <string_view>
+
+#include "core/Word.h"
 
 namespace linewright {
 
@@ -18,7 +22,10 @@ class TextArea {
         if (size < capacity) area[size++] = character;
     }
     void Append(std::string_view text) {
-        for (const char character : text) Append(character);
+        assert(text.size() <= capacity - size);
+        const std::size_t count = std::min(text.size(), capacity - size);
+        if (count > 0) std::memcpy(area + size, text.data(), count);
+        size += count;
     }
     void Append(std::size_t count, char character) {
         for (std::size_t i = 0; i < count; ++i) Append(character);
@@ -32,9 +39,38 @@ class TextArea {
     ~TextArea() = default;
 
   private:
-    char* area;
+    friend class LetterWriter;
+
+    char* area;  // a word longer than the capacity
     std::size_t capacity;
     std::size_t size = 0;
+};
+
+/** Writes at the end of a text, which has what was written once the writer is gone; until then
+ *  nobody else appends. Several letters that are known as a word cost no more than one. */
+class LetterWriter {
+  public:
+    explicit LetterWriter(TextArea& writtenText)
+        : text(writtenText), next(text.area + text.size), end(text.area + text.capacity) {}
+    LetterWriter(const LetterWriter&) = delete;
+    LetterWriter& operator=(const LetterWriter&) = delete;
+    ~LetterWriter() { text.size = static_cast<std::size_t>(next - text.area); }
+
+    /** The first `count` bytes of a word. */
+    void Append(Word letters, std::size_t count) {
+        assert(count <= Room());
+        if (count > Room()) return;
+        std::memcpy(next, &letters, kWordSize);
+        next += count;
+    }
+    void Append(char letter) { Append(static_cast<unsigned char>(letter), 1); }
+
+  private:
+    std::size_t Room() const { return static_cast<std::size_t>(end - next); }
+
+    TextArea& text;
+    char* next;
+    char* end;
 };
 
 /** A TextArea with its storage, for the stack. */
@@ -44,7 +80,7 @@ class FixedText final : public TextArea {
     FixedText() : TextArea(storage, Capacity) {}
 
   private:
-    char storage[Capacity];
+    char storage[Capacity + kWordSize];
 };
 
 }  // namespace linewright

@@ -25,10 +25,13 @@ constexpr std::string_view FirstCharacters(const char* text, std::size_t most = 
     return std::string_view(text).substr(0, most);
 }
 
-/** Appends the decimal digits of a text. */
-inline void AppendDigits(std::string_view text, TextArea& digits) {
+/** The first decimal digits of a text, `most` of them: a part of the text that is nothing else, or
+ *  put together in `spare`. */
+inline std::string_view OnlyDigits(std::string_view text, std::size_t most, TextArea& spare) {
+    if (AreDigits(text)) return text.substr(0, most);
     for (const char character : text)
-        if (IsDigit(character)) digits.Append(character);
+        if (IsDigit(character) && spare.View().size() < most) spare.Append(character);
+    return spare.View();
 }
 
 }  // namespace linewright

@@ -8,9 +8,11 @@ namespace linewright {
 
 namespace {
 
+constexpr char kOtherCharacters[] = "-$:/.+";
+
 constexpr FrontRule kFront{
     .length = Between(4, 255),
-    .characters = {kDigits, "-$:/.+", hints::kDigitsPlus},
+    .characters = {AreOfClass<kDigits, kOtherCharacters>, hints::kDigitsPlus},
     .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildCodabarCurrent(text, arguments.ratio, "A", "B", symbol);
     }};
@@ -21,21 +23,27 @@ constexpr char StartStop(const char* text) {
     return given.size() == 1 && given[0] >= 'A' && given[0] <= 'D' ? given[0] : 'A';
 }
 
-constexpr char ToCapital(char character) {
-    return character >= 'a' && character <= 'd' ? static_cast<char>(character - 'a' + 'A')
-                                                : character;
-}
+constexpr std::size_t kLettersPerCharacter = 4;
+
+/** "a" to "d" count as capitals. */
+constexpr LettersByRatio kCharacters([](PairGlyphs glyphs) {
+    Characters characters{};
+    for (std::size_t value = 0; value < kCodabarCharacters.size(); ++value) {
+        const auto byte = static_cast<uint8>(kCodabarCharacters[value]);
+        characters[byte] = {glyphs.Of(kCodabarPatterns[value]), kLettersPerCharacter, value};
+        if (byte >= 'A') characters[byte - 'A' + 'a'] = characters[byte];
+    }
+    return characters;
+});
 
 }  // namespace
 
 int16 BuildCodabarCurrent(const char* data, double ratio, const char* start, const char* stop,
-                          TextArea& symbol) {
+                          TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
-    const PairGlyphs glyphs(ratio);
-    const auto append = [&](char character) {
-        if (const auto value = CodabarValue(ToCapital(character)))
-            glyphs.Append(kCodabarPatterns[*value], symbol);
-    };
+    const Characters& characters = kCharacters.For(ratio);
+    LetterWriter symbol(symbolText);
+    const auto append = [&](char c) { characters[static_cast<uint8>(c)].AppendTo(symbol); };
 
     append(StartStop(start));
     for (const char character : FirstCharacters(data)) append(character);

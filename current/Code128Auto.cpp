@@ -1,5 +1,8 @@
 #include "current/Code128Auto.h"
 
+#include <array>
+#include <bit>
+
 #include "current/Code128PreParse.h"
 #include "current/FontLetters.h"
 #include "current/Front.h"
@@ -23,10 +26,29 @@ constexpr std::size_t kFnc1 = 102;
 
 constexpr uint8 kDelete = 127;
 
-void AppendLetters(std::size_t value, TextArea& symbol) {
-    const std::string_view widths = kCode128Widths[value];
-    for (std::size_t bar = 0; bar < widths.size(); bar += 2)
-        symbol.Append(current::LetterOf(widths[bar], widths[bar + 1]));
+constexpr std::size_t kLettersPerCharacter = 3;
+
+/** The letters of each value. */
+constexpr auto kLetters = [] {
+    std::array<Word, kCode128Widths.size()> letters{};
+    for (std::size_t value = 0; value < letters.size(); ++value) {
+        const std::string_view widths = kCode128Widths[value];
+        const char text[kLettersPerCharacter]{current::LetterOf(widths[0], widths[1]),
+                                              current::LetterOf(widths[2], widths[3]),
+                                              current::LetterOf(widths[4], widths[5])};
+        letters[value] = MakeWord({text, kLettersPerCharacter});
+    }
+    return letters;
+}();
+constexpr Word kStopLetters = MakeWord(current::kStopLetters);
+
+/** Which places hold digits, a bit each from the lowest on, of a text that has no more places than
+ *  there are bits. */
+std::uint64_t DigitPlaces(std::string_view text) {
+    std::uint64_t digits = 0;
+    for (std::size_t place = 0; place < text.size(); place += kWordSize)
+        digits |= DigitMask(LoadWord(text.substr(place))) << place;
+    return digits;
 }
 
 constexpr bool IsSetBMarker(uint8 byte) {
@@ -43,32 +65,37 @@ constexpr std::size_t ValueInSetA(uint8 byte) {
 class SymbolWriter {
   public:
     SymbolWriter(std::string_view symbolData, TextArea& symbolText)
-        : data(symbolData), symbol(symbolText) {}
+        : data(symbolData),
+          symbol(symbolText),
+          digitPlaces(data.size() <= kBits ? DigitPlaces(data) : 0) {}
 
     int16 Write() {
         WriteStart();
         while (position < data.size()) WriteNext();
-        AppendLetters(sum % kCode128Modulus, symbol);
-        symbol.Append(current::kStopLetters);
+        AppendLetters(sum % kCode128Modulus);
+        symbol.Append(kStopLetters, current::kStopLetters.size());
         return isComplete ? kEncoded : kInternalError;
     }
 
   private:
     enum class Set { kNone, kA, kB, kC };
+    static constexpr std::size_t kBits = 64;
 
     uint8 ByteAt(std::size_t place) const {
         return place < data.size() ? static_cast<uint8>(data[place]) : 0;
     }
-    /** How many digits there are from here on, at most so many. */
-    std::size_t CountDigits(std::size_t most = std::string_view::npos) const {
+    /** How many digits there are from here on. */
+    std::size_t CountDigits() const {
+        if (data.size() <= kBits)
+            return static_cast<std::size_t>(std::countr_one(digitPlaces >> position));
         std::size_t count = 0;
-        while (count < most && IsDigit(static_cast<char>(ByteAt(position + count)))) ++count;
+        while (IsDigit(static_cast<char>(ByteAt(position + count)))) ++count;
         return count;
     }
 
     void WriteStart() {
         const uint8 first = ByteAt(0);
-        if (CountDigits(4) == 4 || first == kFnc1Byte || first >= 212) {
+        if (CountDigits() >= 4 || first == kFnc1Byte || first >= 212) {
             Start(Set::kC, kCode128StartC);
         } else if (first < ' ') {
             Start(Set::kA, kCode128StartA);
@@ -79,33 +106,36 @@ class SymbolWriter {
     void Start(Set startSet, std::size_t value) {
         set = startSet;
         sum = value;
-        AppendLetters(value, symbol);
+        AppendLetters(value);
     }
 
     void WriteNext() {
+        const std::size_t digits = CountDigits();
         const uint8 byte = ByteAt(position);
-        if (IsSetBMarker(byte)) {
+        if (digits >= 4 || (set == Set::kC && digits >= 2)) {
+            WritePairs(digits);
+        } else if (IsSetBMarker(byte)) {
             if (set == Set::kC) Switch(Set::kB, kCodeB);
             Put(byte - 100u);
             ++position;
         } else if (IsMarkerByte(byte)) {
             Put(kFnc1);
             ++position;
-        } else if (CountDigits(4) == 4 || (set == Set::kC && CountDigits(2) == 2)) {
-            WritePair();
         } else {
             WriteCharacter(byte);
             ++position;
         }
     }
 
-    void WritePair() {
+    /** Writes a run of digits but for one that is left over, which comes first or, in set C, last.
+     */
+    void WritePairs(std::size_t digits) {
         if (set != Set::kC) {
-            if (CountDigits() % 2 == 1) Put(ByteAt(position++) - 32u);
+            if (digits % 2 == 1) Put(ByteAt(position++) - 32u);
             Switch(Set::kC, kCodeC);
         }
-        Put(10u * (ByteAt(position) - '0') + (ByteAt(position + 1) - '0'));
-        position += 2;
+        for (const std::size_t end = position + digits / 2 * 2; position < end; position += 2)
+            Put(10u * (ByteAt(position) - '0') + (ByteAt(position + 1) - '0'));
     }
 
     void WriteCharacter(uint8 byte) {
@@ -130,11 +160,14 @@ class SymbolWriter {
             return;
         }
         sum += value * ++weight;
-        AppendLetters(value, symbol);
+        AppendLetters(value);
     }
 
+    void AppendLetters(std::size_t value) { symbol.Append(kLetters[value], kLettersPerCharacter); }
+
     std::string_view data;
-    TextArea& symbol;
+    LetterWriter symbol;
+    std::uint64_t digitPlaces;
     std::size_t position = 0;
     Set set = Set::kNone;
     std::size_t sum = 0;

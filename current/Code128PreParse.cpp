@@ -85,7 +85,8 @@ std::size_t AppendNext(std::string_view rest, TextArea& parsed) {
 
 bool HasEscapes(std::string_view data) {
     if (data.starts_with('(')) return true;
-    for (std::size_t place = 0; place < data.size(); ++place) {
+    for (std::size_t place = data.find('~'); place < data.size();
+         place = data.find('~', place + 1)) {
         const std::string_view rest = data.substr(place);
         if (CharacterEscape(rest) >= 0 || CheckDigitEscape(rest) >= 0) return true;
     }

@@ -18,10 +18,10 @@ constexpr FrontRule kFront{.length = AtMostOrCheckDigit(kMainLength),
 
 int16 BuildEan13(const char* data, TextArea& symbol) {
     if (!data || !*data) return kNoDigits;
-    EanUpcDigits digits;
-    CollectDigits(data, digits);
-    const EanUpcNumber number = SplitNumberOrZeros(digits.View(), kMainLength);
-    AppendEan13(kCurrentRetailAlphabet, number.main, number.addOn, symbol);
+    EanUpcDigits spare;
+    const std::string_view digits = OnlyDigits(data, kMaxEanUpcDigits, spare);
+    const EanUpcNumber number = SplitNumberOrZeros(digits, kMainLength);
+    AppendEan13<kCurrentRetailAlphabet>(number.main, number.addOn, symbol);
     return kEncoded;
 }
 

@@ -19,13 +19,12 @@ constexpr FrontRule kFront{.length = AtMostOrCheckDigit(kMainLength),
 
 int16 BuildEan8(const char* data, TextArea& symbol) {
     if (!data || !*data) return kNoDigits;
-    EanUpcDigits digits;
-    CollectDigits(data, digits);
-    const bool isComplete = digits.View().size() >= kMainLength;
-    const std::string_view number =
-        isComplete ? digits.View().substr(0, kMainLength) : kTooFewDigits;
+    EanUpcDigits spare;
+    const std::string_view digits = OnlyDigits(data, kMaxEanUpcDigits, spare);
+    const bool isComplete = digits.size() >= kMainLength;
+    const std::string_view number = isComplete ? digits.substr(0, kMainLength) : kTooFewDigits;
 
-    AppendEan8(kCurrentRetailAlphabet, number, symbol);
+    AppendEan8<kCurrentRetailAlphabet>(number, symbol);
     return kEncoded;
 }
 

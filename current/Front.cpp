@@ -35,11 +35,6 @@ void SetHint(PMString* hint, const CharacterRule& rule) {
     if (hint) hint->SetKey(rule.hintKey);
 }
 
-bool AreAllowed(const CharacterRule& rule, DataBlock data) {
-    return !rule.hintKey ||
-           CheckCharClasses(data.bytes, static_cast<int32>(data.length), rule.classes, rule.extra);
-}
-
 /** How many "0" belong in front of `length` characters. */
 std::size_t PaddingFor(const FrontRule& rule, std::size_t length, bool addsCheckCharacter) {
     if (rule.padToPairs) return (length + addsCheckCharacter) % 2;
@@ -69,7 +64,7 @@ int16 EncodeByRule(const FrontRule& rule, const EncoderArguments& arguments, Tex
         SetHint(arguments.hint, rule.length);
         return FinishWith(arguments.data, kLengthError, kBadLength);
     }
-    if (!AreAllowed(rule.characters, arguments.data)) {
+    if (!rule.characters.allows(arguments.data.View())) {
         SetHint(arguments.hint, rule.characters);
         return FinishWith(arguments.data, kDataError, kInvalidData);
     }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <initializer_list>
+#include <string_view>
 
 #include "BaseType.h"
 #include "core/CharClasses.h"
@@ -25,7 +26,11 @@ struct Numbers {
     constexpr Numbers(std::initializer_list<int32> list) : count(static_cast<int32>(list.size())) {
         std::copy(list.begin(), list.end(), values.begin());
     }
-    bool Contain(int32 number) const { return IsInList(number, values.data(), count); }
+    constexpr bool Contain(int32 number) const {
+        for (int32 i = 0; i < count; ++i)
+            if (values[static_cast<std::size_t>(i)] == number) return true;
+        return false;
+    }
 
     std::array<int32, 3> values{};
     int32 count = 0;
@@ -69,15 +74,28 @@ constexpr LengthRule OneOf(Numbers lengths, Numbers withCheckDigit) {
             .checkDigitAt = withCheckDigit};
 }
 
-/** Which characters are allowed, as for CheckCharClasses, and the key of the hint for others. */
+/** Which characters are allowed, and the key of the hint for others. */
 struct CharacterRule {
-    int32 classes;
-    const char* extra;
-    const char* hintKey;  // nullptr: every byte is allowed
+    bool (*allows)(std::string_view text);
+    const char* hintKey = nullptr;
 };
 
-constexpr CharacterRule kDigitsOnly{kDigits, nullptr, hints::kDigitsOnly};
-constexpr CharacterRule kEveryByte{0, nullptr, nullptr};
+/** Whether a text has characters of some classes and of `kExtra` alone, as for CheckCharClasses. */
+template <int32 kClasses, const char* kExtra>
+bool AreOfClass(std::string_view text) {
+    static constexpr auto kAllowed = [] {
+        std::array<bool, 256> allowed{};
+        for (std::size_t byte = 0; byte < allowed.size(); ++byte)
+            allowed[byte] = IsOfClass(static_cast<uint8>(byte), kClasses, kExtra);
+        return allowed;
+    }();
+    bool areAllowed = true;
+    for (const char byte : text) areAllowed &= kAllowed[static_cast<uint8>(byte)];
+    return areAllowed;
+}
+
+constexpr CharacterRule kDigitsOnly{AreDigits, hints::kDigitsOnly};
+constexpr CharacterRule kEveryByte{[](std::string_view) { return true; }};
 
 /** How a symbology's data is examined and normalised, and what makes the symbol of it. */
 struct FrontRule {

@@ -34,32 +34,56 @@ constexpr FrontRule kTextFront{.length = kBarsFront.length,
                                .padToPairs = kBarsFront.padToPairs,
                                .build = AppendText};
 
-std::string_view PatternOf(char digit) {
-    return kInterleaved2of5Patterns[static_cast<std::size_t>(digit - '0')];
-}
+constexpr std::size_t kLettersPerPair = 5;
 
-/** The first digit's elements are the bars, the second one's the spaces. */
-void AppendPair(char first, char second, const PairGlyphs& glyphs, TextArea& symbol) {
-    for (std::size_t element = 0; element < PatternOf(first).size(); ++element)
-        symbol.Append(glyphs.Of(PatternOf(first)[element], PatternOf(second)[element]));
-}
+struct Letters {
+    Word start;
+    /** By the value of a pair of digits. */
+    std::array<Word, 100> pairs;
+    Word stop;
+};
+
+constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
+    Letters letters{glyphs.Of(kStart), {}, glyphs.Of(kStop)};
+    for (std::size_t pair = 0; pair < letters.pairs.size(); ++pair) {
+        // The first digit's elements are the bars, the second one's the spaces.
+        const std::string_view bars = kInterleaved2of5Patterns[pair / 10];
+        const std::string_view spaces = kInterleaved2of5Patterns[pair % 10];
+        std::array<char, 2 * kLettersPerPair> pattern{};
+        for (std::size_t element = 0; element < kLettersPerPair; ++element) {
+            pattern[2 * element] = bars[element];
+            pattern[2 * element + 1] = spaces[element];
+        }
+        letters.pairs[pair] = glyphs.Of({pattern.data(), pattern.size()});
+    }
+    return letters;
+});
 
 }  // namespace
 
 int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckDigit,
-                                  TextArea& symbol) {
+                                  TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
-    FixedText<kMaxBuilderText + 2> padded;
-    padded.Append('0');
-    AppendDigits(FirstCharacters(data), padded);
-    if (addCheckDigit) padded.Append(Modulo10CheckDigit(padded.View()));
-    const std::string_view digits = padded.View().substr(padded.View().size() % 2);
+    FixedText<kMaxBuilderText> spare;
+    std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
+    FixedText<kMaxBuilderText + 1> completed;
+    if (addCheckDigit) {
+        completed.Append(digits);
+        completed.Append(Modulo10CheckDigit(digits));
+        digits = completed.View();
+    }
 
-    const PairGlyphs glyphs(ratio);
-    glyphs.Append(kStart, symbol);
-    for (std::size_t place = 0; place < digits.size(); place += 2)
-        AppendPair(digits[place], digits[place + 1], glyphs, symbol);
-    glyphs.Append(kStop, symbol);
+    const Letters& letters = kLetters.For(ratio);
+    LetterWriter symbol(symbolText);
+    const auto appendPair = [&](char first, char second) {
+        const auto value = static_cast<std::size_t>(10 * (first - '0') + (second - '0'));
+        symbol.Append(letters.pairs[value], kLettersPerPair);
+    };
+    symbol.Append(letters.start, kStart.size() / 2);
+    std::size_t place = digits.size() % 2;
+    if (place == 1) appendPair('0', digits[0]);
+    for (; place < digits.size(); place += 2) appendPair(digits[place], digits[place + 1]);
+    symbol.Append(letters.stop, (kStop.size() + 1) / 2);
     return kEncoded;
 }
 

@@ -18,12 +18,29 @@ constexpr FrontRule kFront{
 constexpr std::string_view kStart = "wn";
 constexpr std::string_view kStop = "nwnw";
 
-/** The four bits of a digit, the most significant first: a 1 is a wide bar and a narrow space, a 0
- *  the reverse. */
-void AppendDigit(char digit, const PairGlyphs& glyphs, TextArea& symbol) {
-    for (int bit = 3; bit >= 0; --bit)
-        glyphs.Append((digit - '0') >> bit & 1 ? "wn" : "nw", symbol);
-}
+constexpr std::size_t kLettersPerDigit = 4;
+
+struct Letters {
+    Word start;
+    std::array<Word, 10> digits;
+    Word stop;
+};
+
+constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
+    Letters letters{glyphs.Of(kStart), {}, glyphs.Of(kStop)};
+    for (std::size_t digit = 0; digit < letters.digits.size(); ++digit) {
+        // The four bits of the digit, the most significant first: a 1 is a wide bar and a narrow
+        // space, a 0 the reverse.
+        std::array<char, 2 * kLettersPerDigit> pattern{};
+        for (std::size_t bit = 0; bit < kLettersPerDigit; ++bit) {
+            const bool isOne = (digit >> (kLettersPerDigit - 1 - bit) & 1) != 0;
+            pattern[2 * bit] = isOne ? 'w' : 'n';
+            pattern[2 * bit + 1] = isOne ? 'n' : 'w';
+        }
+        letters.digits[digit] = glyphs.Of({pattern.data(), pattern.size()});
+    }
+    return letters;
+});
 
 }  // namespace
 
@@ -33,17 +50,21 @@ const char* MsiCheckDigit(const char* digits) {
     return checkDigit;
 }
 
-int16 BuildMsiCurrent(const char* data, double ratio, bool addCheckDigit, TextArea& symbol) {
+int16 BuildMsiCurrent(const char* data, double ratio, bool addCheckDigit, TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
-    FixedText<kMaxBuilderText + 1> digits;
-    AppendDigits(FirstCharacters(data), digits);
-    if (digits.View().empty()) return kEmptyData;
-    if (addCheckDigit) digits.Append(MsiModulo10CheckDigit(digits.View()));
+    FixedText<kMaxBuilderText> spare;
+    const std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
+    if (digits.empty()) return kEmptyData;
 
-    const PairGlyphs glyphs(ratio);
-    glyphs.Append(kStart, symbol);
-    for (const char digit : digits.View()) AppendDigit(digit, glyphs, symbol);
-    glyphs.Append(kStop, symbol);
+    const Letters& letters = kLetters.For(ratio);
+    LetterWriter symbol(symbolText);
+    const auto append = [&](char digit) {
+        symbol.Append(letters.digits[static_cast<std::size_t>(digit - '0')], kLettersPerDigit);
+    };
+    symbol.Append(letters.start, kStart.size() / 2);
+    for (const char digit : digits) append(digit);
+    if (addCheckDigit) append(MsiModulo10CheckDigit(digits));
+    symbol.Append(letters.stop, kStop.size() / 2);
     return kEncoded;
 }
 

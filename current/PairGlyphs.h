@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string_view>
+#include <type_traits>
 
 #include "core/FixedText.h"
 #include "current/FontLetters.h"
@@ -12,11 +14,8 @@ namespace linewright {
  *  wide-to-narrow ratio. */
 class PairGlyphs {
   public:
-    /** The letters for 3.0, 2.5 or 2.0; any other ratio counts as 2.0. */
-    constexpr explicit PairGlyphs(double ratio)
-        : letters(ratio == 3.0   ? current::kPairLetters30
-                  : ratio == 2.5 ? current::kPairLetters25
-                                 : current::kPairLetters20) {}
+    /** The letters in the order of current::kPairLetters20. */
+    constexpr explicit PairGlyphs(std::string_view letterSet) : letters(letterSet) {}
 
     /** The letter of a bar and a space, each "n" (narrow) or "w" (wide). */
     constexpr char Of(char bar, char space) const {
@@ -25,15 +24,55 @@ class PairGlyphs {
         return letters[wideBar + wideSpace];
     }
 
-    /** Appends a pattern of "n" and "w" (bar, space, bar, ...). A bar at its end is followed by a
-     *  narrow gap. */
-    void Append(std::string_view pattern, TextArea& symbol) const {
-        for (std::size_t bar = 0; bar < pattern.size(); bar += 2)
-            symbol.Append(Of(pattern[bar], bar + 1 < pattern.size() ? pattern[bar + 1] : 'n'));
+    /** The letters of a pattern of "n" and "w" (bar, space, bar, ...). A bar at its end is followed
+     *  by a narrow gap. */
+    constexpr Word Of(std::string_view pattern) const {
+        Word word = 0;
+        for (std::size_t bar = 0; bar < pattern.size(); bar += 2) {
+            const char space = bar + 1 < pattern.size() ? pattern[bar + 1] : 'n';
+            word |= Word{static_cast<unsigned char>(Of(pattern[bar], space))} << 4 * bar;
+        }
+        return word;
     }
 
   private:
     std::string_view letters;  // narrow-narrow, narrow-wide, wide-narrow, wide-wide
 };
+
+/** The letters of a symbology: what `make` makes of the glyphs for each ratio that the font has. */
+template <class Make>
+struct LettersByRatio {
+    using Letters = std::invoke_result_t<Make, PairGlyphs>;
+
+    constexpr explicit LettersByRatio(Make make)
+        : letters{make(PairGlyphs(current::kPairLetters20)),
+                  make(PairGlyphs(current::kPairLetters25)),
+                  make(PairGlyphs(current::kPairLetters30))} {}
+
+    /** The letters for 3.0, 2.5 or 2.0; any other ratio counts as 2.0. */
+    constexpr const Letters& For(double ratio) const {
+        return letters[ratio == 3.0 ? 2 : ratio == 2.5 ? 1 : 0];
+    }
+
+    std::array<Letters, 3> letters;
+};
+
+/** The letters of a character, in front of its value and of their number, so that a character that
+ * a symbology does not have is one without letters. */
+class CharacterLetters {
+  public:
+    constexpr CharacterLetters() = default;
+    constexpr CharacterLetters(Word letters, std::size_t count, std::size_t value)
+        : word(letters | Word{value} << 48 | Word{count} << 56) {}
+
+    constexpr std::size_t Value() const { return word >> 48 & 0xFF; }
+    void AppendTo(LetterWriter& symbol) const { symbol.Append(word, word >> 56); }
+
+  private:
+    Word word = 0;  // up to six letters, the value, the number of letters
+};
+
+/** The letters of each character, by its byte. */
+using Characters = std::array<CharacterLetters, 256>;
 
 }  // namespace linewright

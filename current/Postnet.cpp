@@ -1,5 +1,7 @@
 #include "current/Postnet.h"
 
+#include <array>
+
 #include "current/FontLetters.h"
 #include "current/Front.h"
 #include "standards/CheckDigits.h"
@@ -10,23 +12,34 @@ namespace {
 
 constexpr std::string_view kBadZipCode = "***Bad Zip Code***";
 
-void AppendDigit(char digit, TextArea& symbol) {
-    const unsigned bars = current::PostnetBarsOf(digit - '0');
-    symbol.Append(current::kBarPairs[bars >> 3]);
-    symbol.Append(current::kBarPairs[bars >> 1 & 3]);
-    symbol.Append(bars & 1 ? current::kTallBar : current::kShortBar);
-}
+constexpr std::size_t kLettersPerDigit = 3;
+
+constexpr std::array<Word, 10> kDigitLetters = [] {
+    std::array<Word, 10> letters{};
+    for (int digit = 0; digit < 10; ++digit) {
+        const unsigned bars = current::PostnetBarsOf(digit);
+        const char text[kLettersPerDigit]{current::kBarPairs[bars >> 3],
+                                          current::kBarPairs[bars >> 1 & 3],
+                                          bars & 1 ? current::kTallBar : current::kShortBar};
+        letters[static_cast<std::size_t>(digit)] = MakeWord({text, kLettersPerDigit});
+    }
+    return letters;
+}();
 
 }  // namespace
 
-int16 BuildPostnetCurrent(const char* data, bool addCheckDigit, TextArea& symbol) {
+int16 BuildPostnetCurrent(const char* data, bool addCheckDigit, TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
-    FixedText<kMaxBuilderText + 1> digits;
-    AppendDigits(FirstCharacters(data), digits);
-    if (addCheckDigit) digits.Append(PostnetCheckDigit(digits.View()));
+    FixedText<kMaxBuilderText> spare;
+    const std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
 
+    LetterWriter symbol(symbolText);
+    const auto append = [&](char digit) {
+        symbol.Append(kDigitLetters[static_cast<std::size_t>(digit - '0')], kLettersPerDigit);
+    };
     symbol.Append(current::kTallBar);
-    for (const char digit : digits.View()) AppendDigit(digit, symbol);
+    for (const char digit : digits) append(digit);
+    if (addCheckDigit) append(PostnetCheckDigit(digits));
     symbol.Append(current::kTallBar);
     return kEncoded;
 }

@@ -6,8 +6,6 @@ namespace linewright {
 
 namespace {
 
-constexpr const RetailAlphabet& kAlphabet = kCurrentRetailAlphabet;
-
 constexpr FrontRule kFront{.length = OneOf({11, 13, 16}, {12, 14, 17}),
                            .characters = kDigitsOnly,
                            .build = [](const char* text, const EncoderArguments&,
@@ -17,10 +15,11 @@ constexpr FrontRule kFront{.length = OneOf({11, 13, 16}, {12, 14, 17}),
 
 int16 BuildUpcA(const char* data, TextArea& symbol) {
     if (!data || !*data) return kNoDigits;
-    EanUpcDigits digits;
-    CollectDigits(data, digits);
-    const EanUpcNumber number = SplitNumberOrZeros(digits.View(), kUpcALength);
-    AppendUpcA(kAlphabet, number.main, number.addOn, kAlphabet.guard, symbol);
+    EanUpcDigits spare;
+    const std::string_view digits = OnlyDigits(data, kMaxEanUpcDigits, spare);
+    const EanUpcNumber number = SplitNumberOrZeros(digits, kUpcALength);
+    AppendUpcA<kCurrentRetailAlphabet>(number.main, number.addOn, kCurrentRetailAlphabet.guard,
+                                       symbol);
     return kEncoded;
 }
 

@@ -4,8 +4,6 @@
 
 #include "current/BuilderText.h"
 #include "current/Front.h"
-#include "standards/CheckDigits.h"
-#include "standards/EanUpcParity.h"
 #include "standards/UpcEZeroSuppression.h"
 
 namespace linewright {
@@ -21,44 +19,46 @@ constexpr FrontRule kFront{.length = OneOf({7, 11}, {8, 12}),
                            .build = [](const char* text, const EncoderArguments&,
                                        TextArea& symbol) { return BuildUpcE(text, symbol); }};
 
-/** Replaces a UPC-E number, with number system and check digit or without, by its UPC-A number. */
-void ExpandNumber(EanUpcDigits& digits) {
-    const bool hasNumberSystem = digits.View().size() > 6;
-    const char numberSystem = hasNumberSystem ? digits.View()[0] : '0';
-    const auto expanded = ExpandUpcE(digits.View().substr(hasNumberSystem ? 1 : 0, 6));
-    digits.Clear();
-    digits.Append(numberSystem);
-    digits.Append({expanded.data(), expanded.size()});
+/** What the six digits behind a number system stand for, as a number of UPC-A. */
+std::string_view ExpandNumber(std::string_view digits, EanUpcDigits& expanded) {
+    const bool hasNumberSystem = digits.size() > 6;
+    const auto ten = ExpandUpcE(digits.substr(hasNumberSystem ? 1 : 0, 6));
+    expanded.Clear();
+    expanded.Append(hasNumberSystem ? digits[0] : '0');
+    expanded.Append({ten.data(), ten.size()});
+    return expanded.View();
 }
 
 /** Any number system but 0 is printed as 1; the number sets of 1 are only those of 1 itself. */
-void AppendSuppressed(const EanUpcNumber& number, std::string_view six, TextArea& symbol) {
-    const char numberSystem = number.main[0];
-    const char checkDigit = Modulo10CheckDigit(number.main);
-    const auto numberSets = UpcENumberSets(numberSystem, checkDigit);
-    AppendUpcE(kAlphabet,
-               {.numberSystem = numberSystem == '0' ? '0' : '1',
-                .six = six,
-                .numberSets = {numberSets.data(), numberSets.size()},
-                .checkDigit = checkDigit},
-               number.addOn, symbol);
+void AppendSix(char numberSystem, std::string_view six, std::string_view addOn, TextArea& symbol) {
+    AppendUpcE<kAlphabet>({.numberSystem = numberSystem == '0' ? '0' : '1',
+                           .six = six,
+                           .parityOf = numberSystem,
+                           .checkDigit = UpcECheckDigit(numberSystem, six)},
+                          addOn, symbol);
 }
 
 }  // namespace
 
 int16 BuildUpcE(const char* data, TextArea& symbol) {
     if (!data || !*data) return kNoDigits;
-    EanUpcDigits digits;
-    CollectDigits(FirstCharacters(data, kMaxText), digits);
-    if (digits.View().size() >= 6 && digits.View().size() <= 8) ExpandNumber(digits);
-    if (digits.View().size() < kUpcALength) return kEncoded;
+    EanUpcDigits spare;
+    std::string_view digits = OnlyDigits(FirstCharacters(data, kMaxText), kMaxEanUpcDigits, spare);
+    const bool hasNumberSystem = digits.size() == 7 || digits.size() == 8;
+    if (hasNumberSystem && IsSuppressedUpcE(digits.substr(1, 6))) {
+        AppendSix(digits[0], digits.substr(1, 6), {}, symbol);
+        return kEncoded;
+    }
+    EanUpcDigits expanded;
+    if (digits.size() >= 6 && digits.size() <= 8) digits = ExpandNumber(digits, expanded);
+    if (digits.size() < kUpcALength) return kEncoded;
 
-    const EanUpcNumber number = SplitNumber(digits.View(), kUpcALength);
-    if (!number.isKnownLength && digits.View().size() != 18) return kEncoded;
+    const EanUpcNumber number = SplitNumber(digits, kUpcALength);
+    if (!number.isKnownLength && digits.size() != 18) return kEncoded;
     if (const auto six = SuppressUpcE(number.main.substr(1))) {
-        AppendSuppressed(number, {six->data(), six->size()}, symbol);
+        AppendSix(number.main[0], {six->data(), six->size()}, number.addOn, symbol);
     } else {
-        AppendUpcA(kAlphabet, number.main, number.addOn, kAlphabet.upcERightGuard, symbol);
+        AppendUpcA<kAlphabet>(number.main, number.addOn, kAlphabet.upcERightGuard, symbol);
     }
     return kEncoded;
 }

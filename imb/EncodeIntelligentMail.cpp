@@ -62,8 +62,7 @@ int16 EncodeIntelligentMail(DataBlock data, PMString* message, PMString* humanRe
     if (message) message->Clear();
     const auto length = static_cast<int32>(data.length);
     if (!IsInRange(length, kShortestData, kLongestData)) return RefuseLength(data, message);
-    if (!CheckCharClasses(data.bytes, length, kDigits, nullptr))
-        return RefuseCharacters(data, message);
+    if (!AreDigits(data.View())) return RefuseCharacters(data, message);
     if (!IsImbRoutingLength(data.length - kImbTrackingLength)) return RefuseRouting(message);
 
     const std::string_view digits = data.View();

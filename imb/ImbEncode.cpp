@@ -2,127 +2,154 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "core/CharClasses.h"
+#include "core/Word.h"
 #include "imb/ImbBarMap.h"
+#include "imb/ImbTables.h"
 
 namespace linewright {
 namespace {
 
 constexpr std::uint32_t kCharacterBits = 0x1FFF;
 constexpr std::uint32_t kCodewordARange = 659;
-constexpr std::uint32_t kCodewordRange = 1365;
 constexpr std::uint32_t kCodewordJRange = 636;
 
 using Codewords = std::array<std::uint32_t, kImbCharacterCount>;
-using Characters = std::array<std::uint32_t, kImbCharacterCount>;
 
-/** A character table, built on first use. */
-template <int kBitCount, int kLength>
-struct CharacterTable {
-    std::array<std::uint32_t, kLength> entries{};
-    bool built = false;
-
-    bool Retrieve() {
-        if (!built) built = ImbBuildNof13Table(entries.data(), kBitCount, kLength) == 1;
-        return built;
-    }
-};
-
-constinit CharacterTable<5, 1287> fiveOf13;
-constinit CharacterTable<2, 78> twoOf13;
 constinit bool selfTestPassed = false;
 
 /** The text, or as much of it as shows that it is longer than `limit`. */
 std::string_view Bounded(const char* text, std::size_t limit) {
-    std::size_t length = 0;
-    while (length <= limit && text[length] != '\0') ++length;
-    return {text, length};
+    const void* const end = std::memchr(text, '\0', limit + 1);
+    return {text, end ? static_cast<std::size_t>(static_cast<const char*>(end) - text) : limit + 1};
 }
 
-std::uint32_t DigitValue(char digit) {
-    return static_cast<std::uint32_t>(digit - '0');
+std::uint64_t DigitValue(char digit) {
+    return static_cast<std::uint64_t>(digit - '0');
+}
+
+std::uint64_t DecimalNumberOf(std::string_view digits) {
+    std::uint64_t number = 0;
+    for (; digits.size() >= kWordSize; digits.remove_prefix(kWordSize))
+        number = number * 100'000'000 + DecimalNumber(LoadWord(digits.data()));
+    for (const char digit : digits) number = number * 10 + DigitValue(digit);
+    return number;
 }
 
 /** Numbers the routing codes through: none is 0, then come those of 5, of 9 and of 11 digits. */
 std::uint64_t RoutingValue(std::string_view routing) {
-    std::uint64_t value = 0;
-    for (const char digit : routing) value = value * 10 + DigitValue(digit);
+    std::uint64_t value = DecimalNumberOf(routing);
     if (routing.size() >= 5) value += 1;
     if (routing.size() >= 9) value += 100'000;
     if (routing.size() >= 11) value += 1'000'000'000;
     return value;
 }
 
-void MultiplyAdd(ImbBinaryValue& value, std::uint32_t factor, std::uint64_t summand) {
+/** An unsigned number of 128 bits, in places of 32 bits from the highest on. */
+using LongNumber = std::array<std::uint64_t, 4>;
+
+void MultiplyAdd(LongNumber& number, std::uint32_t factor, std::uint64_t summand) {
     std::uint64_t carry = summand;
-    for (std::size_t place = value.size(); place-- > 0;) {
-        carry += std::uint64_t{value[place]} * factor;
-        value[place] = static_cast<std::uint8_t>(carry & 0xFF);
-        carry >>= 8;
+    for (std::size_t place = number.size(); place-- > 0;) {
+        carry += number[place] * factor;
+        number[place] = carry & 0xFFFFFFFF;
+        carry >>= 32;
     }
 }
 
-/** Divides the value in place and returns the remainder. */
-std::uint32_t DivideBy(ImbBinaryValue& value, std::uint32_t divisor) {
-    std::uint32_t remainder = 0;
-    for (std::uint8_t& byte : value) {
-        remainder = remainder << 8 | byte;
-        byte = static_cast<std::uint8_t>(remainder / divisor);
-        remainder %= divisor;
+/** Divides the number in place and returns the remainder. */
+template <std::uint32_t kDivisor>
+std::uint32_t DivideBy(LongNumber& number) {
+    std::uint64_t remainder = 0;
+    for (std::uint64_t& place : number) {
+        remainder = remainder << 32 | place;
+        place = remainder / kDivisor;
+        remainder %= kDivisor;
     }
-    return remainder;
+    return static_cast<std::uint32_t>(remainder);
 }
 
-ImbBinaryValue BinaryValue(std::string_view tracking, std::string_view routing) {
-    ImbBinaryValue value{};
-    MultiplyAdd(value, 1, RoutingValue(routing));
-    for (std::size_t index = 0; index < tracking.size(); ++index) {
-        MultiplyAdd(value, index == 1 ? 5 : 10, DigitValue(tracking[index]));
-    }
+/** Tracking and routing code as one number: the routing code's, and behind it the digits of the
+ *  tracking code, of which the second is below 5. */
+LongNumber BinaryValue(std::string_view tracking, std::string_view routing) {
+    constexpr std::uint32_t kNineDigits = 1'000'000'000;
+    const std::uint64_t upper =
+        (RoutingValue(routing) * 10 + DigitValue(tracking[0])) * 5 + DigitValue(tracking[1]);
+    LongNumber value{0, 0, upper >> 32, upper & 0xFFFFFFFF};
+    MultiplyAdd(value, kNineDigits, DecimalNumberOf(tracking.substr(2, 9)));
+    MultiplyAdd(value, kNineDigits, DecimalNumberOf(tracking.substr(11, 9)));
     return value;
 }
 
-/** Codewords A to J. The frame check sequence's bit 10 goes into codeword A. */
-ImbResult MakeCodewords(ImbBinaryValue value, std::uint32_t frameCheckSequence,
-                        Codewords& codewords) {
-    codewords.back() = DivideBy(value, kCodewordJRange);
-    for (std::size_t index = codewords.size() - 2; index > 0; --index) {
-        codewords[index] = DivideBy(value, kCodewordRange);
+std::uint32_t FrameCheckSequence(const LongNumber& value) {
+    std::uint32_t sequence = kImbEmptySequence;
+    for (std::size_t place = 0; place < kImbSequences.size(); ++place) {
+        // The first of the thirteen bytes is the lowest of the number's highest place.
+        const std::size_t byte = place + 3;
+        sequence ^= kImbSequences[place][value[byte / 4] >> 8 * (3 - byte % 4) & 0xFF];
     }
-    codewords.front() = DivideBy(value, kCodewordARange);
-    if (codewords.front() >= kCodewordARange || codewords.back() >= kCodewordJRange) {
-        return USPS_FSB_ENCODER_API_CODEWORD_CONVERSION_FAILED;
-    }
-    codewords.back() *= 2;
-    if (frameCheckSequence & 0x400) codewords.front() += kCodewordARange;
-    return USPS_FSB_ENCODER_API_SUCCESS;
+    return sequence;
 }
 
-/** Characters A to J. The frame check sequence's bits 0 to 9 turn them into their complements. */
-ImbResult MakeCharacters(const Codewords& codewords, std::uint32_t frameCheckSequence,
-                         Characters& characters) {
+/** Codewords A to J, the remainders of one division after the other; two are found by one. The
+ * frame check sequence's bit 10 goes into codeword A. */
+Codewords MakeCodewords(LongNumber value, std::uint32_t frameCheckSequence) {
+    constexpr std::uint32_t kPair = kImbCodewordRange * kImbCodewordRange;
+    const std::uint32_t ij = DivideBy<kImbCodewordRange * kCodewordJRange>(value);
+    const std::uint32_t gh = DivideBy<kPair>(value);
+    // What is left has less than 64 bits.
+    const std::uint64_t af = value[2] << 32 | value[3];
+    const auto ef = static_cast<std::uint32_t>(af % kPair);
+    const auto cd = static_cast<std::uint32_t>(af / kPair % kPair);
+    const auto ab = static_cast<std::uint32_t>(af / kPair / kPair);
+
+    const auto first = [](std::uint32_t pair) { return pair / kImbCodewordRange; };
+    const auto second = [](std::uint32_t pair) { return pair % kImbCodewordRange; };
+    const std::uint32_t added = frameCheckSequence & 0x400 ? kCodewordARange : 0;
+    return {first(ab) % kCodewordARange + added,
+            second(ab),
+            first(cd),
+            second(cd),
+            first(ef),
+            second(ef),
+            first(gh),
+            second(gh),
+            ij / kCodewordJRange,
+            ij % kCodewordJRange * 2};
+}
+
+/** The letters of eight bars from bits that say which reach up and which reach down. */
+Word BarLetters(std::size_t ascenders, std::size_t descenders) {
+    const Word up = kBitsAsBytes[ascenders & 0xFF];
+    const Word down = kBitsAsBytes[descenders & 0xFF];
+    return EightTimes('T') ^ up * ('T' ^ 'A') ^ down * ('T' ^ 'D') ^
+           (up & down) * ('T' ^ 'A' ^ 'D' ^ 'F');
+}
+
+/** The characters of the codewords as bars. The frame check sequence's bits 0 to 9 turn characters
+ *  into their complements. */
+void WriteBars(const Codewords& codewords, std::uint32_t frameCheckSequence, char* bars) {
+    std::array<std::uint32_t, kImbCharacterCount> characters;
+    ImbBars first64;
     for (std::size_t index = 0; index < codewords.size(); ++index) {
-        const std::uint32_t codeword = codewords[index];
-        if (codeword >= kCodewordRange) return USPS_FSB_ENCODER_API_CHARACTER_RANGE_ERROR;
-        const std::size_t fiveOf13Size = fiveOf13.entries.size();
-        characters[index] = codeword < fiveOf13Size ? fiveOf13.entries[codeword]
-                                                    : twoOf13.entries[codeword - fiveOf13Size];
-        if (frameCheckSequence >> index & 1) characters[index] ^= kCharacterBits;
+        const std::uint32_t complement = frameCheckSequence >> index & 1 ? kCharacterBits : 0;
+        const std::uint32_t character = kImbCharacters[codewords[index]] ^ complement;
+        first64 |= kImbBarsOfLowBits[index][character & ((1 << kImbLowBits) - 1)];
+        first64 |= kImbBarsOfHighBits[index][character >> kImbLowBits];
+        characters[index] = character;
     }
-    return USPS_FSB_ENCODER_API_SUCCESS;
-}
-
-char BarLetter(const ImbBar& bar, const Characters& characters) {
-    const auto isSet = [&](ImbBit place) {
-        return (characters[place.character] >> place.bit & 1) != 0;
-    };
-    if (isSet(bar.ascender)) return isSet(bar.descender) ? 'F' : 'A';
-    return isSet(bar.descender) ? 'D' : 'T';
+    for (std::size_t bar = 0; bar < 64; bar += kWordSize) {
+        const Word letters = BarLetters(first64.ascenders >> bar, first64.descenders >> bar);
+        std::memcpy(bars + bar, &letters, kWordSize);
+    }
+    const auto isSet = [&](ImbBit place) { return characters[place.character] >> place.bit & 1; };
+    const ImbBar& last = kImbBarMap.back();
+    bars[64] = static_cast<char>(BarLetters(isSet(last.ascender), isSet(last.descender)) & 0xFF);
 }
 
 /** The four examples that USPS-B-3200 publishes, one for each routing length. */
@@ -179,58 +206,11 @@ ImbResult ImbEncodeCore(const char* tracking, const char* routing, char* bars) {
     if (!IsImbRoutingLength(routingDigits.size()))
         return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
 
-    const ImbBinaryValue value = BinaryValue({tracking, kImbTrackingLength}, routingDigits);
-    const std::uint32_t frameCheckSequence = ImbFrameCheckSequence(value);
-
-    if (!fiveOf13.Retrieve() || !twoOf13.Retrieve()) {
-        return USPS_FSB_ENCODER_API_RETRIEVE_TABLE_FAILED;
-    }
-    Codewords codewords{};
-    if (const ImbResult result = MakeCodewords(value, frameCheckSequence, codewords)) return result;
-    Characters characters{};
-    if (const ImbResult result = MakeCharacters(codewords, frameCheckSequence, characters)) {
-        return result;
-    }
-    for (const ImbBar& bar : kImbBarMap) *bars++ = BarLetter(bar, characters);
-    *bars = '\0';
+    const LongNumber value = BinaryValue({tracking, kImbTrackingLength}, routingDigits);
+    const std::uint32_t frameCheckSequence = FrameCheckSequence(value);
+    WriteBars(MakeCodewords(value, frameCheckSequence), frameCheckSequence, bars);
+    bars[kImbBarCount] = '\0';
     return USPS_FSB_ENCODER_API_SUCCESS;
-}
-
-std::uint32_t ImbFrameCheckSequence(const ImbBinaryValue& value) {
-    constexpr std::uint32_t kGenerator = 0xF35;
-    constexpr int kSequenceBits = 11;
-    std::uint32_t sequence = 0x7FF;
-    for (std::size_t index = 0; index < value.size(); ++index) {
-        const int bits = index == 0 ? 6 : 8;
-        std::uint32_t data = std::uint32_t{value[index]} << (kSequenceBits - bits);
-        for (int bit = 0; bit < bits; ++bit, data <<= 1) {
-            const bool subtract = ((sequence ^ data) & 0x400) != 0;
-            sequence = (sequence << 1 ^ (subtract ? kGenerator : 0)) & 0x7FF;
-        }
-    }
-    return sequence;
-}
-
-int ImbBuildNof13Table(std::uint32_t* table, int bitCount, int tableLength) {
-    int front = 0;
-    int back = tableLength - 1;
-    for (std::uint32_t value = 0; value <= kCharacterBits; ++value) {
-        if (std::popcount(value) != bitCount) continue;
-        std::uint32_t reversed = 0;
-        for (std::size_t bit = 0; bit < kImbBitsPerCharacter; ++bit) {
-            reversed = reversed << 1 | (value >> bit & 1);
-        }
-        if (reversed < value) continue;  // stands in the table as the partner of `reversed`
-        const int needed = reversed == value ? 1 : 2;
-        if (back + 1 - front < needed) return 0;
-        if (reversed == value) {
-            table[back--] = value;
-        } else {
-            table[front++] = value;
-            table[front++] = reversed;
-        }
-    }
-    return front == back + 1 ? 1 : 0;
 }
 
 }  // namespace linewright

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
+#include "imb/ImbBarMap.h"
+
 // USPS Intelligent Mail barcode: the four-state encoding of USPS-B-3200. Plain arithmetic on fixed
-// storage: nothing is allocated, nothing throws. Not reentrant: the character tables and the memory
-// of a passed self-test are process-wide, and all calls come from the host's main thread.
+// storage: nothing is allocated, nothing throws. Not reentrant: the memory of a passed self-test is
+// process-wide, and all calls come from the host's main thread.
 
 namespace linewright {
 
@@ -50,10 +53,44 @@ ImbResult ImbEncode(const char* tracking, const char* routing, char* bars);
 ImbResult ImbEncodeCore(const char* tracking, const char* routing, char* bars);
 
 /** The 11-bit frame check sequence (CRC-11) of the low 102 bits. */
-std::uint32_t ImbFrameCheckSequence(const ImbBinaryValue& value);
+constexpr std::uint32_t ImbFrameCheckSequence(const ImbBinaryValue& value) {
+    constexpr std::uint32_t kGenerator = 0xF35;
+    constexpr int kSequenceBits = 11;
+    std::uint32_t sequence = 0x7FF;
+    for (std::size_t index = 0; index < value.size(); ++index) {
+        const int bits = index == 0 ? 6 : 8;
+        std::uint32_t data = std::uint32_t{value[index]} << (kSequenceBits - bits);
+        for (int bit = 0; bit < bits; ++bit, data <<= 1) {
+            const bool subtract = ((sequence ^ data) & 0x400) != 0;
+            sequence = (sequence << 1 ^ (subtract ? kGenerator : 0)) & 0x7FF;
+        }
+    }
+    return sequence;
+}
 
 /** Fills a table with the 13-bit values that have `bitCount` bits set, in the order of USPS-B-3200.
  *  Returns 1 when there are exactly `tableLength` of them, else 0; never writes past the table. */
-int ImbBuildNof13Table(std::uint32_t* table, int bitCount, int tableLength);
+constexpr int ImbBuildNof13Table(std::uint32_t* table, int bitCount, int tableLength) {
+    constexpr std::uint32_t kValues = 1 << kImbBitsPerCharacter;
+    int front = 0;
+    int back = tableLength - 1;
+    for (std::uint32_t value = 0; value < kValues; ++value) {
+        if (std::popcount(value) != bitCount) continue;
+        std::uint32_t reversed = 0;
+        for (std::size_t bit = 0; bit < kImbBitsPerCharacter; ++bit) {
+            reversed = reversed << 1 | (value >> bit & 1);
+        }
+        if (reversed < value) continue;  // stands in the table as the partner of `reversed`
+        const int needed = reversed == value ? 1 : 2;
+        if (back + 1 - front < needed) return 0;
+        if (reversed == value) {
+            table[back--] = value;
+        } else {
+            table[front++] = value;
+            table[front++] = reversed;
+        }
+    }
+    return front == back + 1 ? 1 : 0;
+}
 
 }  // namespace linewright

@@ -89,4 +89,19 @@ constexpr bool IsReadable(const RetailAlphabet& alphabet) {
 static_assert(IsReadable(kClassicRetailAlphabet));
 static_assert(IsReadable(kCurrentRetailAlphabet));
 
+/** Whether the guards are one letter each, and the letters of digits between them follow one
+ * another as the digits do. */
+constexpr bool AreInOrder(const RetailAlphabet& alphabet) {
+    for (const std::string_view mark :
+         {alphabet.guard, alphabet.centreGuard, alphabet.upcERightGuard})
+        if (mark.size() != 1) return false;
+    for (const std::string_view row :
+         {alphabet.setA, alphabet.setB, alphabet.setC, alphabet.longSetA, alphabet.longSetC})
+        for (std::size_t digit = 0; digit < row.size(); ++digit)
+            if (row[digit] != static_cast<char>(row[0] + static_cast<char>(digit))) return false;
+    return true;
+}
+static_assert(AreInOrder(kClassicRetailAlphabet));
+static_assert(AreInOrder(kCurrentRetailAlphabet));
+
 }  // namespace linewright

@@ -22,25 +22,30 @@ constexpr std::size_t kLongestUpcA = 1 + 1 + 6 + 1 + 6 + 1 + 1 + kLongestAddOn;
 /** Number system, guard, six digits, guard, check digit; add-on. */
 constexpr std::size_t kLongestUpcE = 1 + 1 + 6 + 1 + 1 + kLongestAddOn;
 
+// The alphabet is kClassicRetailAlphabet or kCurrentRetailAlphabet.
+
 /** A number of 12 digits. */
-void AppendEan13(const RetailAlphabet& alphabet, std::string_view number, std::string_view addOn,
-                 TextArea& symbol);
+template <const RetailAlphabet& kAlphabet>
+void AppendEan13(std::string_view number, std::string_view addOn, TextArea& symbol);
 
 /** A number of 7 digits. */
-void AppendEan8(const RetailAlphabet& alphabet, std::string_view number, TextArea& symbol);
+template <const RetailAlphabet& kAlphabet>
+void AppendEan8(std::string_view number, TextArea& symbol);
 
 /** A number of 11 digits. */
-void AppendUpcA(const RetailAlphabet& alphabet, std::string_view number, std::string_view addOn,
-                std::string_view rightGuard, TextArea& symbol);
+template <const RetailAlphabet& kAlphabet>
+void AppendUpcA(std::string_view number, std::string_view addOn, std::string_view rightGuard,
+                TextArea& symbol);
 
-/** The digits of a UPC-E symbol: those outside the bars, and six with their number sets. */
+/** The digits of a UPC-E symbol: those outside the bars, and the six in them. */
 struct UpcEDigits {
     char numberSystem;
     std::string_view six;
-    std::string_view numberSets;
+    /** The number system, 0 or 1, whose number sets the six have. */
+    char parityOf;
     char checkDigit;
 };
-void AppendUpcE(const RetailAlphabet& alphabet, const UpcEDigits& digits, std::string_view addOn,
-                TextArea& symbol);
+template <const RetailAlphabet& kAlphabet>
+void AppendUpcE(const UpcEDigits& digits, std::string_view addOn, TextArea& symbol);
 
 }  // namespace linewright

@@ -2,6 +2,9 @@
 
 #include <cstddef>
 #include <string_view>
+#include <type_traits>
+
+#include "core/Word.h"
 
 // Check digits that are modulo-10 rules of a published standard. Data: decimal digits only; a check
 // digit is a decimal character.
@@ -13,14 +16,23 @@ constexpr char Modulo10Complement(std::size_t sum) {
     return static_cast<char>('0' + (10 - sum % 10) % 10);
 }
 
+/** Gives `add` the values of the digits, eight at a time from the right, the rightmost one last; in
+ *  front of the first digit there are zeros. */
+template <class Add>
+constexpr void ForEachEight(std::string_view digits, Add add) {
+    const auto load = [](std::string_view text) {
+        return DigitValues(std::is_constant_evaluated() ? MakeWord(text) : LoadWord(text));
+    };
+    for (; digits.size() > kWordSize; digits.remove_suffix(kWordSize))
+        add(load(digits.substr(digits.size() - kWordSize)));
+    if (!digits.empty()) add(load(digits) << 8 * (kWordSize - digits.size()));
+}
+
 /** Sum of the digits times weights that alternate from the right: `rightmost`, `next`, ... */
 constexpr std::size_t AlternatingSum(std::string_view digits, std::size_t rightmost,
                                      std::size_t next) {
     std::size_t sum = 0;
-    for (std::size_t place = 0; place < digits.size(); ++place) {
-        const char digit = digits[digits.size() - 1 - place];
-        sum += static_cast<std::size_t>(digit - '0') * (place % 2 == 0 ? rightmost : next);
-    }
+    ForEachEight(digits, [&](Word values) { sum += WeightedSum(values, next, rightmost); });
     return sum;
 }
 
@@ -47,14 +59,13 @@ constexpr char PostnetCheckDigit(std::string_view digits) {
 }
 
 /** MSI modulo 10: the rightmost digit and every second one are doubled, and a double of two digits
- *  counts as their sum. */
+ *  counts as their sum: 9 less than itself, which for the check digit is 1 more. */
 constexpr char MsiModulo10CheckDigit(std::string_view digits) {
-    std::size_t sum = 0;
-    for (std::size_t place = 0; place < digits.size(); ++place) {
-        const auto digit = static_cast<std::size_t>(digits[digits.size() - 1 - place] - '0');
-        const std::size_t counted = place % 2 == 0 ? 2 * digit : digit;
-        sum += counted / 10 + counted % 10;
-    }
+    std::size_t sum = AlternatingSum(digits, 2, 1);
+    ForEachEight(digits, [&](Word values) {
+        const Word isFiveOrMore = (values + EightTimes(3)) >> 3 & EightTimes(1);
+        sum += WeightedSum(isFiveOrMore, 0, 1);
+    });
     return Modulo10Complement(sum);
 }
 

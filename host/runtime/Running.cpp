@@ -74,6 +74,7 @@ void Running::Start(const Settings& settings) {
     SetLocale(resources, settings.locale);
     if (roamingFolder) dataBase.UseFile(*roamingFolder / kDataBaseName);
     session = new Boss(kSessionClass);
+    executionSession = InterfacePtr<ISession>(session, UseDefaultIID());
     application = new Boss(kApplicationClass);
     library.Load(plugIn);
     classes = ClassTable(resources, FindPlugIn(library, plugIn));

@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "ISession.h"
 #include "IStartupShutdownService.h"
 #include "InterfacePtr.h"
 #include "LocaleSetting.h"
@@ -51,6 +52,7 @@ struct Running {
     ViewTable views;
     Library library;
     Boss* session = nullptr;
+    ISession* executionSession = nullptr;  // of `session`, which holds it
     Boss* application = nullptr;
     std::vector<Boss*> dialogs;                      // those not closed, a reference each
     std::vector<IStartupShutdownService*> services;  // those started, in order

@@ -5,6 +5,7 @@
 #include "ISession.h"
 #include "host/runtime/Bind.h"
 #include "host/runtime/DialogManager.h"
+#include "host/runtime/Faults.h"
 #include "host/runtime/MemoryService.h"
 #include "host/runtime/Running.h"
 
@@ -43,6 +44,5 @@ const BossClass kApplicationClass{.name = "kAppBoss",
 
 ISession* GetExecutionContextSession() {
     const host::Running* const running = host::GetRunning();
-    const InterfacePtr<ISession> session(running ? running->session : nullptr, UseDefaultIID());
-    return session;  // outlives this reference by the host's own
+    return running && !host::IsTakenAway(IID_ISESSION) ? running->executionSession : nullptr;
 }
