@@ -216,13 +216,14 @@ void AddProof(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright proof labels.csv -o proof.pdf");
 }
 
-void AddFonts(CLI::App& app) {
+void AddFonts(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("fonts", "List or install the barcode fonts");
     command.require_subcommand(1);
-    for (CLI::App* part : {command.add_subcommand("list", "Fonts, their sizes and types"),
-                           command.add_subcommand("install", "Install them for this user")}) {
-        part->fallthrough();
-    }
+    CLI::App& list = *command.add_subcommand("list", "Fonts, their sizes and types")->fallthrough();
+    list.add_flag("--json", arguments.isFontsJson, "Print a JSON array of all types with a font");
+    AddXDimension(list, arguments.draw.drawing);
+    list.footer("Example:  linewright fonts list --json --x-dimension 0.25mm");
+    command.add_subcommand("install", "Install them for this user")->fallthrough();
     command.footer("Example:  linewright fonts install");
 }
 
@@ -289,7 +290,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddDraw(app, *result);
     AddVerify(app, *result);
     AddProof(app, *result);
-    AddFonts(app);
+    AddFonts(app, *result);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
         "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");

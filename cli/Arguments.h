@@ -33,6 +33,7 @@ struct Arguments {
     Command command = Command::kTypes;
     HostOptions host;
     bool isTypesJson = false;
+    bool isFontsJson = false;
     EncodeOptions encode;
     BatchFiles batchFiles;
     BatchOptions batch;

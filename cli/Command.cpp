@@ -47,7 +47,10 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kProof:
             return RunProof(service, arguments.batchFiles, arguments.batch, arguments.draw,
                             console);
-        case Arguments::Command::kFontsList: return RunFontsList(arguments.fonts, console);
+        case Arguments::Command::kFontsList:
+            return arguments.isFontsJson
+                       ? RunFontsListJson(arguments.draw.drawing.xDimension, console)
+                       : RunFontsList(arguments.fonts, console);
         case Arguments::Command::kFontsInstall: return RunFontsInstall(arguments.fonts, console);
         case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }

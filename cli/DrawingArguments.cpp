@@ -7,14 +7,28 @@
 
 namespace linewright {
 
+namespace {
+
+void AddParsed(CLI::App& command, const char* name, auto& value, const char* kind, auto parse,
+               const char* help) {
+    command
+        .add_option_function<std::string>(
+            name, [&value, name, parse](const std::string& text) { value = parse(text, name); },
+            help)
+        ->type_name(kind);
+}
+
+}  // namespace
+
+void AddXDimension(CLI::App& command, DrawingWish& wish) {
+    AddParsed(command, "--x-dimension", wish.xDimension, "LENGTH", XDimensionOf,
+              "Narrowest bar: 0.33mm, 10mil, 0.7pt");
+}
+
 void AddDrawing(CLI::App& command, DrawingWish& wish) {
     const auto add = [&command](const char* name, auto& value, const char* kind, auto parse,
                                 const char* help) {
-        command
-            .add_option_function<std::string>(
-                name, [&value, name, parse](const std::string& text) { value = parse(text, name); },
-                help)
-            ->type_name(kind);
+        AddParsed(command, name, value, kind, parse, help);
     };
     const auto length = [](const std::string& text, const char* name) {
         return LengthOf(text, name);
@@ -22,8 +36,7 @@ void AddDrawing(CLI::App& command, DrawingWish& wish) {
     const auto lengthOrNone = [](const std::string& text, const char* name) {
         return LengthOf(text, name, true);
     };
-    add("--x-dimension", wish.xDimension, "LENGTH", XDimensionOf,
-        "Narrowest bar: 0.33mm, 10mil, 0.7pt");
+    AddXDimension(command, wish);
     add("--height", wish.height, "LENGTH", length, "Bars: 15mm, or 50x of the narrowest bar");
     add("--quiet-zone", wish.quietZone, "LENGTH", lengthOrNone, "White on both sides");
     add("--bar-width-reduction", wish.barWidthReduction, "A", ReductionOf,

@@ -10,6 +10,8 @@ namespace linewright {
 
 // The options of the commands that draw. What they write to outlives the command.
 
+/** The width of the narrowest bar. */
+void AddXDimension(CLI::App& command, DrawingWish& wish);
 /** How bars are drawn. */
 void AddDrawing(CLI::App& command, DrawingWish& wish);
 /** The dots that bars end on, and the pixels of a picture. */

@@ -2,7 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <cmath>
 #include <filesystem>
+#include <nlohmann/json.hpp>
 #include <system_error>
 
 #include "cli/UserFonts.h"
@@ -34,7 +36,30 @@ std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
     return {names, size};
 }
 
+double Rounded(double number) {
+    return std::round(number * 10000) / 10000;
+}
+
+nlohmann::ordered_json JsonOf(const BarcodeType& type, std::optional<double> xDimension) {
+    const double x = xDimension.value_or(type.dimensions.xDimension);
+    const double size = x / type.dimensions.modulesPerX * type.face->modulesPerEm;
+    return {{"type", type.shortName},
+            {"font", type.face->family},
+            {"style", "Regular"},
+            {"size", Rounded(size)},
+            {"xDimension", Rounded(x / kMillimetre)}};
+}
+
 }  // namespace
+
+ExitStatus RunFontsListJson(std::optional<double> xDimension, Console& console) {
+    auto list = nlohmann::ordered_json::array();
+    for (const BarcodeType& type : kBarcodeTypes) {
+        if (type.face != nullptr) list.push_back(JsonOf(type, xDimension));
+    }
+    console.out << list.dump(2) << '\n';
+    return kDone;
+}
 
 ExitStatus RunFontsList(const std::string& fonts, Console& console) {
     console.out << fmt::format("{:28}{:>9}  {}\n", "font", "size", "types");

@@ -15,9 +15,9 @@ std::atomic<bool> isCallInside = false;
 
 }  // namespace
 
-void CheckThread() {
+void HaltOnOtherThread() {
     const std::thread::id wanted = owner;
-    if (kChecksRules && wanted != std::thread::id() && wanted != std::this_thread::get_id())
+    if (wanted != std::thread::id() && wanted != std::this_thread::get_id())
         Halt("a call from a thread that the host was not handed over to");
 }
 

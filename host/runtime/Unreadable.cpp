@@ -1,6 +1,5 @@
 #include "host/runtime/Unreadable.h"
 
-
 #include <cstdio>
 
 #include "host/runtime/Paths.h"

@@ -234,6 +234,25 @@ TEST(Types, HaveTextsOfTheirOwn) {
     EXPECT_EQ(names.size(), 27U);
 }
 
+TEST(Fonts, AreListedWithTheSizeOfAnXDimension) {
+    const CommandRunner command;
+    const auto sizeOf = [&](const std::string& type, std::vector<std::string> more) {
+        more.insert(more.begin(), {"fonts", "list", "--json"});
+        for (const json& row : json::parse(command.Run(more).out))
+            if (row.at("type") == type) return row;
+        return json();
+    };
+    const json usual = sizeOf("ean13", {});
+    EXPECT_EQ(usual.at("font"), "Linewright EAN UPC");
+    EXPECT_EQ(usual.at("style"), "Regular");
+    EXPECT_EQ(usual.at("xDimension"), 0.33);
+    // 128 modules of 0.33 mm make an em, 42.24 mm.
+    EXPECT_NEAR(usual.at("size").get<double>(), 42.24 * 72 / 25.4, 0.001);
+    EXPECT_NEAR(sizeOf("ean13", {"--x-dimension", "0.66mm"}).at("size").get<double>(),
+                84.48 * 72 / 25.4, 0.001);
+    EXPECT_EQ(sizeOf("i2of5-text", {}), json());
+}
+
 TEST(Types, MakeATable) {
     const auto result = CommandRunner().Run({"types"});
     EXPECT_EQ(std::count(result.out.begin(), result.out.end(), '\n'), 28);

@@ -3,9 +3,9 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "merge/Failure.h"
 #include "cli/LineReader.h"
 #include "cli/StreamRequest.h"
+#include "merge/Failure.h"
 #include "tests/cli/CommandRunner.h"
 #include "text/Hex.h"
 
