@@ -45,10 +45,6 @@ void AddHostOptions(CLI::App& app, HostOptions& host, std::string& fonts) {
     add("--fonts", fonts, "DIR", "Folder of the barcode fonts");
 }
 
-/** Of options that name a file to write. */
-const CLI::Validator kNamesAFile(
-    [](const std::string& text) { return text.empty() ? "names no file" : std::string(); }, "");
-
 void AddRatio(CLI::App& command, const CLI::callback_t& store) {
     command.add_option("--ratio", store, "Wide bars to narrow ones: 2 (unless stated), 2.5 or 3")
         ->type_name("N")
@@ -152,7 +148,7 @@ void AddBatch(CLI::App& app, Arguments& arguments) {
     command
         .add_option("-o,--output", arguments.batchFiles.output,
                     "CSV file to write; standard output unless stated")
-        ->check(kNamesAFile)
+        ->check(NamesAFile())
         ->type_name("OUT");
     command.add_flag("--verify", arguments.batch.isVerified, "Add what scanners read of each");
     command.footer(
@@ -203,7 +199,7 @@ void AddProof(CLI::App& app, Arguments& arguments) {
         *app.add_subcommand("proof", "Draw the rows of a CSV file on a sheet (Linux)");
     AddRows(command, arguments);
     command.add_option("-o,--output", arguments.batchFiles.output, "PDF file to write")
-        ->check(kNamesAFile)
+        ->check(NamesAFile())
         ->type_name("F")
         ->required();
     command.add_option("--title", arguments.batch.titleColumn, "Column of titles")

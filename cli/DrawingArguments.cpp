@@ -20,6 +20,11 @@ void AddParsed(CLI::App& command, const char* name, auto& value, const char* kin
 
 }  // namespace
 
+CLI::Validator NamesAFile() {
+    return {[](const std::string& text) { return text.empty() ? "names no file" : std::string(); },
+            ""};
+}
+
 void AddXDimension(CLI::App& command, DrawingWish& wish) {
     AddParsed(command, "--x-dimension", wish.xDimension, "LENGTH", XDimensionOf,
               "Narrowest bar: 0.33mm, 10mil, 0.7pt");
@@ -58,6 +63,7 @@ void AddFile(CLI::App& command, DrawOptions& draw) {
     command
         .add_option("-o,--output", draw.output,
                     ".pdf, .eps, .svg, .png or .tiff; - for standard output")
+        ->check(NamesAFile())
         ->type_name("F")
         ->required();
     command.add_option("--format", draw.format, "In place of the name's ending")

@@ -4,12 +4,15 @@
 
 namespace CLI {
 class App;
-}
+class Validator;
+}  // namespace CLI
 
 namespace linewright {
 
 // The options of the commands that draw. What they write to outlives the command.
 
+/** For options that name a file to write. */
+CLI::Validator NamesAFile();
 /** The width of the narrowest bar. */
 void AddXDimension(CLI::App& command, DrawingWish& wish);
 /** How bars are drawn. */

@@ -54,19 +54,29 @@ FT_Library FreeTypeLibrary() {
 
 FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing) {
     if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &file) != 0) throw DrawingFailure(missing);
-    cairoFace = cairo_ft_font_face_create_for_ft_face(file, FT_LOAD_NO_HINTING);
-    // Cairo's caches may keep the face for longer than we do; the file goes with it.
-    static constexpr cairo_user_data_key_t kFile{};
-    const cairo_status_t status = cairo_font_face_set_user_data(
-        cairoFace, &kFile, file, [](void* done) { FT_Done_Face(static_cast<FT_Face>(done)); });
-    if (status == CAIRO_STATUS_SUCCESS) return;
-    cairo_font_face_destroy(cairoFace);
-    FT_Done_Face(file);
-    CheckCairo(status);
 }
 
 FontFile::~FontFile() {
-    cairo_font_face_destroy(cairoFace);
+    if (cairoFace != nullptr) {
+        cairo_font_face_destroy(cairoFace);
+    } else {
+        FT_Done_Face(file);
+    }
+}
+
+cairo_font_face_t* FontFile::CairoFace() const {
+    if (cairoFace != nullptr) return cairoFace;
+    cairo_font_face_t* const made = cairo_ft_font_face_create_for_ft_face(file, FT_LOAD_NO_HINTING);
+    // Cairo's caches may keep the face for longer than we do; the file goes with it.
+    static constexpr cairo_user_data_key_t kFile{};
+    const cairo_status_t status = cairo_font_face_set_user_data(
+        made, &kFile, file, [](void* done) { FT_Done_Face(static_cast<FT_Face>(done)); });
+    if (status != CAIRO_STATUS_SUCCESS) {
+        cairo_font_face_destroy(made);
+        CheckCairo(status);
+    }
+    cairoFace = made;
+    return made;
 }
 
 bool FontFile::SetBarHeight(double percent) {
@@ -127,7 +137,7 @@ void FontFile::Select(cairo_t* context, double width, double height) const {
     const cairo_status_t status = cairo_font_options_status(options);
     cairo_font_options_destroy(options);
     CheckCairo(status);
-    cairo_set_font_face(context, cairoFace);
+    cairo_set_font_face(context, CairoFace());
     cairo_matrix_t size;
     cairo_matrix_init_scale(&size, width, height);
     cairo_set_font_matrix(context, &size);

@@ -42,9 +42,12 @@ class FontFile {
 
   private:
     void Load(unsigned int glyph) const;
+    cairo_font_face_t* CairoFace() const;
 
     FT_Face file = nullptr;
-    cairo_font_face_t* cairoFace = nullptr;
+    /** Made when it is first shown, and then the owner of the file: Cairo leaks the axes of a
+     *  variable font, which is never shown by it. */
+    mutable cairo_font_face_t* cairoFace = nullptr;
 };
 
 }  // namespace linewright

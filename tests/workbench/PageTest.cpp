@@ -143,7 +143,7 @@ TEST_F(PageTest, ShowsTheBarsOfTheRendererAtItsZoom) {
 TEST_F(PageTest, WritesPdfSvgAndPng) {
     Start();
     const std::pair<const char*, QByteArray> kinds[]{
-        {"b.pdf", "%PDF-"}, {"b.svg", "<?xml"}, {"b.png", "\x89PNG"}};
+        {"b.pdf", "%PDF-"}, {"b.svg", "<svg"}, {"b.png", "\x89PNG"}};
     for (const auto& [name, beginning] : kinds) {
         const QString path = folder.filePath(name);
         DuringModal<QFileDialog>(
