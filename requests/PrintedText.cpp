@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <initializer_list>
 #include <string_view>
 
 #include "text/Readable.h"
@@ -65,7 +66,8 @@ std::string IntelligentMailGroups(const std::string& data) {
     const bool isLongMailer = digits.size() > kMailer && digits[kMailer] == '9';
     std::string text;
     std::size_t place = 0;
-    for (const std::size_t length : {2, 3, isLongMailer ? 9 : 6, isLongMailer ? 6 : 9, 11}) {
+    for (const std::size_t length : std::initializer_list<std::size_t>{
+             2, 3, isLongMailer ? 9U : 6U, isLongMailer ? 6U : 9U, 11}) {
         if (place >= digits.size()) break;
         if (!text.empty()) text += ' ';
         text += digits.substr(place, length);
