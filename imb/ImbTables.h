@@ -72,9 +72,10 @@ constexpr ImbBars ImbBarsOf(ImbBit place) {
 template <std::size_t Count>
 constexpr auto ImbBarsOfBits(std::uint8_t first) {
     std::array<std::array<ImbBars, (1 << Count)>, kImbCharacterCount> table{};
-    for (std::uint8_t character = 0; character < table.size(); ++character) {
-        for (std::uint8_t bit = 0; bit < Count; ++bit) {
-            const ImbBars added = ImbBarsOf({character, static_cast<std::uint8_t>(first + bit)});
+    for (std::size_t character = 0; character < table.size(); ++character) {
+        for (std::size_t bit = 0; bit < Count; ++bit) {
+            const ImbBars added = ImbBarsOf(
+                {static_cast<std::uint8_t>(character), static_cast<std::uint8_t>(first + bit)});
             for (std::size_t lower = 0; lower < std::size_t{1} << bit; ++lower) {
                 ImbBars& bars = table[character][(std::size_t{1} << bit) + lower];
                 bars = table[character][lower];

@@ -1,3 +1,4 @@
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -122,7 +123,7 @@ TEST(Usage, MistakesAreNamed) {
     for (const auto& [words, sentence, about] : mistakes) {
         const auto result = command.Run(words);
         EXPECT_EQ(result.status, 2);
-        EXPECT_EQ(result.err, "linewright: " + sentence + "; see " + about + " --help\n");
+        EXPECT_EQ(result.err, fmt::format("linewright: {}; see {} --help\n", sentence, about));
     }
 }
 
