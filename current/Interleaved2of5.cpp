@@ -76,8 +76,8 @@ int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckD
     const Letters& letters = kLetters.For(ratio);
     LetterWriter symbol(symbolText);
     const auto appendPair = [&](char first, char second) {
-        const auto value = static_cast<std::size_t>(10 * (first - '0') + (second - '0'));
-        symbol.Append(letters.pairs[value], kLettersPerPair);
+        const int value = 10 * (first - '0') + (second - '0');
+        symbol.Append(letters.pairs[static_cast<std::size_t>(value)], kLettersPerPair);
     };
     symbol.Append(letters.start, kStart.size() / 2);
     std::size_t place = digits.size() % 2;

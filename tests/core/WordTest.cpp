@@ -101,7 +101,7 @@ TEST(LookupTypeByName, FindsWhatTheBeginningOfANameFinds) {
             case 0: name += RandomBytes(random, random() % 10); break;
             case 1: name[random() % name.size()] = 'X'; break;
             case 2: name.resize(random() % name.size()); break;
-            case 3: name = "X" + name; break;
+            case 3: name.insert(0, 1, 'X'); break;
             default: break;
         }
         const BarcodeType* const type = FindTypeByPrefix(name);

@@ -12,7 +12,6 @@
 namespace fs = std::filesystem;
 
 using namespace std::chrono_literals;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 using NewFileTest = TestFolder;

@@ -121,6 +121,7 @@ std::vector<std::string> ReadMeRows() {
 
 TEST(ReadMe, ListsTheTypes) {
     std::vector<std::string> expected;
+    expected.reserve(kBarcodeTypes.size());
     for (const BarcodeType& type : kBarcodeTypes)
         expected.push_back(std::string(type.shortName) + ' ' + std::string(type.name) + ' ' +
                            std::string(type.face ? type.face->family : "any text font"));
