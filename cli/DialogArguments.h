@@ -2,7 +2,7 @@
 
 #include "cli/DialogCommand.h"
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): the library's
 class App;
 }
 

@@ -2,7 +2,7 @@
 
 #include "cli/DrawCommand.h"
 
-namespace CLI {
+namespace CLI {  // NOLINT(readability-identifier-naming): the library's
 class App;
 class Validator;
 }  // namespace CLI

@@ -71,6 +71,7 @@ WrittenType FindWrittenType(std::string_view written) {
 std::vector<std::string_view> NearestTypeNames(std::string_view written) {
     const bool isTypeName = written.starts_with('_');
     std::vector<std::string_view> names;
+    names.reserve(kBarcodeTypes.size());
     for (const BarcodeType& type : kBarcodeTypes) {
         names.push_back(isTypeName ? type.name : type.shortName);
     }
