@@ -38,6 +38,7 @@ std::vector<std::string_view> Nearest(std::string_view written, std::vector<std:
                                       std::size_t count) {
     written = written.substr(0, kComparedLength);
     std::vector<std::pair<std::size_t, std::string_view>> ranked;
+    ranked.reserve(names.size());
     for (const std::string_view name : names) ranked.emplace_back(Distance(written, name), name);
     std::stable_sort(ranked.begin(), ranked.end(),
                      [](const auto& a, const auto& b) { return a.first < b.first; });
