@@ -15,7 +15,7 @@ from pathlib import Path
 PROGRAM, LIBRARY = (str(Path(name).resolve()) for name in sys.argv[1:3])
 # Of the allocations every so manieth is tried, and the last so many, when the drawing is made. Files
 # are few.
-STEP = int(sys.argv[3]) if len(sys.argv) > 3 else 97
+STEP = int(sys.argv[3]) if len(sys.argv) > 3 else 397
 LAST = int(sys.argv[4]) if len(sys.argv) > 4 else 300
 
 
