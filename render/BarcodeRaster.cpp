@@ -53,7 +53,6 @@ Contours ContoursIn(const Outline& outline, double left, double top, double widt
                 }
                 contours.Add(step->end, left, top + height, FT_CURVE_TAG_ON);
             }
-            if (contours.points.size() > SHRT_MAX) CheckFreeType(FT_Err_Raster_Overflow);
             contours.ends.push_back(static_cast<short>(contours.points.size() - 1));
         }
         first = last;
@@ -61,12 +60,14 @@ Contours ContoursIn(const Outline& outline, double left, double top, double widt
     return contours;
 }
 
-/** Puts the ink of an outline, 0 to 255, into the part of a picture that begins at (left, top). */
-void PaintTile(const Outline& outline, GreyRaster& raster, int left, int top) {
-    const int width = std::min(kTile, raster.width - left);
-    const int height = std::min(kTile, raster.height - top);
-    Contours contours = ContoursIn(outline, left, top, width, height);
-    if (contours.ends.empty()) return;
+/** A part of a picture. */
+struct Tile {
+    int left, top, width, height;
+};
+
+/** Puts the ink of contours, 0 to 255, into a tile. */
+FT_Error Paint(Contours& contours, GreyRaster& raster, const Tile& tile) {
+    if (contours.points.size() > SHRT_MAX) return FT_Err_Raster_Overflow;
     FT_Outline shape{};
     shape.n_contours = static_cast<short>(contours.ends.size());
     shape.n_points = static_cast<short>(contours.points.size());
@@ -74,13 +75,29 @@ void PaintTile(const Outline& outline, GreyRaster& raster, int left, int top) {
     shape.tags = contours.tags.data();
     shape.contours = contours.ends.data();
     FT_Bitmap bitmap{};
-    bitmap.rows = static_cast<unsigned int>(height);
-    bitmap.width = static_cast<unsigned int>(width);
+    bitmap.rows = static_cast<unsigned int>(tile.height);
+    bitmap.width = static_cast<unsigned int>(tile.width);
     bitmap.pitch = raster.width;
-    bitmap.buffer = raster.Row(top) + left;
+    bitmap.buffer = raster.Row(tile.top) + tile.left;
     bitmap.num_grays = 256;
     bitmap.pixel_mode = FT_PIXEL_MODE_GRAY;
-    CheckFreeType(FT_Outline_Get_Bitmap(FreeTypeLibrary(), &shape, &bitmap));
+    return FT_Outline_Get_Bitmap(FreeTypeLibrary(), &shape, &bitmap);
+}
+
+/** Puts the ink of an outline into a tile, or where FreeType finds too much in it, into its halves.
+ */
+void PaintTile(const Outline& outline, GreyRaster& raster, const Tile& tile) {
+    const auto [left, top, width, height] = tile;
+    Contours contours = ContoursIn(outline, left, top, width, height);
+    if (contours.ends.empty()) return;
+    const FT_Error error = Paint(contours, raster, tile);
+    if (error == FT_Err_Raster_Overflow && width > 1) {
+        const int half = width / 2;
+        PaintTile(outline, raster, {left, top, half, height});
+        PaintTile(outline, raster, {left + half, top, width - half, height});
+        return;
+    }
+    CheckFreeType(error);
 }
 
 }  // namespace
@@ -107,7 +124,9 @@ GreyRaster BarcodeDrawing::Raster(double pixelsPerModule) const {
                          static_cast<std::size_t>(raster.height));
     for (int top = 0; top < raster.height; top += kTile) {
         for (int left = 0; left < raster.width; left += kTile) {
-            PaintTile(shapes.outline, raster, left, top);
+            PaintTile(shapes.outline, raster,
+                      {left, top, std::min(kTile, raster.width - left),
+                       std::min(kTile, raster.height - top)});
         }
     }
     for (const Rectangle& bar : shapes.bars) {

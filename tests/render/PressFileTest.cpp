@@ -93,6 +93,31 @@ TEST(PressFileTest, PicturesWiderThanCairosAreWhole) {
     EXPECT_GT(TiffOf(drawing, {.pixelsPerModule = 20}).size(), 1000U);
 }
 
+// More curves in a row than FreeType takes at once.
+TEST(PressFileTest, LongTextIsWhole) {
+    std::string many;
+    for (int i = 0; i < 60; ++i) many += kCode39String;
+    std::string text;
+    for (int i = 0; i < 125; ++i) text += "8&";
+    const BarcodeDrawing drawing = Drawn(kCode39, many, {.text = text});
+    for (const int pixels : {1, 2, 20}) {
+        const GreyRaster picture = drawing.Raster(pixels);
+        const int middle = picture.height - 5 * pixels;
+        const auto hasInk = [&](int x) { return picture.At(x, middle) < 128; };
+        int from = 0;
+        while (!hasInk(from)) ++from;
+        int to = picture.width - 1;
+        while (!hasInk(to)) --to;
+        // 250 characters of six modules.
+        ASSERT_GT(to - from, 1400 * pixels) << pixels;
+        for (int start = from; start + 24 * pixels < to; start += 24 * pixels) {
+            bool isInked = false;
+            for (int x = start; x < start + 24 * pixels; ++x) isInked = isInked || hasInk(x);
+            EXPECT_TRUE(isInked) << pixels << " at " << start;
+        }
+    }
+}
+
 }  // namespace
 
 }  // namespace linewright
