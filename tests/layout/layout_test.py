@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Has a layout program (Scribus) set the barcode fonts, as by copy and paste, and reads its PDF.
+"""Has a layout program (Scribus) set the barcode fonts, as by copy and paste, and reads its PDF;
+has it place drawings, and measures them.
 
 Usage: layout_test.py BUILD-FOLDER
 """
@@ -42,17 +43,31 @@ SAMPLES = [
 ]
 RESOLUTION = 600
 
+# Short name, data, options; width and height in points with the quiet zones.
+DRAWINGS = [
+    # 113 modules of 0.33 mm; 22.85 mm of bars, and the digits.
+    ("ean13", "4006381333931", [], 105.70, 73.20),
+    # 112 modules of 0.254 mm between 79, the next whole one above 20 mm.
+    ("code128", "ABC-123", ["--quiet-zone", "20mm"], 194.4, 32.4),
+]
+# How far a placed file may lie beside its size: pages of PDF and EPS are placed in whole points.
+SLACK = {"svg": 0.05, "png": 0.05, "tif": 0.05, "pdf": 1, "eps": 1}
+
 
 def run(*words, **options):
     return subprocess.run([str(word) for word in words], check=True, timeout=300, text=True,
                           stdout=subprocess.PIPE, **options).stdout
 
 
+def linewright(folder, *words):
+    (folder / "app").mkdir(exist_ok=True)
+    return run(BUILD / "bin/linewright", *words, "--config-dir", folder / "config", "--app-dir",
+               folder / "app")
+
+
 def font_text(folder, short_name, data):
     """What a person copies from the terminal."""
-    (folder / "app").mkdir(exist_ok=True)
-    return run(BUILD / "bin/linewright", "encode", short_name, data, "--config-dir",
-               folder / "config", "--app-dir", folder / "app").rstrip("\n")
+    return linewright(folder, "encode", short_name, data).rstrip("\n")
 
 
 def bars_in(picture):
@@ -64,20 +79,23 @@ def bars_in(picture):
     return max(sum(1 for left, right in zip(row, row[1:]) if left >= 128 > right) for row in rows)
 
 
-def export(folder):
+def scribus(folder, script, *words):
     fonts = folder / "fonts.conf"
     fonts.write_text(
         '<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig>'
         f"<dir>{BUILD}/share/linewright/fonts</dir><dir>/usr/share/fonts</dir>"
         f"<cachedir>{folder}/cache</cachedir></fontconfig>")
+    run("scribus", "-g", "-ns", "-py", HERE / script, *words, stderr=subprocess.DEVNULL,
+        env={**os.environ, "QT_QPA_PLATFORM": "offscreen", "FONTCONFIG_FILE": str(fonts),
+             "HOME": str(folder)})
+
+
+def export(folder):
     texts = [font_text(folder, short_name, data) for short_name, _, data, _, _, _ in SAMPLES]
     rows = [{"text": text, "family": family, "size": size}
             for text, (_, _, _, family, size, _) in zip(texts, SAMPLES)]
     (folder / "rows.json").write_text(json.dumps(rows))
-    run("scribus", "-g", "-ns", "-py", HERE / "set_fonts.py", folder / "rows.json",
-        folder / "out.pdf", stderr=subprocess.DEVNULL,
-        env={**os.environ, "QT_QPA_PLATFORM": "offscreen", "FONTCONFIG_FILE": str(fonts),
-             "HOME": str(folder)})
+    scribus(folder, "set_fonts.py", folder / "rows.json", folder / "out.pdf")
     run("pdftoppm", "-gray", "-r", RESOLUTION, folder / "out.pdf", folder / "page")
     return texts
 
@@ -94,6 +112,26 @@ def problem_with(sample, text, picture):
     return reader.returncode != 0
 
 
+def wrong_places(folder):
+    """The drawings that have another size in the layout program than they say."""
+    files = {}
+    for short_name, data, options, width, height in DRAWINGS:
+        for ending in SLACK:
+            file = folder / f"{short_name}.{ending}"
+            linewright(folder, "draw", short_name, data, *options, "-o", file)
+            files[str(file)] = (width, height)
+    scribus(folder, "place_files.py", folder / "sizes.json", *files)
+    sizes = json.loads((folder / "sizes.json").read_text())
+    wrong = []
+    for file, asked in files.items():
+        name = Path(file).name
+        placed = sizes[file]
+        print(f"{name}: {placed[0]:.2f} x {placed[1]:.2f} points")
+        if any(abs(a - b) > SLACK[name.split(".")[1]] for a, b in zip(placed, asked)):
+            wrong.append(name)
+    return wrong
+
+
 def main():
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
@@ -102,10 +140,10 @@ def main():
         if len(pages) != len(SAMPLES):
             sys.exit(f"layout_test: {len(pages)} pages came out, not {len(SAMPLES)}")
         wrong = [sample[0] for sample, text, page in zip(SAMPLES, texts, pages)
-                 if problem_with(sample, text, page)]
+                 if problem_with(sample, text, page)] + wrong_places(folder)
     if wrong:
         sys.exit(f"layout_test: not as it should be: {', '.join(wrong)}")
-    print(f"layout_test: {len(SAMPLES)} strings, all read")
+    print(f"layout_test: {len(SAMPLES)} strings, all read; {len(DRAWINGS) * len(SLACK)} files placed")
 
 
 main()
