@@ -2,6 +2,8 @@
 
 #include <cairo/cairo.h>
 
+#include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -9,17 +11,24 @@
 
 namespace linewright {
 
-/** Text of one line, set in a face: what a context shows, at the baseline's start. */
+/** Text of one line, set in a face that it must not outlive: its glyphs from the baseline's start.
+ */
 struct TextLine {
-    std::vector<cairo_glyph_t> glyphs;
+    struct Glyph {
+        const FontFile* file;
+        unsigned int index;
+        double x;
+    };
+    std::vector<Glyph> glyphs;
     double width = 0;
 };
 
 /** The face for text that a barcode font does not print: DejaVu Sans Mono, and no other one in its
- *  place, so that the same drawing has the same text on every machine. */
+ *  place, so that the same drawing has the same text on every machine. Characters that it lacks, as
+ *  those of Japanese, come from another TrueType face of the system, if one has them. */
 class TextFace {
   public:
-    explicit TextFace(bool isBold);
+    explicit TextFace(bool isBoldFace);
 
     /** Sets UTF-8 text at a size. */
     TextLine Set(const std::string& text, double size) const;
@@ -33,8 +42,12 @@ class TextFace {
 
   private:
     TextLine Set(const std::u32string& characters, double size) const;
+    const FontFile& FileWith(char32_t character) const;
 
+    bool isBold;
     FontFile file;
+    /** Other faces by their files, as they are first wanted. */
+    mutable std::map<std::filesystem::path, FontFile> others;
 };
 
 }  // namespace linewright
