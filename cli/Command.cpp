@@ -23,13 +23,12 @@ namespace {
 
 /** Where the build tree and an installation alike have the fonts. */
 std::string FontsBeside(const std::filesystem::path& programFolder) {
-    return host::Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
+    return host::Utf8FromPath((programFolder / LINEWRIGHT_FONT_FOLDER).lexically_normal());
 }
 
 /** The plug-in's place in the build tree and in an installation alike. */
 std::string PlugInBeside(const std::filesystem::path& programFolder) {
-    const auto path = programFolder / ".." / "lib" / "linewright" / LINEWRIGHT_PLUGIN_FILE;
-    return host::Utf8FromPath(path.lexically_normal());
+    return host::Utf8FromPath((programFolder / LINEWRIGHT_PLUGIN_FILE).lexically_normal());
 }
 
 ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments,
