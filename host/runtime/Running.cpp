@@ -76,7 +76,7 @@ void Running::Start(const Settings& settings) {
     session = new Boss(kSessionClass);
     executionSession = InterfacePtr<ISession>(session, UseDefaultIID());
     application = new Boss(kApplicationClass);
-    library.Load(plugIn);
+    library.Load(plugIn, "plug-in library");
     classes = ClassTable(resources, FindPlugIn(library, plugIn));
     views = ViewTable(resources, classes);
     const SettingsLock lock;
