@@ -10,11 +10,11 @@ namespace {
 
 const DrawingModule& Open() try {
     // Never closed: what is on the stack may hold what the library made.
-    auto* const library = new host::Library;
-    library->Load(DrawingModuleFile(), "what draws barcodes and reads them back");
+    static host::Library& library = *new host::Library;
+    library.Load(DrawingModuleFile(), "what draws barcodes and reads them back");
     const auto entry =
-        reinterpret_cast<const DrawingModule* (*)()>(library->Find("GetDrawingModule"));
-    if (!entry) throw Failure("no library that draws: " + host::Utf8FromPath(DrawingModuleFile()));
+        reinterpret_cast<const DrawingModule* (*)()>(library.Find("GetDrawingModule"));
+    if (!entry) throw Failure("nothing that draws: " + host::Utf8FromPath(DrawingModuleFile()));
     return *entry();
 } catch (const std::runtime_error& error) {
     throw Failure(error.what());
