@@ -5,6 +5,7 @@
 #include <array>
 #include <random>
 
+#include "classic/Code39.h"
 #include "current/Codabar.h"
 #include "current/Code128Auto.h"
 #include "current/Code128PreParse.h"
@@ -84,9 +85,9 @@ std::string WithRouting(const std::string& data) {
 
 int BuildImb(const std::string& data, TextArea& symbol) {
     std::array<char, kImbBarCount + 1> bars;
-    char tracking[kImbTrackingLength + 1];
-    tracking[data.copy(tracking, kImbTrackingLength)] = '\0';
-    const int result = ImbEncode(tracking, data.c_str() + kImbTrackingLength, bars.data());
+    const std::string_view digits = data;
+    const int result = ImbEncode(digits.substr(0, kImbTrackingLength),
+                                 digits.substr(kImbTrackingLength), bars.data());
     symbol.Append({bars.data(), kImbBarCount});
     return result;
 }
@@ -95,60 +96,56 @@ std::vector<Case> MakeCases() {
     return {
         {"Code 128", "_QVT_BARCODE_CODE128_",
          [](const std::string& data, TextArea& symbol) -> int {
-             return BuildCode128Auto(data.c_str(), HasEscapes(data), symbol);
+             return BuildCode128Auto(data, HasEscapes(data), symbol);
          },
          kCode128Bars, BARCODE_CODE128, Same, MixedRows()},
         {"Code 39", "_QVT_BARCODE_CODE39_",
          [](const std::string& data, TextArea& symbol) -> int {
-             return BuildCode39Current(data.c_str(), kRatio, false, symbol);
+             return BuildCode39Current(data, kRatio, false, symbol);
          },
          kTwoWidthBars, BARCODE_CODE39, Same,
          RandomRows("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ-.$/+%", 10)},
-        {"Code 39 full ASCII", "_BARCODE_CODE39ASCII_", nullptr, kClassicCode39Bars,
-         BARCODE_EXCODE39, Same, RandomRows("0123456789ABCDEFGHabcdefgh-.!#", 10), false, 1},
+        {"Code 39 full ASCII", "_BARCODE_CODE39ASCII_",
+         [](const std::string& data, TextArea& symbol) {
+             constexpr ClassicCode39Options kOptions{
+                 .fullAscii = true, .checkMode = 2, .useAsterisk = true};
+             return static_cast<int>(BuildCode39Classic(data, kOptions, symbol).size());
+         },
+         kClassicCode39Bars, BARCODE_EXCODE39, Same,
+         RandomRows("0123456789ABCDEFGHabcdefgh-.!#", 10), false, 1},
         {"Codabar", "_QVT_BARCODE_CODABAR_",
          [](const std::string& data, TextArea& symbol) -> int {
-             return BuildCodabarCurrent(data.c_str(), kRatio, "A", "B", symbol);
+             return BuildCodabarCurrent(data, kRatio, "A", "B", symbol);
          },
          kTwoWidthBars, BARCODE_CODABAR, BetweenStartAndStop, RandomRows("0123456789-$:/.+", 10)},
         {"Interleaved 2 of 5", "_QVT_BARCODE_I2OF5_",
          [](const std::string& data, TextArea& symbol) -> int {
-             return BuildInterleaved2of5Current(data.c_str(), kRatio, false, symbol);
+             return BuildInterleaved2of5Current(data, kRatio, false, symbol);
          },
          kTwoWidthBars, BARCODE_C25INTER, Same, RandomRows(kDigitCharacters, 12)},
         {"MSI", "_QVT_BARCODE_MSI_",
          [](const std::string& data, TextArea& symbol) -> int {
-             return BuildMsiCurrent(data.c_str(), kRatio, false, symbol);
+             return BuildMsiCurrent(data, kRatio, false, symbol);
          },
          kTwoWidthBars, BARCODE_MSI_PLESSEY, Same, RandomRows(kDigitCharacters, 10)},
         {"EAN-13", "_QVT_BARCODE_EAN13_",
-         [](const std::string& data, TextArea& symbol) -> int {
-             return BuildEan13(data.c_str(), symbol);
-         },
+         [](const std::string& data, TextArea& symbol) -> int { return BuildEan13(data, symbol); },
          kRetailBars, BARCODE_EANX, Same, RandomRows(kDigitCharacters, 12)},
         {"EAN-8", "_BARCODE_EAN8_",
-         [](const std::string& data, TextArea& symbol) -> int {
-             return BuildEan8(data.c_str(), symbol);
-         },
+         [](const std::string& data, TextArea& symbol) -> int { return BuildEan8(data, symbol); },
          kRetailBars, BARCODE_EANX, Same, RandomRows(kDigitCharacters, 7)},
         {"UPC-A", "_QVT_BARCODE_UPCA_",
-         [](const std::string& data, TextArea& symbol) -> int {
-             return BuildUpcA(data.c_str(), symbol);
-         },
+         [](const std::string& data, TextArea& symbol) -> int { return BuildUpcA(data, symbol); },
          kRetailBars, BARCODE_UPCA, Same, RandomRows(kDigitCharacters, 11)},
         {"UPC-A with add-on", "_QVT_BARCODE_UPCA_",
-         [](const std::string& data, TextArea& symbol) -> int {
-             return BuildUpcA(data.c_str(), symbol);
-         },
+         [](const std::string& data, TextArea& symbol) -> int { return BuildUpcA(data, symbol); },
          kRetailBars, BARCODE_UPCA, WithAddOn, RandomRows(kDigitCharacters, 16)},
         {"UPC-E", "_QVT_BARCODE_UPCE_",
-         [](const std::string& data, TextArea& symbol) -> int {
-             return BuildUpcE(data.c_str(), symbol);
-         },
+         [](const std::string& data, TextArea& symbol) -> int { return BuildUpcE(data, symbol); },
          kRetailBars, BARCODE_UPCE, Same, UpcERows()},
         {"Postnet", "_QVT_BARCODE_POSTNET_",
          [](const std::string& data, TextArea& symbol) -> int {
-             return BuildPostnetCurrent(data.c_str(), true, symbol);
+             return BuildPostnetCurrent(data, true, symbol);
          },
          kPostnetBars, BARCODE_POSTNET, Same, RandomRows(kDigitCharacters, 9), true},
         {"Intelligent Mail", "_BARCODE_USPS_IM_", BuildImb, kIntelligentMailBars,

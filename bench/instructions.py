@@ -1,4 +1,4 @@
-"""Counts the instructions of one call, which a busy machine does not change."""
+"""Counts instructions, which a busy machine does not change."""
 import re
 import subprocess
 import tempfile
@@ -8,11 +8,11 @@ FEW = 1024
 MANY = 3072
 
 
-def _instructions(program: str, case: str, level: str, calls: int) -> int:
-    """The instructions of a whole run of linewright_counted_calls."""
+def of_run(command: list[str]) -> int:
+    """The instructions of a process."""
     with tempfile.TemporaryDirectory() as folder:
         command = ["valgrind", "--tool=callgrind", f"--callgrind-out-file={Path(folder) / 'out'}",
-                   program, case, level, str(calls)]
+                   *command]
         run = subprocess.run(command, capture_output=True, text=True, check=False)
     counted = re.search(r"Collected : (\d+)", run.stderr)
     if run.returncode != 0 or counted is None:
@@ -22,6 +22,6 @@ def _instructions(program: str, case: str, level: str, calls: int) -> int:
 
 def per_call(program: str, case: str, level: str) -> int:
     """The instructions of one call of a case at a level, all rows taken together."""
-    few = _instructions(program, case, level, FEW)
-    many = _instructions(program, case, level, MANY)
+    few = of_run([program, case, level, str(FEW)])
+    many = of_run([program, case, level, str(MANY)])
     return round((many - few) / (MANY - FEW))

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Runs the benchmarks and writes their table into docs/performance.md.
+"""Runs the benchmarks and writes their tables into docs/performance.md.
 
-Usage: bench/table.py BENCHMARKS COUNTED_CALLS DOCUMENT
+Usage: bench/table.py BENCHMARKS COUNTED_CALLS LINEWRIGHT DOCUMENT
 
-Each time is the median of nine runs, all of them in turns. The table stands in the document between
-two marks; what is around it stays.
+Each time is the median of nine runs, those of encodes all in turns. The tables stand in the document
+between two marks; what is around them stays.
 """
 import datetime
 import json
@@ -13,10 +13,11 @@ import subprocess
 import sys
 from pathlib import Path
 
+import programs
 from instructions import per_call
 
-BEGIN = "<!-- table: bench/table.py -->\n"
-END = "<!-- end of table -->\n"
+BEGIN = "<!-- tables: bench/table.py -->\n"
+END = "<!-- end of tables -->\n"
 # A level of bench/Benchmarks.cpp, and its heading.
 LEVELS = {
     "builder": "builder",
@@ -53,21 +54,25 @@ def cell(times: dict[str, float], level: str, program: str, case: str) -> str:
     return f"{times[level]:.0f} ns, {ratio:.1f} ×, {per_call(program, case, level)} |"
 
 
-def main() -> int:
-    benchmarks, program, document = sys.argv[1], sys.argv[2], Path(sys.argv[3])
-    text = document.read_text(encoding="utf-8")
-    before, rest = text.split(BEGIN)
-    after = rest.split(END)[1]
-
-    lines = [f"{datetime.date.today():%-d %B %Y}, {processor()}.", "",
-             "| Symbology | libzint | " + " | ".join(LEVELS.values()) + " |",
+def encodes(benchmarks: str, program: str) -> list[str]:
+    lines = ["| Symbology | libzint | " + " | ".join(LEVELS.values()) + " |",
              "|---|---|" + "---|" * len(LEVELS)]
     for case, times in sorted(medians(benchmarks).items()):
         cells = " ".join(cell(times, level, program, case) for level in LEVELS)
         lines.append(f"| {case} | {times['libzint']:.0f} ns | {cells}")
-    table = "\n".join(lines) + "\n"
-    print(table)
-    document.write_text(before + BEGIN + table + END + after, encoding="utf-8")
+    return lines
+
+
+def main() -> int:
+    benchmarks, program, linewright, document = *sys.argv[1:4], Path(sys.argv[4])
+    text = document.read_text(encoding="utf-8")
+    before, rest = text.split(BEGIN)
+    after = rest.split(END)[1]
+    files = sorted(Path(__file__).with_name("batch").glob("*.csv"))
+    tables = "\n".join([f"{datetime.date.today():%-d %B %Y}, {processor()}.", "",
+                        *encodes(benchmarks, program), "", *programs.table(linewright, files), ""])
+    print(tables)
+    document.write_text(before + BEGIN + tables + END + after, encoding="utf-8")
     return 0
 
 

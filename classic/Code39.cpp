@@ -6,7 +6,7 @@
 
 #include "classic/FontLetters.h"
 #include "core/CharClasses.h"
-#include "core/FixedText.h"
+#include "core/CharacterLetters.h"
 #include "core/Status.h"
 #include "standards/CheckDigits.h"
 #include "standards/Code39Patterns.h"
@@ -45,14 +45,18 @@ constexpr FullAsciiRun kFullAscii[] = {
 
 constexpr uint8 kDropped = 128;
 
+constexpr const FullAsciiRun& RunOf(uint8 byte) {
+    return *std::prev(
+        std::upper_bound(std::begin(kFullAscii), std::end(kFullAscii), byte,
+                         [](uint8 value, const FullAsciiRun& run) { return value < run.first; }));
+}
+
 bool ExpandFullAscii(std::string_view data, TextArea& out) {
     for (const char character : data) {
         const auto byte = static_cast<uint8>(character);
         if (byte > kDropped) return false;
         if (byte == kDropped) continue;
-        const FullAsciiRun& run = *std::prev(
-            std::upper_bound(std::begin(kFullAscii), std::end(kFullAscii), byte,
-                             [](uint8 value, const FullAsciiRun& r) { return value < r.first; }));
+        const FullAsciiRun& run = RunOf(byte);
         if (run.shift != kNoShift) out.Append(run.shift);
         out.Append(static_cast<char>(run.letter + (byte - run.first)));
     }
@@ -62,6 +66,30 @@ bool ExpandFullAscii(std::string_view data, TextArea& out) {
 constexpr char FontCharacter(char character) {
     return character == ' ' ? classic::kCode39Space : character;
 }
+
+constexpr Characters kCharacters = [] {
+    Characters characters{};
+    for (std::size_t value = 0; value < kCode39Characters.size(); ++value) {
+        const char character = kCode39Characters[value];
+        const char letter = FontCharacter(character);
+        characters[static_cast<uint8>(character)] = {MakeWord({&letter, 1}), 1, value};
+    }
+    return characters;
+}();
+
+/** One character or two, whose values are added. */
+constexpr Characters kFullAsciiCharacters = [] {
+    Characters characters{};
+    for (uint8 byte = 0; byte < kDropped; ++byte) {
+        const FullAsciiRun& run = RunOf(byte);
+        const char character = static_cast<char>(run.letter + (byte - run.first));
+        const CharacterLetters& last = kCharacters[static_cast<uint8>(character)];
+        characters[byte] = run.shift == kNoShift
+                               ? last
+                               : kCharacters[static_cast<uint8>(run.shift)].FollowedBy(last);
+    }
+    return characters;
+}();
 
 /** Modulo 10 with the doubling anchored at the leftmost digit, unlike other such rules. */
 char NumericCheckDigit(std::string_view digits) {
@@ -82,45 +110,57 @@ std::optional<char> CheckCharacter(std::size_t value) {
     return FontCharacter(kCode39Characters[value]);
 }
 
-/** Appends the data; false at a character outside the alphabet. */
-bool AppendCharacters(std::string_view data, std::size_t& sum, TextArea& out) {
-    for (const char character : data) {
-        const std::optional<std::size_t> value = Code39Value(character);
-        if (!value) return false;
-        sum += *value;
-        out.Append(FontCharacter(character));
+/** The check digit of data that is digits alone, apart from what full ASCII drops. */
+std::optional<char> FindNumericCheckDigit(std::string_view data, bool fullAscii) {
+    FixedText<2 * kLongestFullAscii> expanded;
+    const bool isExpanded = fullAscii && ExpandFullAscii(data, expanded);
+    const std::string_view digits = isExpanded ? expanded.View() : data;
+    if (!AreDigits(digits)) return std::nullopt;
+    return NumericCheckDigit(digits);
+}
+
+/** Appends the data, of whose values `sum` is the sum; false at a character that cannot be encoded.
+ */
+bool AppendCharacters(std::string_view data, bool fullAscii, std::size_t& sum, TextArea& text) {
+    const Characters& characters = fullAscii ? kFullAsciiCharacters : kCharacters;
+    LetterWriter symbol(text);
+    for (const char byte : data) {
+        const CharacterLetters character = characters[static_cast<uint8>(byte)];
+        if (!character.HasLetters() && !(fullAscii && static_cast<uint8>(byte) == kDropped))
+            return false;
+        character.AppendTo(symbol);
+        sum += character.Value();
     }
     return true;
 }
 
-/** Appends data and check character. The result is empty, or the marker of data that is refused. */
-std::string_view AppendDataAndCheck(std::string_view data, uint16 mode, TextArea& out) {
-    if (mode == kNumericCheck && !AreDigits(data)) return kBadDataMarker;
+}  // namespace
+
+std::string_view BuildCode39Classic(std::string_view data, const ClassicCode39Options& options,
+                                    TextArea& symbol) {
+    if (data.size() > (options.fullAscii ? kLongestFullAscii : kMaxPStringLength))
+        return kBadDataMarker;
+    const bool isNumeric = options.checkMode == kNumericCheck;
+    const std::optional<char> digit =
+        isNumeric ? FindNumericCheckDigit(data, options.fullAscii) : std::nullopt;
+    if (isNumeric && !digit) return kBadDataMarker;
+
+    const char startStop = classic::kCode39StartStops[options.useAsterisk ? 0 : 1];
     std::size_t sum = 0;
-    if (!AppendCharacters(data, sum, out)) return kBadDataMarker;
-    const std::optional<char> check = mode == kNumericCheck
-                                          ? NumericCheckDigit(data)
-                                          : CheckCharacter(sum % kCode39Characters.size());
+    symbol.Append(startStop);
+    if (!AppendCharacters(data, options.fullAscii, sum, symbol)) return kBadDataMarker;
+    const std::optional<char> check =
+        isNumeric ? digit : CheckCharacter(sum % kCode39Characters.size());
     if (!check) return kBadChecksumMarker;
-    if (mode != kNoCheck) out.Append(*check);
+    if (options.checkMode != kNoCheck) symbol.Append(*check);
+    symbol.Append(startStop);
     return {};
 }
 
-}  // namespace
-
-int16 EncodeCode39Classic(DataBlock data, bool fullAscii, uint16 checkMode, bool useAsterisk) {
-    if (data.length > (fullAscii ? kLongestFullAscii : kMaxPStringLength))
-        return FinishWith(data, kBadDataMarker, kBadData);
-    FixedText<2 * kLongestFullAscii> expanded;
-    const bool isExpanded = fullAscii && ExpandFullAscii(data.View(), expanded);
-
-    const char startStop = classic::kCode39StartStops[useAsterisk ? 0 : 1];
-    FixedText<1 + kMaxPStringLength + 2> symbol;
-    symbol.Append(startStop);
-    const std::string_view marker =
-        AppendDataAndCheck(isExpanded ? expanded.View() : data.View(), checkMode, symbol);
+int16 EncodeCode39Classic(DataBlock data, const ClassicCode39Options& options) {
+    FixedText<kCode39ClassicCapacity> symbol;
+    const std::string_view marker = BuildCode39Classic(data.View(), options, symbol);
     if (!marker.empty()) return FinishWith(data, marker, kBadData);
-    symbol.Append(startStop);
     return FinishWith(data, symbol.View(), kEncoded);
 }
 

@@ -4,8 +4,8 @@
 
 #include <functional>
 
+#include "cli/DrawingModule.h"
 #include "cli/Progress.h"
-#include "cli/ScannedBarcode.h"
 #include "merge/BatchFile.h"
 #include "merge/Failure.h"
 #include "merge/OutputFile.h"
@@ -34,7 +34,7 @@ struct Counts {
 using MakeRow = std::function<ScannedBarcode(const BarcodeWish&)>;
 
 MakeRow RowMaker(Service& service, const BatchOptions& options) {
-    if (options.isVerified) return BarcodeScanner(service, options.fonts);
+    if (options.isVerified) return OpenDrawingModule().scanner(service, options.fonts);
     return [&service](const BarcodeWish& wish) {
         return ScannedBarcode{MakeBarcode(service, wish), "", ""};
     };

@@ -9,7 +9,9 @@
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
 #include "cli/DrawingAdvice.h"
+#include "cli/DrawingModule.h"
 #include "cli/FontsCommand.h"
+#include "cli/Installation.h"
 #include "cli/PrefsCommand.h"
 #include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
@@ -21,17 +23,6 @@ namespace linewright {
 
 namespace {
 
-/** Where the build tree and an installation alike have the fonts. */
-std::string FontsBeside(const std::filesystem::path& programFolder) {
-    return host::Utf8FromPath((programFolder / "../share/linewright/fonts").lexically_normal());
-}
-
-/** The plug-in's place in the build tree and in an installation alike. */
-std::string PlugInBeside(const std::filesystem::path& programFolder) {
-    const auto path = programFolder / ".." / "lib" / "linewright" / LINEWRIGHT_PLUGIN_FILE;
-    return host::Utf8FromPath(path.lexically_normal());
-}
-
 ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments,
                   Console& console) {
     switch (arguments.command) {
@@ -42,11 +33,13 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
             return RunBatch(service, arguments.batchFiles, arguments.batch, console);
         case Arguments::Command::kPrefs: return RunPrefs(console);
         case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
-        case Arguments::Command::kDraw: return RunDraw(service, arguments.draw, console);
-        case Arguments::Command::kVerify: return RunVerify(service, arguments.draw, console);
+        case Arguments::Command::kDraw:
+            return OpenDrawingModule().draw(service, arguments.draw, console);
+        case Arguments::Command::kVerify:
+            return OpenDrawingModule().verify(service, arguments.draw, console);
         case Arguments::Command::kProof:
-            return RunProof(service, arguments.batchFiles, arguments.batch, arguments.draw,
-                            console);
+            return OpenDrawingModule().proof(service, arguments.batchFiles, arguments.batch,
+                                             arguments.draw, console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson
                        ? RunFontsListJson(arguments.draw.drawing.xDimension, console)
@@ -69,13 +62,12 @@ ExitStatus SayTrouble(std::string_view sentence, Console& console) {
     return kTrouble;
 }
 
-ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::path& programFolder,
-               Console& console) {
+ExitStatus Run(const std::vector<std::string>& words, Console& console) {
     std::optional<Arguments> arguments = ParseArguments(words, console);
     if (!arguments) return kDone;
     console.language = LanguageOf(arguments->host.locale);
-    if (arguments->host.plugin.empty()) arguments->host.plugin = PlugInBeside(programFolder);
-    if (arguments->fonts.empty()) arguments->fonts = FontsBeside(programFolder);
+    if (arguments->host.plugin.empty()) arguments->host.plugin = host::Utf8FromPath(PlugInFile());
+    if (arguments->fonts.empty()) arguments->fonts = host::Utf8FromPath(FontFolder());
     arguments->draw.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
     DialogUser user;
@@ -88,10 +80,9 @@ ExitStatus Run(const std::vector<std::string>& words, const std::filesystem::pat
 
 }  // namespace
 
-int RunCommand(const std::vector<std::string>& arguments,
-               const std::filesystem::path& programFolder, Console& console) noexcept {
+int RunCommand(const std::vector<std::string>& arguments, Console& console) noexcept {
     try {
-        const ExitStatus exitStatus = Run(arguments, programFolder, console);
+        const ExitStatus exitStatus = Run(arguments, console);
         if (console.out.flush()) return exitStatus;
         return SayTrouble("standard output could not be written to its end", console);
     } catch (const RequestFailure& failure) {

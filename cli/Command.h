@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -10,10 +9,8 @@ namespace linewright {
 
 /**
  * The whole command: reads the arguments (UTF-8, without the program's name), starts host and
- * plug-in, does the work and returns the exit status. `programFolder` is where the program lies:
- * the plug-in is looked for from there. Throws nothing.
+ * plug-in, does the work and returns the exit status. Throws nothing.
  */
-int RunCommand(const std::vector<std::string>& arguments,
-               const std::filesystem::path& programFolder, Console& console) noexcept;
+int RunCommand(const std::vector<std::string>& arguments, Console& console) noexcept;
 
 }  // namespace linewright

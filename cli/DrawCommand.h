@@ -11,8 +11,7 @@
 
 namespace linewright {
 
-// What draws barcodes and reads them back. In a build without a renderer (Windows) each of these
-// throws a Failure that says so.
+// What draws barcodes and reads them back; see cli/DrawingModule.h for how to get there.
 
 struct DrawOptions {
     EncodeOptions encode;

@@ -13,6 +13,5 @@ int main(int count, char** values) {
         .err = std::cerr,
         .isErrTerminal = linewright::IsStandardErrorTerminal(),
     };
-    return linewright::RunCommand(linewright::CommandLineArguments(count, values),
-                                  linewright::ProgramFolder(), console);
+    return linewright::RunCommand(linewright::CommandLineArguments(count, values), console);
 }

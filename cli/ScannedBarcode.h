@@ -17,8 +17,7 @@ struct ScannedBarcode {
 };
 
 /** What makes a barcode, draws it in memory with the fonts in the folder `fonts` and reads it back;
- *  for one run, in which the service is alive. Throws Failure where there is no renderer (Windows).
- */
+ *  for one run, in which the service is alive; see cli/DrawingModule.h for how to get there. */
 std::function<ScannedBarcode(const BarcodeWish&)> BarcodeScanner(Service& service,
                                                                  const std::string& fonts);
 

@@ -2,9 +2,9 @@
 # makes it from Debian's sources, any other build takes the installed library.
 if(CMAKE_CROSSCOMPILING)
     set(INSTALL_GTEST OFF)
-    add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+    add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 else()
-    find_package(GTest REQUIRED)
+    find_package(GTest ${need})
 endif()
 
 include(GoogleTest)

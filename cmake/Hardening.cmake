@@ -6,21 +6,18 @@ endif()
 
 include(CheckPIESupported)
 check_pie_supported()
-include(CheckCXXCompilerFlag)
-check_cxx_compiler_flag(-fcf-protection=full LINEWRIGHT_HAS_CET)
-
-add_compile_options(-fstack-protector-strong)
+linewright_compiler_knows(compilerFlags -fstack-protector-strong -fcf-protection=full)
+add_compile_options(${compilerFlags})
 add_compile_definitions(_FORTIFY_SOURCE=2)
-if(LINEWRIGHT_HAS_CET)
-    add_compile_options(-fcf-protection=full)
-endif()
 if(WIN32)
-    add_compile_options(-ffunction-sections -fdata-sections)
+    linewright_compiler_knows(compilerFlags -ffunction-sections -fdata-sections)
+    add_compile_options(${compilerFlags})
     # The stack protector of this compiler is a library of its own.
-    add_link_options(-fstack-protector-strong)
-    add_link_options(
-        -Wl,--high-entropy-va -Wl,--dynamicbase -Wl,--nxcompat -Wl,--gc-sections -s
+    linewright_linker_knows(
+        linkerFlags -fstack-protector-strong -Wl,--high-entropy-va -Wl,--dynamicbase -Wl,--nxcompat
+        -Wl,--gc-sections -s
     )
 else()
-    add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+    linewright_linker_knows(linkerFlags -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
 endif()
+add_link_options(${linkerFlags})

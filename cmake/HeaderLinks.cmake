@@ -1,7 +1,7 @@
 # The header-only libraries, as linewright::cli11, linewright::fmt, linewright::json and
 # linewright::toml. They lie among the system's headers, which a cross compiler must never see, so
 # the build has a folder of its own that holds a link to each of them and nothing else.
-set(LINEWRIGHT_HEADER_LINKS ${CMAKE_BINARY_DIR}/header-links)
+set(LINEWRIGHT_HEADER_LINKS ${PROJECT_BINARY_DIR}/header-links)
 file(MAKE_DIRECTORY ${LINEWRIGHT_HEADER_LINKS})
 
 # linewright_header_library(NAME FOLDER HEADER) makes linewright::NAME from FOLDER/HEADER.

@@ -1,11 +1,15 @@
 # What is watched for, at compile time and at run time.
-#   linewright::warnings   for our own targets: the warnings, as errors
+#   linewright::warnings   for our own targets: the warnings
 #   LINEWRIGHT_SANITIZE    the sanitizers and the library's assertions, for all targets alike
 add_library(linewright_warnings INTERFACE)
 add_library(linewright::warnings ALIAS linewright_warnings)
-target_compile_options(
-    linewright_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
-)
+set(warnings -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+set(compiler ${CMAKE_CXX_COMPILER_ID}-${CMAKE_CXX_COMPILER_VERSION})
+if("${LINEWRIGHT_WARNINGS_AS_ERRORS}-${compiler}" MATCHES "^(ON-|AUTO-GNU-12[.]|AUTO-Clang-14[.])")
+    list(APPEND warnings -Werror)
+endif()
+linewright_compiler_knows(warnings ${warnings})
+target_compile_options(linewright_warnings INTERFACE ${warnings})
 
 option(LINEWRIGHT_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 if(LINEWRIGHT_SANITIZE)

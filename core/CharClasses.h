@@ -34,6 +34,10 @@ int32 CheckCharClasses(const uint8* bytes, int32 length, int32 classes, const ch
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
+/** The number that two digits are in the decimal system. */
+constexpr std::size_t PairValue(char first, char second) {
+    return static_cast<std::size_t>(10 * (first - '0') + (second - '0'));
+}
 inline bool AreDigits(std::string_view text) {
     if (text.size() < kWordSize)
         return AreDigits(LoadWord(text) | EightTimes('0') << 8 * text.size());

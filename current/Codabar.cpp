@@ -13,7 +13,7 @@ constexpr char kOtherCharacters[] = "-$:/.+";
 constexpr FrontRule kFront{
     .length = Between(4, 255),
     .characters = {AreOfClass<kDigits, kOtherCharacters>, hints::kDigitsPlus},
-    .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
+    .build = [](std::string_view text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildCodabarCurrent(text, arguments.ratio, "A", "B", symbol);
     }};
 
@@ -38,7 +38,7 @@ constexpr LettersByRatio kCharacters([](PairGlyphs glyphs) {
 
 }  // namespace
 
-int16 BuildCodabarCurrent(const char* data, double ratio, const char* start, const char* stop,
+int16 BuildCodabarCurrent(std::string_view data, double ratio, const char* start, const char* stop,
                           TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
     const Characters& characters = kCharacters.For(ratio);

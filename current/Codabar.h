@@ -12,7 +12,7 @@ constexpr std::size_t kCodabarCapacity = 4 * (kMaxBuilderText + 2);
 
 /** Appends the symbol; kEncoded, kNoData or kEmptyData. `start` and `stop` are "A", "B", "C" or
  *  "D"; anything else counts as "A". Characters that Codabar does not have are dropped. */
-int16 BuildCodabarCurrent(const char* data, double ratio, const char* start, const char* stop,
+int16 BuildCodabarCurrent(std::string_view data, double ratio, const char* start, const char* stop,
                           TextArea& symbol);
 
 /** The type's encoder: 4 to 255 data characters, between "A" and "B". */

@@ -15,7 +15,7 @@ namespace {
 constexpr FrontRule kFront{
     .length = AtMost(255),
     .characters = kEveryByte,
-    .build = [](const char* text, const EncoderArguments&, TextArea& symbol) {
+    .build = [](std::string_view text, const EncoderArguments&, TextArea& symbol) {
         return BuildCode128Auto(text, HasEscapes(text), symbol);
     }};
 
@@ -93,6 +93,16 @@ class SymbolWriter {
         return count;
     }
 
+    /** Where from here on four digits begin, or the text ends; here where that is not known. */
+    std::size_t NextPairs() const {
+        if (data.size() > kBits) return position;
+        const std::uint64_t four =
+            digitPlaces & digitPlaces >> 1 & digitPlaces >> 2 & digitPlaces >> 3;
+        const std::uint64_t ahead = position < kBits ? four >> position : 0;
+        return ahead == 0 ? data.size()
+                          : position + static_cast<std::size_t>(std::countr_zero(ahead));
+    }
+
     void WriteStart() {
         const uint8 first = ByteAt(0);
         if (CountDigits() >= 4 || first == kFnc1Byte || first >= 212) {
@@ -124,6 +134,16 @@ class SymbolWriter {
         } else {
             WriteCharacter(byte);
             ++position;
+            if (set == Set::kB) WriteSetB();
+        }
+    }
+
+    /** In set B, writes its characters as far as the next four digits. */
+    void WriteSetB() {
+        for (const std::size_t end = NextPairs(); position < end; ++position) {
+            const uint8 byte = ByteAt(position);
+            if (byte < ' ' || byte >= kDelete) return;
+            Put(byte - 32u);
         }
     }
 
@@ -177,14 +197,13 @@ class SymbolWriter {
 
 }  // namespace
 
-int16 BuildCode128Auto(const char* data, bool replaceEscapes, TextArea& symbol) {
+int16 BuildCode128Auto(std::string_view data, bool replaceEscapes, TextArea& symbol) {
     if (const int16 status = TextStatus(data)) return status;
-    const std::string_view text = data;
-    if (text.size() > kMaxBuilderText) return kInternalError;
+    if (data.size() > kMaxBuilderText) return kInternalError;
 
     FixedText<kMaxBuilderText> parsed;
-    if (replaceEscapes) Code128PreParse(text, parsed);
-    return SymbolWriter(replaceEscapes ? parsed.View() : text, symbol).Write();
+    if (replaceEscapes) Code128PreParse(data, parsed);
+    return SymbolWriter(replaceEscapes ? parsed.View() : data, symbol).Write();
 }
 
 int32 EncodeCode128Auto(const EncoderArguments& arguments) {

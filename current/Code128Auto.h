@@ -20,7 +20,7 @@ constexpr std::size_t kCode128AutoCapacity = 3 * (1 + 2 * kMaxBuilderText + 1) +
  * @return kEncoded, kNoData, kEmptyData, or kInternalError for more than 512 bytes and for bytes
  *         from 128 to 191, which have no character; what is appended then is not a symbol
  */
-int16 BuildCode128Auto(const char* data, bool replaceEscapes, TextArea& symbol);
+int16 BuildCode128Auto(std::string_view data, bool replaceEscapes, TextArea& symbol);
 
 /** The type's encoder: up to 255 bytes of any value. */
 int32 EncodeCode128Auto(const EncoderArguments& arguments);

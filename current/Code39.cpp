@@ -13,7 +13,7 @@ constexpr char kOtherCharacters[] = " -.$/+%";
 constexpr FrontRule kFront{
     .length = AtMost(255),
     .characters = {AreOfClass<kDigits | kUpperCase, kOtherCharacters>, hints::kUpperCasePlusSpaces},
-    .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
+    .build = [](std::string_view text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildCode39Current(text, arguments.ratio, arguments.checkCharacter != 0, symbol);
     }};
 
@@ -40,7 +40,7 @@ constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
 
 }  // namespace
 
-int16 BuildCode39Current(const char* data, double ratio, bool addCheckCharacter,
+int16 BuildCode39Current(std::string_view data, double ratio, bool addCheckCharacter,
                          TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
     const Letters& letters = kLetters.For(ratio);

@@ -11,13 +11,13 @@ constexpr std::size_t kMainLength = 12;
 constexpr FrontRule kFront{.length = AtMostOrCheckDigit(kMainLength),
                            .characters = kDigitsOnly,
                            .padTo = kMainLength,
-                           .build = [](const char* text, const EncoderArguments&,
+                           .build = [](std::string_view text, const EncoderArguments&,
                                        TextArea& symbol) { return BuildEan13(text, symbol); }};
 
 }  // namespace
 
-int16 BuildEan13(const char* data, TextArea& symbol) {
-    if (!data || !*data) return kNoDigits;
+int16 BuildEan13(std::string_view data, TextArea& symbol) {
+    if (data.empty()) return kNoDigits;
     EanUpcDigits spare;
     const std::string_view digits = OnlyDigits(data, kMaxEanUpcDigits, spare);
     const EanUpcNumber number = SplitNumberOrZeros(digits, kMainLength);

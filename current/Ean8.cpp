@@ -12,13 +12,13 @@ constexpr std::string_view kTooFewDigits = "0005000";
 constexpr FrontRule kFront{.length = AtMostOrCheckDigit(kMainLength),
                            .characters = kDigitsOnly,
                            .padTo = kMainLength,
-                           .build = [](const char* text, const EncoderArguments&,
+                           .build = [](std::string_view text, const EncoderArguments&,
                                        TextArea& symbol) { return BuildEan8(text, symbol); }};
 
 }  // namespace
 
-int16 BuildEan8(const char* data, TextArea& symbol) {
-    if (!data || !*data) return kNoDigits;
+int16 BuildEan8(std::string_view data, TextArea& symbol) {
+    if (data.empty()) return kNoDigits;
     EanUpcDigits spare;
     const std::string_view digits = OnlyDigits(data, kMaxEanUpcDigits, spare);
     const bool isComplete = digits.size() >= kMainLength;

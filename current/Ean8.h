@@ -9,7 +9,7 @@ namespace linewright {
 
 /** Appends the symbol of the first 7 digits in the data; fewer count as 0005000. The result is
  *  kEncoded, or kNoDigits for no data. */
-int16 BuildEan8(const char* data, TextArea& symbol);
+int16 BuildEan8(std::string_view data, TextArea& symbol);
 
 /** The type's encoder: up to 7 digits, or 8 with the check digit. */
 int32 EncodeEan8(const EncoderArguments& arguments);

@@ -5,13 +5,14 @@
 #include "core/Formatting.h"
 #include "core/ReplaceMarkers.h"
 #include "core/Status.h"
+#include "current/BuilderText.h"
 
 namespace linewright {
 
 namespace {
 
-/** The longest data, a "0" in front of it and the terminator. */
-using NormalisedText = FixedText<kMaxFrontLength + 2>;
+/** The longest data and a "0" in front of it. */
+using NormalisedText = FixedText<kMaxFrontLength + 1>;
 
 PMString TextOf(const Numbers& numbers) {
     PMString text;
@@ -41,12 +42,19 @@ std::size_t PaddingFor(const FrontRule& rule, std::size_t length, bool addsCheck
     return length < rule.padTo ? rule.padTo - length : 0;
 }
 
-void Normalise(const FrontRule& rule, const EncoderArguments& arguments, TextArea& text) {
+/** The data without a check digit and with what belongs in front of it: a part of the data, or put
+ *  together in `spare`. */
+std::string_view Normalised(const FrontRule& rule, const EncoderArguments& arguments,
+                            TextArea& spare) {
     std::string_view data = arguments.data.View();
     if (rule.length.checkDigitAt.Contain(static_cast<int32>(data.size()))) data.remove_suffix(1);
-    text.Append(PaddingFor(rule, data.size(), arguments.checkCharacter != 0), '0');
-    text.Append(data);
-    text.Append('\0');
+    const std::size_t padding = PaddingFor(rule, data.size(), arguments.checkCharacter != 0);
+    if (padding > 0 || data.empty()) {
+        spare.Append(padding, '0');
+        spare.Append(data);
+        data = spare.View();
+    }
+    return rule.characters.allowsNul ? data.substr(0, data.find('\0')) : data;
 }
 
 }  // namespace
@@ -69,10 +77,10 @@ int16 EncodeByRule(const FrontRule& rule, const EncoderArguments& arguments, Tex
         return FinishWith(arguments.data, kDataError, kInvalidData);
     }
 
-    NormalisedText normalised;
-    Normalise(rule, arguments, normalised);
-    const char* const text = normalised.View().data();
-    if (arguments.humanReadable) arguments.humanReadable->SetCString(text);
+    NormalisedText spare;
+    const std::string_view text = Normalised(rule, arguments, spare);
+    if (arguments.humanReadable)
+        arguments.humanReadable->SetString(text.data(), static_cast<int32>(text.size()));
 
     const int16 status = rule.build(text, arguments, symbol);
     return FinishWith(arguments.data, status == kEncoded ? symbol.View() : kProcessError, status);

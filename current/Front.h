@@ -78,6 +78,7 @@ constexpr LengthRule OneOf(Numbers lengths, Numbers withCheckDigit) {
 struct CharacterRule {
     bool (*allows)(std::string_view text);
     const char* hintKey = nullptr;
+    bool allowsNul = true;
 };
 
 /** Whether a text has characters of some classes and of `kExtra` alone, as for CheckCharClasses. */
@@ -94,7 +95,8 @@ bool AreOfClass(std::string_view text) {
     return areAllowed;
 }
 
-constexpr CharacterRule kDigitsOnly{AreDigits, hints::kDigitsOnly};
+constexpr CharacterRule kDigitsOnly{
+    .allows = AreDigits, .hintKey = hints::kDigitsOnly, .allowsNul = false};
 constexpr CharacterRule kEveryByte{[](std::string_view) { return true; }};
 
 /** How a symbology's data is examined and normalised, and what makes the symbol of it. */
@@ -106,7 +108,7 @@ struct FrontRule {
     /** "0" in front where the characters, with the check character asked for, would be odd. */
     bool padToPairs = false;
     /** Appends the font string of the normalised text; the result is the status. */
-    int16 (*build)(const char* text, const EncoderArguments& arguments, TextArea& symbol);
+    int16 (*build)(std::string_view text, const EncoderArguments& arguments, TextArea& symbol);
 };
 
 /**

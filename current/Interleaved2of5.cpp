@@ -12,8 +12,7 @@ namespace {
 constexpr std::string_view kStart = "nnnn";
 constexpr std::string_view kStop = "wnn";
 
-int16 AppendText(const char* text, const EncoderArguments& arguments, TextArea& symbol) {
-    const std::string_view digits = text;
+int16 AppendText(std::string_view digits, const EncoderArguments& arguments, TextArea& symbol) {
     symbol.Append(digits);
     if (arguments.checkCharacter)
         symbol.Append(static_cast<char>(':' - AlternatingSum(digits, 3, 1) % 10));
@@ -24,7 +23,7 @@ constexpr FrontRule kBarsFront{
     .length = AtMost(255),
     .characters = kDigitsOnly,
     .padToPairs = true,
-    .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
+    .build = [](std::string_view text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildInterleaved2of5Current(text, arguments.ratio, arguments.checkCharacter != 0,
                                            symbol);
     }};
@@ -61,7 +60,7 @@ constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
 
 }  // namespace
 
-int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckDigit,
+int16 BuildInterleaved2of5Current(std::string_view data, double ratio, bool addCheckDigit,
                                   TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
     FixedText<kMaxBuilderText> spare;
@@ -76,8 +75,7 @@ int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckD
     const Letters& letters = kLetters.For(ratio);
     LetterWriter symbol(symbolText);
     const auto appendPair = [&](char first, char second) {
-        const int value = 10 * (first - '0') + (second - '0');
-        symbol.Append(letters.pairs[static_cast<std::size_t>(value)], kLettersPerPair);
+        symbol.Append(letters.pairs[PairValue(first, second)], kLettersPerPair);
     };
     symbol.Append(letters.start, kStart.size() / 2);
     std::size_t place = digits.size() % 2;

@@ -13,7 +13,7 @@ constexpr std::size_t kInterleaved2of5Capacity = 2 + 5 * ((kMaxBuilderText + 2) 
 
 /** Appends the symbol of the digits in the data; kEncoded, kNoData or kEmptyData. A "0" goes in
  *  front where the digits, with the check digit asked for, would be odd. */
-int16 BuildInterleaved2of5Current(const char* data, double ratio, bool addCheckDigit,
+int16 BuildInterleaved2of5Current(std::string_view data, double ratio, bool addCheckDigit,
                                   TextArea& symbol);
 
 /** The encoder of the bars: up to 255 digits. */

@@ -1,5 +1,6 @@
 #include "current/Msi.h"
 
+#include "current/DigitLetters.h"
 #include "current/Front.h"
 #include "current/PairGlyphs.h"
 #include "standards/CheckDigits.h"
@@ -11,7 +12,7 @@ namespace {
 constexpr FrontRule kFront{
     .length = AtMost(255),
     .characters = kDigitsOnly,
-    .build = [](const char* text, const EncoderArguments& arguments, TextArea& symbol) {
+    .build = [](std::string_view text, const EncoderArguments& arguments, TextArea& symbol) {
         return BuildMsiCurrent(text, arguments.ratio, arguments.checkCharacter != 0, symbol);
     }};
 
@@ -22,13 +23,13 @@ constexpr std::size_t kLettersPerDigit = 4;
 
 struct Letters {
     Word start;
-    std::array<Word, 10> digits;
+    DigitLetters<kLettersPerDigit> digits;
     Word stop;
 };
 
 constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
-    Letters letters{glyphs.Of(kStart), {}, glyphs.Of(kStop)};
-    for (std::size_t digit = 0; digit < letters.digits.size(); ++digit) {
+    std::array<Word, 10> digits{};
+    for (std::size_t digit = 0; digit < digits.size(); ++digit) {
         // The four bits of the digit, the most significant first: a 1 is a wide bar and a narrow
         // space, a 0 the reverse.
         std::array<char, 2 * kLettersPerDigit> pattern{};
@@ -37,9 +38,9 @@ constexpr LettersByRatio kLetters([](PairGlyphs glyphs) {
             pattern[2 * bit] = isOne ? 'w' : 'n';
             pattern[2 * bit + 1] = isOne ? 'n' : 'w';
         }
-        letters.digits[digit] = glyphs.Of({pattern.data(), pattern.size()});
+        digits[digit] = glyphs.Of({pattern.data(), pattern.size()});
     }
-    return letters;
+    return Letters{glyphs.Of(kStart), DigitLetters<kLettersPerDigit>(digits), glyphs.Of(kStop)};
 });
 
 }  // namespace
@@ -50,7 +51,8 @@ const char* MsiCheckDigit(const char* digits) {
     return checkDigit;
 }
 
-int16 BuildMsiCurrent(const char* data, double ratio, bool addCheckDigit, TextArea& symbolText) {
+int16 BuildMsiCurrent(std::string_view data, double ratio, bool addCheckDigit,
+                      TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
     FixedText<kMaxBuilderText> spare;
     const std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
@@ -58,12 +60,9 @@ int16 BuildMsiCurrent(const char* data, double ratio, bool addCheckDigit, TextAr
 
     const Letters& letters = kLetters.For(ratio);
     LetterWriter symbol(symbolText);
-    const auto append = [&](char digit) {
-        symbol.Append(letters.digits[static_cast<std::size_t>(digit - '0')], kLettersPerDigit);
-    };
     symbol.Append(letters.start, kStart.size() / 2);
-    for (const char digit : digits) append(digit);
-    if (addCheckDigit) append(MsiModulo10CheckDigit(digits));
+    letters.digits.AppendTo(symbol, digits);
+    if (addCheckDigit) letters.digits.AppendTo(symbol, MsiModulo10CheckDigit(digits));
     symbol.Append(letters.stop, kStop.size() / 2);
     return kEncoded;
 }

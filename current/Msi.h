@@ -16,7 +16,7 @@ const char* MsiCheckDigit(const char* digits);
 
 /** Appends the symbol of the digits in the data; kEncoded, kNoData, or kEmptyData where there is no
  *  digit. */
-int16 BuildMsiCurrent(const char* data, double ratio, bool addCheckDigit, TextArea& symbol);
+int16 BuildMsiCurrent(std::string_view data, double ratio, bool addCheckDigit, TextArea& symbol);
 
 /** The type's encoder: up to 255 digits. */
 int32 EncodeMsiCurrent(const EncoderArguments& arguments);

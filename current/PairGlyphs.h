@@ -5,7 +5,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "core/FixedText.h"
+#include "core/CharacterLetters.h"
 #include "current/FontLetters.h"
 
 namespace linewright {
@@ -56,23 +56,5 @@ struct LettersByRatio {
 
     std::array<Letters, 3> letters;
 };
-
-/** The letters of a character, in front of its value and of their number, so that a character that
- * a symbology does not have is one without letters. */
-class CharacterLetters {
-  public:
-    constexpr CharacterLetters() = default;
-    constexpr CharacterLetters(Word letters, std::size_t count, std::size_t value)
-        : word(letters | Word{value} << 48 | Word{count} << 56) {}
-
-    constexpr std::size_t Value() const { return word >> 48 & 0xFF; }
-    void AppendTo(LetterWriter& symbol) const { symbol.Append(word, word >> 56); }
-
-  private:
-    Word word = 0;  // up to six letters, the value, the number of letters
-};
-
-/** The letters of each character, by its byte. */
-using Characters = std::array<CharacterLetters, 256>;
 
 }  // namespace linewright

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "current/DigitLetters.h"
 #include "current/FontLetters.h"
 #include "current/Front.h"
 #include "standards/CheckDigits.h"
@@ -14,7 +15,7 @@ constexpr std::string_view kBadZipCode = "***Bad Zip Code***";
 
 constexpr std::size_t kLettersPerDigit = 3;
 
-constexpr std::array<Word, 10> kDigitLetters = [] {
+constexpr DigitLetters<kLettersPerDigit> kDigitLetters([] {
     std::array<Word, 10> letters{};
     for (int digit = 0; digit < 10; ++digit) {
         const unsigned bars = current::PostnetBarsOf(digit);
@@ -24,22 +25,19 @@ constexpr std::array<Word, 10> kDigitLetters = [] {
         letters[static_cast<std::size_t>(digit)] = MakeWord({text, kLettersPerDigit});
     }
     return letters;
-}();
+}());
 
 }  // namespace
 
-int16 BuildPostnetCurrent(const char* data, bool addCheckDigit, TextArea& symbolText) {
+int16 BuildPostnetCurrent(std::string_view data, bool addCheckDigit, TextArea& symbolText) {
     if (const int16 status = TextStatus(data)) return status;
     FixedText<kMaxBuilderText> spare;
     const std::string_view digits = OnlyDigits(FirstCharacters(data), kMaxBuilderText, spare);
 
     LetterWriter symbol(symbolText);
-    const auto append = [&](char digit) {
-        symbol.Append(kDigitLetters[static_cast<std::size_t>(digit - '0')], kLettersPerDigit);
-    };
     symbol.Append(current::kTallBar);
-    for (const char digit : digits) append(digit);
-    if (addCheckDigit) append(PostnetCheckDigit(digits));
+    kDigitLetters.AppendTo(symbol, digits);
+    if (addCheckDigit) kDigitLetters.AppendTo(symbol, PostnetCheckDigit(digits));
     symbol.Append(current::kTallBar);
     return kEncoded;
 }
@@ -48,12 +46,10 @@ int32 EncodePostnetCurrent(const EncoderArguments& arguments) {
     if (arguments.data.length > kMaxFrontLength)
         return FinishWith(arguments.data, kBadZipCode, kBadData);
 
-    FixedText<kMaxFrontLength + 1> text;
-    text.Append(arguments.data.View());
-    text.Append('\0');
+    const std::string_view data = arguments.data.View();
     FixedText<kPostnetCapacity> symbol;
-    const int16 status =
-        BuildPostnetCurrent(text.View().data(), arguments.checkCharacter != 0, symbol);
+    const int16 status = BuildPostnetCurrent(data.empty() ? "" : data.substr(0, data.find('\0')),
+                                             arguments.checkCharacter != 0, symbol);
     return FinishWith(arguments.data, status == kEncoded ? symbol.View() : kBadZipCode, status);
 }
 

@@ -12,7 +12,7 @@ constexpr std::size_t kPostnetCapacity = 1 + 3 * (kMaxBuilderText + 1) + 1;
 
 /** Appends the symbol of the digits in the data; kEncoded, kNoData or kEmptyData. Any number of
  *  digits will do, also none. */
-int16 BuildPostnetCurrent(const char* data, bool addCheckDigit, TextArea& symbol);
+int16 BuildPostnetCurrent(std::string_view data, bool addCheckDigit, TextArea& symbol);
 
 /** The type's encoder: up to 255 characters, of which the digits count. Other data is replaced by
  *  "***Bad Zip Code***", with status -1 when it is too long and the builder's when it is empty.

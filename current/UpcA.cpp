@@ -8,13 +8,13 @@ namespace {
 
 constexpr FrontRule kFront{.length = OneOf({11, 13, 16}, {12, 14, 17}),
                            .characters = kDigitsOnly,
-                           .build = [](const char* text, const EncoderArguments&,
+                           .build = [](std::string_view text, const EncoderArguments&,
                                        TextArea& symbol) { return BuildUpcA(text, symbol); }};
 
 }  // namespace
 
-int16 BuildUpcA(const char* data, TextArea& symbol) {
-    if (!data || !*data) return kNoDigits;
+int16 BuildUpcA(std::string_view data, TextArea& symbol) {
+    if (data.empty()) return kNoDigits;
     EanUpcDigits spare;
     const std::string_view digits = OnlyDigits(data, kMaxEanUpcDigits, spare);
     const EanUpcNumber number = SplitNumberOrZeros(digits, kUpcALength);

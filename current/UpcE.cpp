@@ -16,7 +16,7 @@ constexpr std::size_t kMaxText = 20;
 
 constexpr FrontRule kFront{.length = OneOf({7, 11}, {8, 12}),
                            .characters = kDigitsOnly,
-                           .build = [](const char* text, const EncoderArguments&,
+                           .build = [](std::string_view text, const EncoderArguments&,
                                        TextArea& symbol) { return BuildUpcE(text, symbol); }};
 
 /** What the six digits behind a number system stand for, as a number of UPC-A. */
@@ -40,8 +40,8 @@ void AppendSix(char numberSystem, std::string_view six, std::string_view addOn, 
 
 }  // namespace
 
-int16 BuildUpcE(const char* data, TextArea& symbol) {
-    if (!data || !*data) return kNoDigits;
+int16 BuildUpcE(std::string_view data, TextArea& symbol) {
+    if (data.empty()) return kNoDigits;
     EanUpcDigits spare;
     std::string_view digits = OnlyDigits(FirstCharacters(data, kMaxText), kMaxEanUpcDigits, spare);
     const bool hasNumberSystem = digits.size() == 7 || digits.size() == 8;

@@ -12,7 +12,7 @@ namespace linewright {
  *  digits of an add-on. Check digits are not looked at. 18 digits have no add-on; any other number
  *  of digits appends nothing. A number without zeros to suppress is written like UPC-A, but for the
  *  right guard. The result is kEncoded, or kNoDigits for no data. */
-int16 BuildUpcE(const char* data, TextArea& symbol);
+int16 BuildUpcE(std::string_view data, TextArea& symbol);
 
 /** The type's encoder: 7 or 11 digits, or 8 or 12 with the check digit. */
 int32 EncodeUpcECurrent(const EncoderArguments& arguments);

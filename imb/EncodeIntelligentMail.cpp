@@ -43,13 +43,10 @@ int16 RefuseRouting(PMString* message) {
 }
 
 int16 EncodeDigits(DataBlock data, PMString* message) {
-    std::array<char, kImbTrackingLength + 1> tracking{};
-    std::array<char, kImbLongestRouting + 1> routing{};
-    data.View().copy(tracking.data(), kImbTrackingLength);
-    data.View().substr(kImbTrackingLength).copy(routing.data(), kImbLongestRouting);
-
-    std::array<char, kImbBarCount + 1> bars{};
-    const ImbResult result = ImbEncode(tracking.data(), routing.data(), bars.data());
+    const std::string_view digits = data.View();
+    std::array<char, kImbBarCount + 1> bars;
+    const ImbResult result = ImbEncode(digits.substr(0, kImbTrackingLength),
+                                       digits.substr(kImbTrackingLength), bars.data());
     if (result == USPS_FSB_ENCODER_API_SUCCESS)
         return FinishWith(data, {bars.data(), kImbBarCount}, kEncoded);
     if (message) message->SetCString(ImbErrorMessage(result));

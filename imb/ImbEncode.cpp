@@ -152,6 +152,13 @@ void WriteBars(const Codewords& codewords, std::uint32_t frameCheckSequence, cha
     bars[64] = static_cast<char>(BarLetters(isSet(last.ascender), isSet(last.descender)) & 0xFF);
 }
 
+void Encode(std::string_view tracking, std::string_view routing, char* bars) {
+    const LongNumber value = BinaryValue(tracking, routing);
+    const std::uint32_t frameCheckSequence = FrameCheckSequence(value);
+    WriteBars(MakeCodewords(value, frameCheckSequence), frameCheckSequence, bars);
+    bars[kImbBarCount] = '\0';
+}
+
 /** The four examples that USPS-B-3200 publishes, one for each routing length. */
 bool PassesSelfTest() {
     struct Example {
@@ -172,6 +179,11 @@ bool PassesSelfTest() {
     });
 }
 
+bool PassedSelfTest() {
+    if (!selfTestPassed) selfTestPassed = PassesSelfTest();
+    return selfTestPassed;
+}
+
 ImbResult CheckTracking(std::string_view tracking) {
     if (tracking.size() != kImbTrackingLength) return USPS_FSB_ENCODER_API_TRACK_STRING_BAD_LENGTH;
     if (!AreDigits(tracking)) return USPS_FSB_ENCODER_API_TRACK_STRING_NOT_DIGITS;
@@ -188,28 +200,28 @@ ImbResult CheckRouting(std::string_view routing) {
 }  // namespace
 
 ImbResult ImbEncode(const char* tracking, const char* routing, char* bars) {
-    if (!selfTestPassed) selfTestPassed = PassesSelfTest();
-    if (!selfTestPassed) return USPS_FSB_ENCODER_API_SELF_TEST_FAILED;
-
+    if (!PassedSelfTest()) return USPS_FSB_ENCODER_API_SELF_TEST_FAILED;
     if (tracking == nullptr) return USPS_FSB_ENCODER_API_TRACK_STRING_IS_NULL;
     if (routing == nullptr) return USPS_FSB_ENCODER_API_ROUTE_STRING_IS_NULL;
     if (bars == nullptr) return USPS_FSB_ENCODER_API_BAR_STRING_IS_NULL;
 
-    if (const ImbResult result = CheckTracking(Bounded(tracking, kImbTrackingLength)))
-        return result;
-    if (const ImbResult result = CheckRouting(Bounded(routing, kImbLongestRouting))) return result;
-    return ImbEncodeCore(tracking, routing, bars);
+    return ImbEncode(Bounded(tracking, kImbTrackingLength), Bounded(routing, kImbLongestRouting),
+                     bars);
+}
+
+ImbResult ImbEncode(std::string_view tracking, std::string_view routing, char* bars) {
+    if (!PassedSelfTest()) return USPS_FSB_ENCODER_API_SELF_TEST_FAILED;
+    if (const ImbResult result = CheckTracking(tracking)) return result;
+    if (const ImbResult result = CheckRouting(routing)) return result;
+    Encode(tracking, routing, bars);
+    return USPS_FSB_ENCODER_API_SUCCESS;
 }
 
 ImbResult ImbEncodeCore(const char* tracking, const char* routing, char* bars) {
     const std::string_view routingDigits = Bounded(routing, kImbLongestRouting);
     if (!IsImbRoutingLength(routingDigits.size()))
         return USPS_FSB_ENCODER_API_ROUTE_STRING_BAD_LENGTH;
-
-    const LongNumber value = BinaryValue({tracking, kImbTrackingLength}, routingDigits);
-    const std::uint32_t frameCheckSequence = FrameCheckSequence(value);
-    WriteBars(MakeCodewords(value, frameCheckSequence), frameCheckSequence, bars);
-    bars[kImbBarCount] = '\0';
+    Encode({tracking, kImbTrackingLength}, routingDigits, bars);
     return USPS_FSB_ENCODER_API_SUCCESS;
 }
 

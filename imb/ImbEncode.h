@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #include "imb/ImbBarMap.h"
 
@@ -47,6 +48,8 @@ using ImbBinaryValue = std::array<std::uint8_t, 13>;
  *  the caller's, of no meaning unless the result is USPS_FSB_ENCODER_API_SUCCESS. Until it has
  *  passed once, every call begins with the self-test, whatever its arguments. */
 ImbResult ImbEncode(const char* tracking, const char* routing, char* bars);
+/** The same for codes whose lengths are known. */
+ImbResult ImbEncode(std::string_view tracking, std::string_view routing, char* bars);
 
 /** The encoding without the self-test and without any test of the arguments but the routing
  *  length. */

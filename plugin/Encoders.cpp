@@ -24,6 +24,12 @@ namespace linewright {
 
 namespace {
 
+ClassicCode39Options Code39Options(bool fullAscii) {
+    return {.fullAscii = fullAscii,
+            .checkMode = preferences.code39CheckMode,
+            .useAsterisk = preferences.code39UseAsterisk != 0};
+}
+
 // The one place that knows which encoder serves which type, and with what.
 constexpr Encoder EncoderOf(TypeCode code) {
     using Arguments = const EncoderArguments&;
@@ -47,13 +53,11 @@ constexpr Encoder EncoderOf(TypeCode code) {
             return [](Arguments a) -> int32 { return EncodeCode128C(a.data); };
         case TypeCode::kClassicCode39:
             return [](Arguments a) -> int32 {
-                return EncodeCode39Classic(a.data, false, preferences.code39CheckMode,
-                                           preferences.code39UseAsterisk != 0);
+                return EncodeCode39Classic(a.data, Code39Options(false));
             };
         case TypeCode::kClassicCode39FullAscii:
             return [](Arguments a) -> int32 {
-                return EncodeCode39Classic(a.data, true, preferences.code39CheckMode,
-                                           preferences.code39UseAsterisk != 0);
+                return EncodeCode39Classic(a.data, Code39Options(true));
             };
         case TypeCode::kEan8: return EncodeEan8;
         case TypeCode::kClassicEan13:

@@ -40,21 +40,23 @@ constexpr std::array<Word, Rows> FirstLetters(const RetailAlphabet& alphabet,
     return letters;
 }
 
-/** The same of UPC-E's six digits, for each check digit. */
-constexpr std::array<Word, 10> UpcEFirstLetters(const RetailAlphabet& alphabet, char numberSystem) {
-    std::array<Word, 10> letters{};
-    for (std::size_t check = 0; check < letters.size(); ++check) {
-        const auto sets = UpcENumberSets(numberSystem, static_cast<char>('0' + check));
-        letters[check] = FirstLetters(alphabet, {sets.data(), sets.size()});
-    }
-    return letters;
-}
-
 /** A word behind single letters. */
 constexpr Word Joined(std::initializer_list<std::string_view> letters, Word word) {
     for (auto letter = std::rbegin(letters); letter != std::rend(letters); ++letter)
         word = word << 8 | MakeWord(*letter);
     return word;
+}
+
+/** The guard and the letters of 0 in the number sets of UPC-E's six digits, for each check digit.
+ */
+constexpr std::array<Word, 10> UpcEFirstLetters(const RetailAlphabet& alphabet, char numberSystem) {
+    std::array<Word, 10> letters{};
+    for (std::size_t check = 0; check < letters.size(); ++check) {
+        const auto sets = UpcENumberSets(numberSystem, static_cast<char>('0' + check));
+        letters[check] =
+            Joined({alphabet.guard}, FirstLetters(alphabet, {sets.data(), sets.size()}));
+    }
+    return letters;
 }
 
 constexpr std::size_t ValueOf(char digit) {
@@ -71,6 +73,12 @@ template <std::size_t Size, std::size_t Count>
 Word ValuesWithCheckDigit(std::string_view number) {
     const Word checkValue = ValueOf(Modulo10CheckDigit({number.data(), Size}));
     return Values<Count>(number.data() + Size - Count) | checkValue << 8 * Count;
+}
+
+/** The letter of a digit beside the symbol. */
+template <const RetailAlphabet& kAlphabet>
+Word Outside(std::size_t value) {
+    return static_cast<unsigned char>(kAlphabet.outside[value]);
 }
 
 void Append(std::string_view letters, LetterWriter& symbol) {
@@ -146,13 +154,11 @@ void AppendUpcE(const UpcEDigits& digits, std::string_view addOn, TextArea& symb
     static constexpr std::array kSix{UpcEFirstLetters(kAlphabet, '0'),
                                      UpcEFirstLetters(kAlphabet, '1')};
     const std::size_t checkValue = ValueOf(digits.checkDigit);
+    const Word six = kSix[digits.parityOf == '1'][checkValue] + (Values<6>(digits.six.data()) << 8);
 
     LetterWriter symbol(symbolText);
-    symbol.Append(kAlphabet.outside[ValueOf(digits.numberSystem)]);
-    Append(kAlphabet.guard, symbol);
-    symbol.Append(kSix[digits.parityOf == '1'][checkValue] + Values<6>(digits.six.data()), 6);
-    Append(kAlphabet.upcERightGuard, symbol);
-    symbol.Append(kAlphabet.outside[checkValue]);
+    symbol.Append(Outside<kAlphabet>(ValueOf(digits.numberSystem)) | six << 8, 8);
+    symbol.Append(MakeWord(kAlphabet.upcERightGuard) | Outside<kAlphabet>(checkValue) << 8, 2);
     AppendAddOn<kAlphabet>(addOn, symbol);
 }
 

@@ -29,8 +29,15 @@ struct Reading {
 // The scanners. Both look for the symbology of the task alone and never see what is expected.
 
 Reading ReadWithZxing(const GreyRaster& picture, const ScannerTask& task);
-/** ZBar judges bars by the slope of their sides, which takes more than a pixel: `isEnlarged` shows
- *  it the picture with every pixel twice as wide and high. */
-Reading ReadWithZbar(const GreyRaster& picture, const ScannerTask& task, bool isEnlarged = false);
+
+/** How ZBar looks at a picture. */
+struct ZbarView {
+    /** ZBar judges bars by the slope of their sides, which takes more than a pixel: this shows it
+     *  the picture with every pixel twice as wide and high. */
+    bool isEnlarged = false;
+    /** Reads every eighth row: enough where they are known to be alike. */
+    bool skipsRows = false;
+};
+Reading ReadWithZbar(const GreyRaster& picture, const ScannerTask& task, ZbarView view = {});
 
 }  // namespace linewright

@@ -50,7 +50,8 @@ Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, doubl
     const GreyRaster picture = drawing.Raster(pixelsPerModule);
     Verification result;
     result.readings.push_back(ReadWithZxing(picture, meaning.task));
-    result.readings.push_back(ReadWithZbar(picture, meaning.task, pixelsPerModule == 1));
+    result.readings.push_back(ReadWithZbar(
+        picture, meaning.task, {.isEnlarged = pixelsPerModule == 1, .skipsRows = true}));
     for (Reading& reading : result.readings) reading.isMeant = IsMeant(reading, meaning);
     const auto has = [&](auto test) {
         return std::any_of(result.readings.begin(), result.readings.end(), test);

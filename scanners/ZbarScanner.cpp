@@ -9,6 +9,9 @@ namespace linewright {
 
 namespace {
 
+/** Rows of a picture of which eighths are still enough for ZBar to be sure. */
+constexpr int kLeastToSkip = 64;
+
 using Scanner =
     std::unique_ptr<zbar::zbar_image_scanner_t, decltype(&zbar::zbar_image_scanner_destroy)>;
 using Image = std::unique_ptr<zbar::zbar_image_t, decltype(&zbar::zbar_image_destroy)>;
@@ -23,14 +26,14 @@ void AllowLength(zbar::zbar_image_scanner_t* scanner, zbar::zbar_symbol_type_t t
     zbar::zbar_image_scanner_set_config(scanner, type, zbar::ZBAR_CFG_MAX_LEN, 0);
 }
 
-Scanner ScannerFor(const ScannerTask& task) {
+Scanner ScannerFor(const ScannerTask& task, int rowDistance) {
     Scanner scanner(zbar::zbar_image_scanner_create(), zbar::zbar_image_scanner_destroy);
     zbar::zbar_image_scanner_set_config(scanner.get(), zbar::ZBAR_NONE, zbar::ZBAR_CFG_ENABLE, 0);
     // A barcode is read along its rows.
     zbar::zbar_image_scanner_set_config(scanner.get(), zbar::ZBAR_NONE, zbar::ZBAR_CFG_X_DENSITY,
                                         0);
     zbar::zbar_image_scanner_set_config(scanner.get(), zbar::ZBAR_NONE, zbar::ZBAR_CFG_Y_DENSITY,
-                                        1);
+                                        rowDistance);
     switch (task.symbology) {
         case Symbology::kCode128: Enable(scanner.get(), zbar::ZBAR_CODE128); break;
         case Symbology::kCode39:
@@ -101,12 +104,13 @@ void TakeAll(const zbar::zbar_symbol_t* symbol, Reading& reading) {
 
 }  // namespace
 
-Reading ReadWithZbar(const GreyRaster& picture, const ScannerTask& task, bool isEnlarged) {
+Reading ReadWithZbar(const GreyRaster& picture, const ScannerTask& task, ZbarView view) {
     Reading reading;
     reading.scanner = "ZBar";
     if (!HasScanner(task.symbology) || picture.pixels.empty()) return reading;
-    const GreyRaster shown = isEnlarged ? Enlarged(picture) : picture;
-    const Scanner scanner = ScannerFor(task);
+    const GreyRaster shown = view.isEnlarged ? Enlarged(picture) : picture;
+    const Scanner scanner =
+        ScannerFor(task, view.skipsRows && shown.height >= kLeastToSkip ? 8 : 1);
     const Image image(zbar::zbar_image_create(), zbar::zbar_image_destroy);
     constexpr unsigned long kGrey = 'Y' | '8' << 8 | '0' << 16 | '0' << 24;
     zbar::zbar_image_set_format(image.get(), kGrey);

@@ -13,7 +13,8 @@ namespace linewright {
 
 /** The digit that brings a sum to a multiple of ten. */
 constexpr char Modulo10Complement(std::size_t sum) {
-    return static_cast<char>('0' + (10 - sum % 10) % 10);
+    const std::size_t last = sum % 10;
+    return last == 0 ? '0' : static_cast<char>('0' + 10 - last);
 }
 
 /** Gives `add` the values of the digits, eight at a time from the right, the rightmost one last; in

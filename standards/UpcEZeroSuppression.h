@@ -109,9 +109,9 @@ inline constexpr auto kUpcEWeights = [] {
 inline char UpcECheckDigit(char numberSystem, std::string_view six) {
     const Word values = DigitValues(LoadWord<6>(six.data()));
     const UpcEWeights& weights = kUpcEWeights[static_cast<std::size_t>(six[5] - '0')];
+    const Word weighted = (values & weights.any) + 2 * (values & weights.three);
     return Modulo10Complement(static_cast<std::size_t>(numberSystem - '0') * 3 +
-                              WeightedSum(values & weights.any, 1, 1) +
-                              WeightedSum(values & weights.three, 2, 2));
+                              WeightedSum(weighted, 1, 1));
 }
 
 // Worked out by hand from the rule of zero suppression, one for each case.

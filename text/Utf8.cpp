@@ -84,6 +84,7 @@ std::optional<std::size_t> FirstInvalidUtf8(std::string_view bytes) {
 
 std::u32string CharactersFromUtf8(std::string_view bytes) {
     std::u32string characters;
+    characters.reserve(bytes.size());
     while (!bytes.empty()) {
         const Character character =
             FirstCharacter(bytes).value_or(Character{kReplacementCharacter, 1});

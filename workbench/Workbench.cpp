@@ -23,12 +23,12 @@ QString DefaultRoamingFolder() {
 /** The plug-in's place in the build tree and in an installation alike. */
 QString DefaultPlugIn() {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../lib/linewright/" LINEWRIGHT_PLUGIN_FILE));
+                           QStringLiteral("/" LINEWRIGHT_PLUGIN_FILE));
 }
 
 QString DefaultFonts() {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../share/linewright/fonts"));
+                           QStringLiteral("/" LINEWRIGHT_FONT_FOLDER));
 }
 
 WorkbenchOptions Completed(WorkbenchOptions options) {

@@ -107,14 +107,9 @@ BossClass ReadClass(const ResourceFile& file, const toml::table& table,
 
 }  // namespace
 
-ClassTable::ClassTable(const fs::path& resources, const PlugIn& plugIn) {
-    const std::vector<fs::path> files = TomlFilesIn(resources);
-    if (files.empty()) {
-        throw std::runtime_error("resource file missing: no .toml in " + Utf8FromPath(resources));
-    }
+ClassTable::ClassTable(const Definitions& definitions, const PlugIn& plugIn) {
     Registrations registrations(plugIn);
-    for (const fs::path& path : files) {
-        const ResourceFile file(path);
+    for (const ResourceFile& file : definitions.files) {
         file.ExpectOnly(file.Root(), {"plugin", "boss", "dialog", "menu"});
         file.GetID(file.Root(), "plugin");
         const bool showsOnly = file.Root().contains("dialog") || file.Root().contains("menu");
@@ -128,7 +123,7 @@ ClassTable::ClassTable(const fs::path& resources, const PlugIn& plugIn) {
             fClasses.push_back(std::move(next));
         }
     }
-    registrations.ExpectAllUsed(resources);
+    registrations.ExpectAllUsed(definitions.folder);
 }
 
 const BossClass* ClassTable::Find(ClassID id) const {

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <filesystem>
 #include <vector>
 
 #include "host/runtime/BossClass.h"
 
 namespace host {
 
+struct Definitions;
+
 /** The classes of a plug-in: those of its resource definitions, each interface bound to the
  *  implementation that the plug-in registered. */
 class ClassTable {
   public:
     ClassTable() = default;
-    /** Reads all definitions of a resource folder. Throws std::runtime_error saying what does not
-     *  fit together and where. */
-    ClassTable(const std::filesystem::path& resources, const PlugIn& plugIn);
+    /** Throws std::runtime_error saying what does not fit together and where. */
+    ClassTable(const Definitions& definitions, const PlugIn& plugIn);
 
     /** The class of an id; nullptr when there is none. */
     const BossClass* Find(ClassID id) const;

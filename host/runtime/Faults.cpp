@@ -9,9 +9,7 @@ namespace host {
 
 namespace {
 
-uint32 allocationsToFailure = 0;
 Faults::Io failingIo = Faults::Io::kNone;
-PMIID takenAway = IID_IPMUNKNOWN;
 
 PMIID InterfaceOf(Faults::Missing what) {
     switch (what) {
@@ -26,6 +24,9 @@ PMIID InterfaceOf(Faults::Missing what) {
 
 }  // namespace
 
+uint32 allocationsToFailure = 0;
+PMIID takenAway = IID_IPMUNKNOWN;
+
 void Faults::FailAllocation(uint32 n) {
     allocationsToFailure = n;
 }
@@ -38,16 +39,8 @@ void Faults::TakeAway(Missing what) {
     takenAway = InterfaceOf(what);
 }
 
-bool AllocationFails() {
-    return allocationsToFailure != 0 && --allocationsToFailure == 0;
-}
-
 bool IoFails(Faults::Io operation) {
     return failingIo == operation;
-}
-
-bool IsTakenAway(PMIID interfaceID) {
-    return interfaceID != IID_IPMUNKNOWN && interfaceID == takenAway;
 }
 
 }  // namespace host

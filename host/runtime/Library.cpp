@@ -16,9 +16,9 @@ namespace host {
 
 namespace {
 
-std::runtime_error LoadError(const fs::path& path, const std::string& reason) {
-    return std::runtime_error("plug-in library cannot be loaded: " + Utf8FromPath(path) + ": " +
-                              reason);
+std::runtime_error LoadError(const fs::path& path, const std::string& what,
+                             const std::string& reason) {
+    return std::runtime_error(what + " cannot be loaded: " + Utf8FromPath(path) + ": " + reason);
 }
 
 }  // namespace
@@ -27,10 +27,10 @@ std::runtime_error LoadError(const fs::path& path, const std::string& reason) {
 
 #ifdef _WIN32
 
-void Library::Load(const fs::path& path) {
+void Library::Load(const fs::path& path, const std::string& what) {
     fHandle = LoadLibraryExW(fs::absolute(path).make_preferred().c_str(), nullptr,
                              LOAD_WITH_ALTERED_SEARCH_PATH);
-    if (!fHandle) throw LoadError(path, "Windows error " + std::to_string(GetLastError()));
+    if (!fHandle) throw LoadError(path, what, "Windows error " + std::to_string(GetLastError()));
 }
 
 void Library::Unload() {
@@ -44,9 +44,9 @@ void (*Library::Find(const char* name) const)() {
 
 #else
 
-void Library::Load(const fs::path& path) {
+void Library::Load(const fs::path& path, const std::string& what) {
     fHandle = dlopen(fs::absolute(path).c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!fHandle) throw LoadError(path, dlerror());
+    if (!fHandle) throw LoadError(path, what, dlerror());
 }
 
 void Library::Unload() {

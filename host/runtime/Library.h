@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace host {
 
@@ -12,8 +13,8 @@ class Library {
     Library& operator=(const Library&) = delete;
     ~Library() { Unload(); }
 
-    /** Throws std::runtime_error with the reason. */
-    void Load(const std::filesystem::path& path);
+    /** Throws std::runtime_error with the reason; `what` it is that cannot be loaded. */
+    void Load(const std::filesystem::path& path, const std::string& what);
     void Unload();
     /** An exported function, or nullptr. */
     void (*Find(const char* name) const)();

@@ -5,6 +5,7 @@
 #include <limits>
 #include <stdexcept>
 
+#include "host/runtime/CompiledResource.h"
 #include "host/runtime/Paths.h"
 #include "host/runtime/Platform.h"
 #include "text/Utf8.h"
@@ -14,6 +15,8 @@ namespace fs = std::filesystem;
 namespace host {
 
 namespace {
+
+constexpr const char* kCompiledExtension = ".resource";
 
 std::string ReadWhole(const fs::path& path) {
     std::FILE* const file = OpenFile(path);
@@ -47,28 +50,39 @@ std::string Escaped(const std::string& utf8) {
     return result;
 }
 
+toml::table ParseToml(const std::string& content, const std::string& name) {
+    return toml::parse(Escaped(content), name);
+}
+
 std::runtime_error ErrorAt(const std::string& file, const toml::source_region& where,
                            const std::string& what) {
-    return std::runtime_error(file + ", line " + std::to_string(where.begin.line) + ": " + what);
+    const std::string line =
+        where.begin.line > 0 ? ", line " + std::to_string(where.begin.line) : "";
+    return std::runtime_error(file + line + ": " + what);
 }
 
 }  // namespace
 
-std::vector<fs::path> TomlFilesIn(const fs::path& folder) {
+std::vector<fs::path> ResourceFilesIn(const fs::path& folder) {
     std::vector<fs::path> files;
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-        if (entry.path().extension() == ".toml") files.push_back(entry.path());
+        const fs::path extension = entry.path().extension();
+        if (extension == ".toml" || extension == kCompiledExtension) files.push_back(entry.path());
     }
     std::sort(files.begin(), files.end());
     return files;
 }
 
 ResourceFile::ResourceFile(const fs::path& path) : fName(Utf8FromPath(path)) {
+    const std::string content = ReadWhole(path);
     try {
-        fRoot = toml::parse(Escaped(ReadWhole(path)), fName);
+        fRoot = path.extension() == kCompiledExtension ? ReadCompiledResource(content)
+                                                       : ParseToml(content, fName);
     } catch (const toml::parse_error& error) {
         throw ErrorAt(fName, error.source(), std::string(error.description()));
+    } catch (const std::runtime_error& error) {
+        throw ErrorAt(fName, {}, error.what());
     }
 }
 
@@ -117,6 +131,12 @@ void ResourceFile::ExpectOnly(const toml::table& table,
 
 void ResourceFile::Fail(const toml::node& where, const std::string& what) const {
     throw ErrorAt(fName, where.source(), what);
+}
+
+Definitions::Definitions(fs::path resources) : folder(std::move(resources)) {
+    for (const fs::path& path : ResourceFilesIn(folder)) files.emplace_back(path);
+    if (files.empty())
+        throw std::runtime_error("resource file missing: no .toml in " + Utf8FromPath(folder));
 }
 
 }  // namespace host

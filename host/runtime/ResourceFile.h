@@ -8,11 +8,11 @@
 
 namespace host {
 
-/** The TOML files of a folder by name. */
-std::vector<std::filesystem::path> TomlFilesIn(const std::filesystem::path& folder);
+/** The resource files of a folder by name: TOML, and what was compiled from it. */
+std::vector<std::filesystem::path> ResourceFilesIn(const std::filesystem::path& folder);
 
-/** A TOML file of a plug-in's resources. What is wrong with it is thrown as std::runtime_error with
- *  file and line. */
+/** A file of a plug-in's resources. What is wrong with it is thrown as std::runtime_error with
+ *  file and, for TOML, line. */
 class ResourceFile {
   public:
     explicit ResourceFile(const std::filesystem::path& path);
@@ -33,6 +33,15 @@ class ResourceFile {
   private:
     std::string fName;
     toml::table fRoot;
+};
+
+/** All definitions of a plug-in: the resource files of a folder. */
+struct Definitions {
+    /** Throws std::runtime_error, also where there are none. */
+    explicit Definitions(std::filesystem::path resources);
+
+    std::filesystem::path folder;
+    std::vector<ResourceFile> files;
 };
 
 }  // namespace host

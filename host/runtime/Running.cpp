@@ -12,6 +12,7 @@
 #include "host/runtime/Faults.h"
 #include "host/runtime/Paths.h"
 #include "host/runtime/Platform.h"
+#include "host/runtime/ResourceFile.h"
 #include "host/runtime/Session.h"
 #include "host/runtime/Thread.h"
 
@@ -76,9 +77,11 @@ void Running::Start(const Settings& settings) {
     session = new Boss(kSessionClass);
     executionSession = InterfacePtr<ISession>(session, UseDefaultIID());
     application = new Boss(kApplicationClass);
-    library.Load(plugIn);
-    classes = ClassTable(resources, FindPlugIn(library, plugIn));
-    views = ViewTable(resources, classes);
+    library.Load(plugIn, "plug-in library");
+    const PlugIn& loaded = FindPlugIn(library, plugIn);
+    const Definitions definitions(resources);
+    classes = ClassTable(definitions, loaded);
+    views = ViewTable(definitions, classes);
     const SettingsLock lock;
     RunServices();
 }

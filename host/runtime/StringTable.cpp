@@ -16,6 +16,13 @@ fs::path FolderIn(const fs::path& resources) {
     return resources / "strings";
 }
 
+/** The file of a locale's texts; that of the TOML where there is none. */
+fs::path FileOf(std::string_view locale, const fs::path& resources) {
+    for (const fs::path& file : ResourceFilesIn(FolderIn(resources)))
+        if (Utf8FromPath(file.stem()) == locale) return file;
+    return FolderIn(resources) / PathFromUtf8(std::string(locale) + ".toml");
+}
+
 /** A key's text in the pseudo-locale: the key and the markers of its text, "|" between them. */
 std::u32string PseudoText(const std::u32string& key, std::u32string_view text) {
     std::u32string result = key;
@@ -32,7 +39,7 @@ std::u32string PseudoText(const std::u32string& key, std::u32string_view text) {
 std::vector<std::string> ListLocales(const fs::path& resources) {
     std::vector<std::string> locales{std::string(kPseudoLocale)};
     if (fs::is_directory(FolderIn(resources))) {
-        for (const fs::path& file : TomlFilesIn(FolderIn(resources))) {
+        for (const fs::path& file : ResourceFilesIn(FolderIn(resources))) {
             locales.push_back(Utf8FromPath(file.stem()));
         }
     } else {
@@ -46,7 +53,7 @@ StringTable::StringTable(const fs::path& resources, std::string_view locale) {
     const bool isPseudo = locale == kPseudoLocale;
     const std::string_view source = isPseudo ? kDefaultLocale : locale;
     if (!fs::is_directory(FolderIn(resources))) return;
-    const ResourceFile file(FolderIn(resources) / PathFromUtf8(std::string(source) + ".toml"));
+    const ResourceFile file(FileOf(source, resources));
     for (const auto& [name, node] : file.Root()) {
         const auto text = node.value_exact<std::string_view>();
         if (!text) file.Fail(node, "the text of a key is a string");

@@ -146,9 +146,8 @@ void ReadMenu(const ResourceFile& file, const toml::table& table,
 
 }  // namespace
 
-ViewTable::ViewTable(const std::filesystem::path& resources, const ClassTable& classes) {
-    for (const std::filesystem::path& path : TomlFilesIn(resources)) {
-        const ResourceFile file(path);
+ViewTable::ViewTable(const Definitions& definitions, const ClassTable& classes) {
+    for (const ResourceFile& file : definitions.files) {
         if (file.Root().contains("dialog")) {
             for (const toml::table* table : file.GetTables(file.Root(), "dialog")) {
                 DialogResource dialog = ReadDialog(file, *table, classes);

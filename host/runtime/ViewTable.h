@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -9,6 +8,7 @@
 namespace host {
 
 class ClassTable;
+struct Definitions;
 
 /** A widget as a resource describes it. Texts are keys. */
 struct WidgetResource {
@@ -44,7 +44,7 @@ class ViewTable {
   public:
     ViewTable() = default;
     /** Throws std::runtime_error saying what does not fit together and where. */
-    ViewTable(const std::filesystem::path& resources, const ClassTable& classes);
+    ViewTable(const Definitions& definitions, const ClassTable& classes);
 
     /** nullptr when there is none. */
     const DialogResource* Find(PluginID plugin, RsrcID id) const;

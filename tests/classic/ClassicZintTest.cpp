@@ -316,8 +316,9 @@ std::string DrawEanUpc(const std::string& symbol, std::size_t mainSize) {
 std::string ZintEanUpc(int symbology, const std::string& main, const std::string& addOn,
                        std::size_t mainModules) {
     if (addOn.empty()) return ZintModules(symbology, main);
-    const std::string modules = ZintModules(symbology, main + "+" + addOn);
-    return modules.substr(0, mainModules) + " " + modules.substr(modules.find('1', mainModules));
+    std::string modules = ZintModules(symbology, main + "+" + addOn);
+    modules.replace(mainModules, modules.find('1', mainModules) - mainModules, 1, ' ');
+    return modules;
 }
 
 struct EanUpcCase {

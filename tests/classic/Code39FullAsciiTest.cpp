@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+#include <random>
+
 #include "classic/Code39.h"
+#include "standards/Code39Patterns.h"
+#include "tests/Rounds.h"
 #include "tests/TestBlock.h"
 
 namespace linewright {
@@ -43,6 +48,45 @@ TEST(Code39FullAscii, RefusesWhatIsAbove128) {
         PString string = MakePString(text);
         EXPECT_EQ(ExpandCode39FullAscii(string), -1) << byte;
         EXPECT_EQ(string.View(), text) << byte;
+    }
+}
+
+/** The symbol, or what stands in its place. */
+std::string Built(std::string_view data, bool fullAscii, uint16 checkMode) {
+    FixedText<kCode39ClassicCapacity> symbol;
+    const std::string_view marker = BuildCode39Classic(
+        data, {.fullAscii = fullAscii, .checkMode = checkMode, .useAsterisk = true}, symbol);
+    return std::string(marker.empty() ? symbol.View() : marker);
+}
+
+/** Letter by letter, with a check character modulo 43. */
+std::string Walked(std::string_view data) {
+    std::string symbol = "*";
+    std::size_t sum = 0;
+    for (const char character : data) {
+        const auto value = Code39Value(character);
+        if (!value) return "***Bad Code 39***";
+        symbol += character == ' ' ? '!' : character;
+        sum += *value;
+    }
+    const char check = kCode39Characters[sum % kCode39Characters.size()];
+    symbol += check == ' ' ? '!' : check;
+    return symbol + '*';
+}
+
+TEST(Code39FullAscii, IsWrittenAsTheCharactersItExpandsTo) {
+    std::mt19937 random(16388);
+    for (int round = 0; round < Rounds(); ++round) {
+        std::string data(random() % 128, '0');
+        const unsigned bytes = round % 8 == 0 ? 256 : round % 2 == 0 ? 129 : 10;
+        for (char& byte : data) byte = static_cast<char>((round % 2 ? '0' : 0) + random() % bytes);
+        PString expanded = MakePString(data);
+        ExpandCode39FullAscii(expanded);
+        for (const uint16 checkMode : std::initializer_list<uint16>{0, 1, 2})
+            ASSERT_EQ(Built(data, true, checkMode), Built(expanded.View(), false, checkMode))
+                << testing::PrintToString(data) << " with check mode " << checkMode;
+        ASSERT_EQ(Built(expanded.View(), false, 2), Walked(expanded.View()))
+            << testing::PrintToString(data);
     }
 }
 

@@ -34,7 +34,7 @@ CommandRunner::Result CommandRunner::Run(std::vector<std::string> arguments,
     std::ostringstream out;
     std::ostringstream err;
     Console console{in, out, err, false};
-    const int status = RunCommand(arguments, {}, console);
+    const int status = RunCommand(arguments, console);
     return {status, out.str(), err.str()};
 }
 

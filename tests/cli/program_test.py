@@ -113,10 +113,44 @@ class ProgramTest(unittest.TestCase):
         self.assertEqual(run.returncode, 2)
         self.assertIn(b"standard output", run.stderr)
 
-    def test_it_works_from_where_it_is_installed(self):
+    def install(self):
         prefix = self.folder / "an installation"
         subprocess.run([CMAKE, "--install", BUILD, "--prefix", str(prefix)], check=True,
                        stdout=subprocess.DEVNULL)
+        return prefix
+
+    def test_without_what_draws_it_says_so_and_writes_nothing(self):
+        prefix = self.install()
+        for module in prefix.rglob("Drawing.so"):
+            module.unlink()
+        table = self.folder / "table.csv"
+        table.write_text("type,data\nean8,1234567\n")
+        result = self.folder / "result"
+        for words in (["draw", "ean8", "1234567", "-o", str(result), "--format", "svg"],
+                      ["verify", "ean8", "1234567"],
+                      ["proof", str(table), "-o", str(result)],
+                      ["batch", str(table), "-o", str(result), "--verify"],
+                      ["batch", str(table), "-o", "-", "--verify"]):
+            run = self.run_program(*words, program=str(prefix / "bin" / "linewright"))
+            self.assertEqual((run.returncode, run.stdout), (2, b""), words)
+            self.assertIn(b"what draws barcodes and reads them back cannot be loaded", run.stderr)
+            self.assertIn(b"Drawing.so", run.stderr)
+            self.assertFalse(result.exists(), words)
+        run = self.run_program("batch", str(table), "-o", str(result),
+                               program=str(prefix / "bin" / "linewright"))
+        self.assertEqual(run.returncode, 0, run.stderr)
+
+    def test_what_does_not_draw_loads_nothing_for_it(self):
+        self.environment["LD_DEBUG"] = "files"
+        for words in (["encode", "ean8", "1234567"], ["types"], ["stream"]):
+            run = self.run_program(*words, input=b"")
+            self.assertEqual(run.returncode, 0, run.stderr)
+            self.assertIn(b"Linewright.so", run.stderr)
+            for name in (b"Drawing", b"cairo", b"freetype", b"zbar", b"ZXing", b"qpdf", b"tiff"):
+                self.assertNotIn(name, run.stderr, words)
+
+    def test_it_works_from_where_it_is_installed(self):
+        prefix = self.install()
         run = self.run_program("encode", "classic-code128b", "AB", "--hex", cwd=self.folder,
                                program=str(prefix / "bin" / "linewright"))
         self.assertEqual((run.returncode, run.stdout, run.stderr), (0, b"884142868a\n", b""))

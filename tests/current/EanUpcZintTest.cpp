@@ -65,9 +65,9 @@ std::string WithAddOn(const std::string& main, const std::string& addOn) {
 }
 
 template <std::size_t Capacity>
-Modules Built(int16 (*build)(const char* data, TextArea& symbol), const std::string& data) {
+Modules Built(int16 (*build)(std::string_view data, TextArea& symbol), const std::string& data) {
     FixedText<Capacity> symbol;
-    EXPECT_EQ(build(data.c_str(), symbol), kEncoded);
+    EXPECT_EQ(build(data, symbol), kEncoded);
     return FontModules(symbol.View());
 }
 

@@ -166,6 +166,61 @@ TEST_F(StartTest, FailsWithDefinitionsThatAreNoToml) {
         << Error();
 }
 
+/** What host/compile_resources.py makes of the definitions. */
+constexpr std::string_view kCompiled =
+    "{6:plugini626688;4:boss["
+    "{4:name12:kStarterBoss5:classi626689;10:interfaces[{4:name23:IStartupShutdownService2:idi3843;"
+    "14:implementationi626688;}]}"
+    "{4:name18:kSecondStarterBoss5:classi626690;10:interfaces[{4:name23:IStartupShutdownService2:"
+    "idi3843;14:implementationi626689;}]}"
+    "{4:name9:kEchoBoss5:classi626692;10:interfaces[{4:name5:IEcho2:idi626688;14:"
+    "implementationi626690;}]}"
+    "{4:name9:kNoteBoss5:classi626693;10:persistentt10:interfaces[{4:name5:INote2:idi626689;14:"
+    "implementationi626691;}]}]}";
+
+class CompiledTest : public StartTest {
+  protected:
+    CompiledTest() {
+        fs::remove_all(Resource("test.toml"));
+        fs::remove_all(Resource("strings/enUS.toml"));
+        WriteResource("strings/enUS.resource",
+                      "{9:kGreeting7:Gr\xC3\xBC\xC3\x9F"
+                      "e}");
+    }
+    fs::path Resource(const char* name) const { return plugIn.parent_path() / "resources" / name; }
+    /** What is said of the compiled definitions. */
+    std::string ErrorOf(std::string_view content) {
+        WriteResource("test.resource", content);
+        if (Start()) return "";
+        const std::string name = ToUtf8(Resource("test.resource"));
+        EXPECT_TRUE(Error().starts_with(name)) << Error();
+        return Error().substr(name.size());
+    }
+};
+
+TEST_F(CompiledTest, IsReadAsTheToml) {
+    EXPECT_EQ(ErrorOf(kCompiled), "");
+    EXPECT_EQ(ToUtf8(PMString("kGreeting")),
+              "Gr\xC3\xBC\xC3\x9F"
+              "e");
+    EXPECT_EQ(host::CountLocales(), 2);
+}
+
+TEST_F(CompiledTest, IsRefusedWithoutItsLine) {
+    EXPECT_EQ(ErrorOf(Replaced(kCompiled, "4:name9:kEchoBoss", "4:namei9;")),
+              ": \"name\" is a string");
+}
+
+TEST_F(CompiledTest, IsRefusedWhereItIsDamaged) {
+    constexpr std::string_view kDamaged = ": a damaged resource file";
+    for (std::size_t size = 0; size < kCompiled.size(); size += size < 40 ? 1 : 7)
+        ASSERT_EQ(ErrorOf(kCompiled.substr(0, size)), kDamaged) << size;
+    for (const std::string_view content :
+         {"{}x", "{1:ax}", "{1:ai1}", "{99999999999999999999:a}", "{5:ab}", "{1:a[", "{-1:at}"})
+        EXPECT_EQ(ErrorOf(content), kDamaged) << content;
+    EXPECT_EQ(ErrorOf("{1:a" + std::string(100'000, '[')), kDamaged);
+}
+
 TEST_F(StartTest, FailsWithAnImplementationThatNoClassUses) {
     WriteResource("test.toml", kDefinitions.substr(0, kDefinitions.rfind("[[boss]]")));
     EXPECT_FALSE(Start());

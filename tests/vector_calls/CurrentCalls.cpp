@@ -17,8 +17,8 @@ namespace linewright {
 namespace {
 
 /** The row's text for a builder; `"missing": true` stands for no text at all. */
-const char* Data(const Row& row) {
-    return row.fields.Value("missing", false) ? nullptr : row.data.c_str();
+std::string_view Data(const Row& row) {
+    return row.fields.Value("missing", false) ? std::string_view() : row.data.c_str();
 }
 
 /** A call of a builder; its text is compared where it succeeds. */
@@ -69,7 +69,9 @@ const bool kRegistered = RegisterCalls({
          return BuildMsiCurrent(Data(row), row.ratio, row.check != 0, symbol);
      })},
     {"MsiCheckDigit",
-     [](const Row& row) { return Outcome{.result = std::string(MsiCheckDigit(Data(row)))}; }},
+     [](const Row& row) {
+         return Outcome{.result = std::string(MsiCheckDigit(row.data.c_str()))};
+     }},
     {"BuildPostnetCurrent", Build<kPostnetCapacity>([](const Row& row, TextArea& symbol) {
          return BuildPostnetCurrent(Data(row), row.check != 0, symbol);
      })},
