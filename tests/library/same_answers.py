@@ -90,7 +90,7 @@ def answers(command: list[str], requests: list[dict]) -> list[dict]:
 
 def differs(wanted: dict, found: dict) -> bool:
     if not wanted["recognised"]:
-        return found["recognised"]
+        return found.get("recognised", False)
     if wanted["status"] != 0 and found.get("hex") in ("", None):
         found = {**found, "hex": wanted["hex"]}
     return any(found.get(name, wanted[name]) != wanted[name]
