@@ -42,5 +42,6 @@ linewright_part(DRAWING "Build what draws barcodes (Cairo, FreeType, fontconfig,
 linewright_part(SCANNERS "Build what reads drawings back (ZXing-C++, ZBar); the command draws with it only")
 linewright_part(WORKBENCH "Build the desktop window (Qt 6)")
 linewright_part(PYTHON_MODULE "Build the module for Python (pybind11)")
+linewright_part(SQLITE_EXTENSION "Build the extension for SQLite")
 linewright_part(TESTS "Build the tests (GoogleTest); AUTO: where this is no part of another project")
 linewright_part(WARNINGS_AS_ERRORS "Take warnings as errors; AUTO: with the compilers that they are checked with")

@@ -5,8 +5,8 @@ random rows; with 100,000 of these the data is tried as every type.
 Usage: same_answers.py STREAM-PROGRAM TESTS-FOLDER ROUNDS ANSWERER…
 
 ANSWERER reads the requests of `stream`, a line each, and writes a line for each with what it knows of
-`status`, `recognised`, `hex`, `hint`; its last two arguments are the host's folders. A refused row may leave out
-its bytes.
+`status`, `recognised`, `hex`, `hint`; its last two arguments are the host's folders. A refused row
+may leave out its bytes, or have a `message` alone.
 """
 import json
 import random
@@ -91,6 +91,8 @@ def answers(command: list[str], requests: list[dict]) -> list[dict]:
 def differs(wanted: dict, found: dict) -> bool:
     if not wanted["recognised"]:
         return found.get("recognised", False)
+    if "message" in found:
+        return wanted["status"] == 0 or wanted["hint"] not in ("", found["message"])
     if wanted["status"] != 0 and found.get("hex") in ("", None):
         found = {**found, "hex": wanted["hex"]}
     return any(found.get(name, wanted[name]) != wanted[name]
