@@ -64,7 +64,7 @@ ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& consol
     const BarcodeWish wish = WishOf(options.encode, console);
     const DrawnBarcode drawn = DrawOne(service, fonts, wish, options, console);
     if (!drawn.drawing) return kRefused;
-    Write(options.output, ContentOf(drawn, wish, file), console);
+    Write(options.output, ContentOf(drawn, wish, file.format, file.options), console);
     if (!options.isVerified) return kDone;
     std::ostream& report = options.output == "-" ? console.err : console.out;
     return IsVerified(drawn, options, report) ? kDone : kDoesNotScan;

@@ -67,7 +67,8 @@ class RowDrawer {
             const DrawnBarcode drawn = DrawBarcode(service, fonts, wish, options.drawing);
             Report(row, drawn);
             if (drawn.drawing) {
-                Write(NameOf(options.output, row, wish), ContentOf(drawn, wish, file));
+                Write(NameOf(options.output, row, wish),
+                      ContentOf(drawn, wish, file.format, file.options));
                 if (options.isVerified) Verify(row, drawn);
                 return;
             }

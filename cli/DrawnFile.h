@@ -5,7 +5,7 @@
 #include "cli/Console.h"
 #include "cli/DrawCommand.h"
 #include "render/Export.h"
-#include "requests/DrawnBarcode.h"
+#include "requests/DrawnFile.h"
 #include "scanners/Verification.h"
 
 namespace linewright {
@@ -23,8 +23,6 @@ FileWish FileWishOf(const DrawOptions& options);
  *  there is a warning about. */
 DrawnBarcode DrawOne(Service& service, Fonts& fonts, const BarcodeWish& wish,
                      const DrawOptions& options, Console& console);
-
-std::string ContentOf(const DrawnBarcode& drawn, const BarcodeWish& wish, FileWish file);
 
 /** Draws the rows of a CSV file, each into a file of its own. kRowsRefused when rows were refused,
  *  kDoesNotScan when one was to be verified and does not scan as it is meant. */

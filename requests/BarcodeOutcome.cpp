@@ -28,18 +28,26 @@ Refusal UnknownType(std::string_view written) {
     return {RefusalReason::kUnknownType, {nearest.begin(), nearest.end()}};
 }
 
-/** The name that the plug-in gets: one of its own is sent as it was written. */
-std::string_view SentName(const BarcodeWish& wish, const BarcodeType& type) {
-    return wish.type.starts_with(type.name) ? std::string_view(wish.type) : type.name;
+/** The name that the plug-in gets: one of its own is sent as it was written; "" where it is none.
+ */
+std::string_view SentName(std::string_view written, const BarcodeType* type) {
+    if (type == nullptr) return "";
+    const std::string_view name = written.starts_with(type->name) ? written : type->name;
+    return name.size() <= kMaxPStringLength ? name : "";
 }
 
 }  // namespace
 
+std::string SentTypeName(const std::string& written) {
+    return std::string(SentName(written, FindWrittenType(written).type));
+}
+
 BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish) {
     const WrittenType written = FindWrittenType(wish.type);
-    BarcodeOutcome outcome{.typeName = wish.type, .type = written.type};
-    if (written.type) outcome.typeName = SentName(wish, *written.type);
-    if (!written.type || outcome.typeName.size() > kMaxPStringLength) {
+    const std::string_view sent = SentName(wish.type, written.type);
+    BarcodeOutcome outcome{.typeName = std::string(sent.empty() ? wish.type : sent),
+                           .type = written.type};
+    if (sent.empty()) {
         outcome.refusal = UnknownType(wish.type);
         return outcome;
     }
@@ -52,6 +60,7 @@ BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish) {
     outcome.hint = answer.hint;
     if (answer.status != 0) {
         outcome.refusal = RefusalOf(answer);
+        outcome.marker = std::move(answer.bytes);
         return outcome;
     }
     outcome.meaning = MeaningOf({.type = *written.type,

@@ -50,6 +50,8 @@ struct BarcodeOutcome {
     std::string hint{};
     /** The font string; empty for a refusal. */
     std::string bytes{};
+    /** What the plug-in left of data that it refused: a marker, or the data. */
+    std::string marker{};
     std::optional<Refusal> refusal{};
     /** What the data and the bars mean, with all warnings; of a font string that was made. */
     Meaning meaning{};
@@ -57,6 +59,9 @@ struct BarcodeOutcome {
     bool IsMade() const { return !refusal; }
     const std::vector<Warning>& Warnings() const { return meaning.warnings; }
 };
+
+/** The type name that the plug-in gets for what a person wrote; "" for what names no type. */
+std::string SentTypeName(const std::string& written);
 
 /** Has the plug-in make a barcode, and refuses one with warnings where the wish is strict. Throws
  *  RequestFailure. */

@@ -7,8 +7,13 @@ namespace linewright {
 
 std::string FontText(std::string_view fontString) {
     std::string text;
+    text.reserve(fontString.size());
     for (const char byte : fontString) {
-        AppendUtf8(text, FontCharacter(static_cast<unsigned char>(byte)));
+        if (byte >= ' ' && byte <= '~') {
+            text += byte;
+        } else {
+            AppendUtf8(text, FontCharacter(static_cast<unsigned char>(byte)));
+        }
     }
     return text;
 }
