@@ -17,7 +17,7 @@ constexpr Language kLanguages[]{Language::kEnglish, Language::kGerman, Language:
 
 /** A warning with parameters that every sentence can show. */
 Warning Sample(WarningReason reason) {
-    return {reason, {"3", "7"}};
+    return {reason, {"3", "7", "9"}};
 }
 
 /** What is said has a sentence of its own in each language, for each number up to the last. */
