@@ -40,6 +40,9 @@ std::string_view CharactersOf(char set) {
         case 'x': return kSet82;
         case 'y': return kSet39;
         case 'z': return kSet64;
+        case 'b': return "01";
+        case '0': return "0";
+        case '-': return "-";
         default: return kDigits;
     }
 }
@@ -88,6 +91,22 @@ bool IsDate(std::string_view digits, bool mayLackDay) {
     return (day >= 1 || mayLackDay) && day <= days;
 }
 
+/** HH or HHMM. */
+bool IsTime(std::string_view digits) {
+    return NumberOf(digits.substr(0, 2)) < 24 && NumberOf(digits.substr(2)) < 60;
+}
+
+bool IsPossible(std::string_view digits, char rule) {
+    switch (rule) {
+        case 'd': return IsDate(digits, true);
+        case 'D': return IsDate(digits, false);
+        case 't': return IsTime(digits);
+        case 'T': return IsTime(digits) || digits == "9999";
+        case 'm': return NumberOf(digits) < 60;
+        default: return true;
+    }
+}
+
 std::optional<Warning> WarningOf(std::string_view identifier, std::string_view value,
                                  const Component& component) {
     const std::size_t bad = value.find_first_not_of(component.characters);
@@ -101,8 +120,7 @@ std::optional<Warning> WarningOf(std::string_view identifier, std::string_view v
         return Warning{WarningReason::kElementCheckDigit,
                        {std::string(identifier), {value.back()}, {computed}}};
     }
-    const bool isDate = component.rule == 'd' || component.rule == 'D';
-    if (!isDate || IsDate(value, component.rule == 'd')) return std::nullopt;
+    if (IsPossible(value, component.rule)) return std::nullopt;
     return Warning{WarningReason::kElementDate, {std::string(identifier), std::string(value)}};
 }
 

@@ -11,9 +11,11 @@ namespace linewright::meaning {
 
 /**
  * Identifiers from one to another, and what their values are: components with a blank between them.
- * A component is a character set ("n" digits, "x" set 82, "y" set 39, "z" set 64), its length ("6",
- * or "..20" for 1 to 20) and perhaps a rule ("c" ends with its check digit, "d" is a date of which
- * the day may be 00, "D" a date with its day). From one with "?" in front on a value may end.
+ * A component is a character set ("n" digits, "x" set 82, "y" set 39, "z" set 64, "b" 0 and 1, and
+ * "0" and "-" for themselves), its length ("6", or "..20" for 1 to 20) and perhaps a rule: "c" ends
+ * with its check digit, "d" is a date of which the day may be 00, "D" a date with its day, "t" an
+ * hour and perhaps a minute, "T" the same or 9999 for none, "m" a minute or second. From one with
+ * "?" in front on a value may end.
  */
 struct Gs1Identifiers {
     std::string_view first;
@@ -81,13 +83,13 @@ inline constexpr std::array kGs1Identifiers{
     Gs1Identifiers{"4319", "4319", "x..30"},
     Gs1Identifiers{"4320", "4320", "x..35"},
     // 50
-    Gs1Identifiers{"4321", "4323", "n1"},
-    Gs1Identifiers{"4324", "4325", "n6d n4"},
+    Gs1Identifiers{"4321", "4323", "b1"},
+    Gs1Identifiers{"4324", "4325", "n6d n4T"},
     Gs1Identifiers{"4326", "4326", "n6D"},
-    Gs1Identifiers{"4330", "4333", "n6 ?x1"},
+    Gs1Identifiers{"4330", "4333", "n6 ?-1"},
     Gs1Identifiers{"7001", "7001", "n13"},
     Gs1Identifiers{"7002", "7002", "x..30"},
-    Gs1Identifiers{"7003", "7003", "n6D n4"},
+    Gs1Identifiers{"7003", "7003", "n6D n4t"},
     Gs1Identifiers{"7004", "7004", "n..4"},
     Gs1Identifiers{"7005", "7005", "x..12"},
     Gs1Identifiers{"7006", "7006", "n6D"},
@@ -96,7 +98,7 @@ inline constexpr std::array kGs1Identifiers{
     Gs1Identifiers{"7008", "7008", "x..3"},
     Gs1Identifiers{"7009", "7009", "x..10"},
     Gs1Identifiers{"7010", "7010", "x..2"},
-    Gs1Identifiers{"7011", "7011", "n6D ?n4"},
+    Gs1Identifiers{"7011", "7011", "n6D ?n4t"},
     Gs1Identifiers{"7020", "7022", "x..20"},
     Gs1Identifiers{"7023", "7023", "x..30"},
     Gs1Identifiers{"7030", "7039", "n3 x..27"},
@@ -109,7 +111,7 @@ inline constexpr std::array kGs1Identifiers{
     Gs1Identifiers{"7241", "7241", "n2"},
     Gs1Identifiers{"7242", "7242", "x..25"},
     Gs1Identifiers{"7250", "7250", "n8D"},
-    Gs1Identifiers{"7251", "7251", "n8D n4"},
+    Gs1Identifiers{"7251", "7251", "n8D n4t"},
     Gs1Identifiers{"7252", "7252", "n1"},
     Gs1Identifiers{"7253", "7254", "x..40"},
     Gs1Identifiers{"7255", "7255", "x..10"},
@@ -120,13 +122,13 @@ inline constexpr std::array kGs1Identifiers{
     Gs1Identifiers{"7259", "7259", "x..40"},
     Gs1Identifiers{"8001", "8001", "n14"},
     Gs1Identifiers{"8002", "8002", "x..20"},
-    Gs1Identifiers{"8003", "8003", "n14c ?x..16"},
+    Gs1Identifiers{"8003", "8003", "01 n13c ?x..16"},
     Gs1Identifiers{"8004", "8004", "x..30"},
     Gs1Identifiers{"8005", "8005", "n6"},
     Gs1Identifiers{"8006", "8006", "n14c n4"},
     // 90
     Gs1Identifiers{"8007", "8007", "x..34"},
-    Gs1Identifiers{"8008", "8008", "n6D n2 ?n2 ?n2"},
+    Gs1Identifiers{"8008", "8008", "n6D n2t ?n2m ?n2m"},
     Gs1Identifiers{"8009", "8009", "x..50"},
     Gs1Identifiers{"8010", "8010", "y..30"},
     Gs1Identifiers{"8011", "8011", "n..12"},

@@ -58,7 +58,7 @@ enum class WarningReason : std::uint8_t {
     kElementCharacter,
     /** A GS1 application identifier, the check digit in its value, and the computed one. */
     kElementCheckDigit,
-    /** A GS1 application identifier; what is no date in its value. */
+    /** A GS1 application identifier; what is no date or time in its value. */
     kElementDate,
     /** No scanner finds a symbol in the font string. */
     kNoSymbol,

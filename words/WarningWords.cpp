@@ -159,10 +159,12 @@ constexpr Translations TranslationsOf(WarningReason reason) {
                     "être {2}",
                     "GS1 識別子 ({0}) のチェックデジットは {1} ではなく {2} のはずです"};
         case WarningReason::kElementDate:
-            return {"the value of GS1 identifier ({0}) holds {1}, which is no date",
-                    "der Wert des GS1-Datenbezeichners ({0}) enthält {1}; das ist kein Datum",
-                    "la valeur de l’identifiant GS1 ({0}) contient {1}, qui n’est pas une date",
-                    "GS1 識別子 ({0}) の値にある {1} は日付ではありません"};
+            return {"the value of GS1 identifier ({0}) holds {1}, which is no date or time",
+                    "der Wert des GS1-Datenbezeichners ({0}) enthält {1}; das ist kein Datum und "
+                    "keine Zeit",
+                    "la valeur de l’identifiant GS1 ({0}) contient {1}, qui n’est ni une date ni "
+                    "une heure",
+                    "GS1 識別子 ({0}) の値にある {1} は日付でも時刻でもありません"};
         case WarningReason::kNoSymbol:
             return {"the bars are no symbol of this type: no scanner reads them",
                     "kein Scanner findet in diesen Balken ein Symbol",

@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 #include <zint.h>
 
-#include <array>
-#include <map>
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 
 #include "meaning/Gs1Elements.h"
 #include "meaning/Gs1Identifiers.h"
@@ -54,8 +55,8 @@ class RandomElements {
     std::string IdentifierOf(const Gs1Identifiers& row) {
         const int first = std::stoi(std::string(row.first));
         const int last = std::stoi(std::string(row.last));
-        std::string identifier =
-            std::to_string(first + static_cast<int>(Below(static_cast<std::size_t>(last - first + 1))));
+        std::string identifier = std::to_string(
+            first + static_cast<int>(Below(static_cast<std::size_t>(last - first + 1))));
         identifier.insert(0, row.first.size() - identifier.size(), '0');
         if (identifier.back() > row.highestDigit) identifier.back() = row.highestDigit;
         return identifier;
@@ -73,52 +74,119 @@ class RandomElements {
     }
 
     std::string ComponentOf(std::string_view component) {
-        const std::size_t number = component.find_first_of("0123456789");
+        const std::size_t number = component.find_first_of("0123456789", 1);
         const bool isVariable = number > 1;
         std::size_t length = std::stoul(std::string(component.substr(number)));
         if (isVariable) length = 1 + Below(length);
         const char rule = component.back();
         std::string value;
         for (std::size_t i = 0; i < length; ++i) {
-            const bool isDigit = component.front() == 'n' || Below(2) == 0;
-            value += isDigit ? RandomDigit() : static_cast<char>('A' + Below(26));
+            value += RandomOf(component.front());
         }
         if (rule == 'c') value.back() = Modulo10CheckDigit(value.substr(0, length - 1));
         if (rule == 'd' || rule == 'D') PutDate(value, rule == 'd');
+        if ((rule == 't' || rule == 'T') && Below(2) == 0)
+            value = std::string("2359").substr(0, length);
         return value;
+    }
+
+    char RandomOf(char set) {
+        switch (set) {
+            case '0':
+            case '-': return set;
+            case 'b': return static_cast<char>('0' + Below(2));
+            case 'n': return RandomDigit();
+            default: return Below(2) == 0 ? RandomDigit() : static_cast<char>('A' + Below(26));
+        }
     }
 
     void PutDate(std::string& value, bool mayLackDay) {
         const std::size_t month = 1 + Below(12);
         const std::size_t day = mayLackDay ? Below(30) : 1 + Below(29);
         const std::size_t place = value.size() - 4;
-        value.replace(place, 4, {static_cast<char>('0' + month / 10), static_cast<char>('0' + month % 10),
-                                 static_cast<char>('0' + day / 10), static_cast<char>('0' + day % 10)});
+        value.replace(place, 4,
+                      {static_cast<char>('0' + month / 10), static_cast<char>('0' + month % 10),
+                       static_cast<char>('0' + day / 10), static_cast<char>('0' + day % 10)});
     }
 
     std::mt19937 random{20260};
 };
 
-bool IsRightByZint(const RandomElements::Element& element) {
+bool IsRightByZint(const std::string& identifier, const std::string& value) {
     const std::unique_ptr<zint_symbol, decltype(&ZBarcode_Delete)> symbol(ZBarcode_Create(),
                                                                           &ZBarcode_Delete);
     symbol->symbology = BARCODE_DATAMATRIX;
     symbol->input_mode = GS1_MODE;
-    const std::string text = "[" + element.identifier + "]" + element.value;
+    const std::string text = "[" + identifier + "]" + value;
     return ZBarcode_Encode(symbol.get(), reinterpret_cast<const unsigned char*>(text.data()),
                            static_cast<int>(text.size())) == 0;
 }
 
+/** Where libzint 2.11 refuses more, by how the identifiers begin. */
+constexpr std::string_view kStricter[]{
+    // Not known there yet.
+    "03",
+    "433",
+    "716",
+    "7041",
+    "7241",
+    "7242",
+    "725",
+    "8014",
+    "8030",
+    // Country and currency codes are looked up.
+    "391",
+    "393",
+    "421",
+    "422",
+    "423",
+    "424",
+    "425",
+    "426",
+    "4307",
+    "4317",
+    "703",
+    // Structures within a value: company prefixes, positions, windings, pieces of a total, account
+    // and model numbers, coupons, a number without a zero in front.
+    "401",
+    "7023",
+    "8004",
+    "8010",
+    "4309",
+    "8001",
+    "8006",
+    "8026",
+    "8007",
+    "8013",
+    "8110",
+    "8112",
+    "8011",
+    // A date without its time is refused.
+    "7011",
+};
+
+bool IsStricter(std::string_view identifier) {
+    return std::any_of(std::begin(kStricter), std::end(kStricter),
+                       [&](std::string_view start) { return identifier.starts_with(start); });
+}
+
 TEST(Gs1Zint, AgreesAboutElements) {
     RandomElements random;
-    std::map<std::string, std::array<int, 4>> counts;
+    int right = 0;
+    int wrong = 0;
     for (int i = 0; i < 10'000; ++i) {
-        const RandomElements::Element element = random.Next();
-        const std::string carried = element.identifier + element.value;
+        const auto& [identifier, value] = random.Next();
+        // A reader finds the identifier by its first digits, whatever stood in brackets.
+        if (meaning::Gs1IdentifierLength(identifier) != identifier.size()) continue;
+        const std::string carried = identifier + value;
         const bool isRight = ElementWarnings(SplitSeparatedElements(carried)).empty();
-        const bool isRightByZint = IsRightByZint(element);
-        if (isRight != isRightByZint) printf("%s %s ours %d\n", element.identifier.c_str(), element.value.c_str(), isRight);
+        const bool isRightByZint = IsRightByZint(identifier, value);
+        ++(isRight ? right : wrong);
+        if (isRight && IsStricter(identifier)) continue;
+        EXPECT_EQ(isRight, isRightByZint) << '(' << identifier << ')' << value;
     }
+    EXPECT_GT(right, 4000);
+    EXPECT_GT(wrong, 2000);
 }
 
 }  // namespace
