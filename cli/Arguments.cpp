@@ -51,6 +51,11 @@ void AddRatio(CLI::App& command, const CLI::callback_t& store) {
         ->check(CLI::IsMember({"2", "2.0", "2.5", "3", "3.0"}).description(""));
 }
 
+void AddGtin(CLI::App& command, bool& isArticleNumber) {
+    command.add_flag("--gtin", isArticleNumber,
+                     "Bring article numbers, ISBN and ISSN to the type's form");
+}
+
 void AddTypes(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("types", "List the barcode types and their names");
     command.add_flag("--json", arguments.isTypesJson, "Print a JSON array");
@@ -72,6 +77,7 @@ CLI::Option* AddBarcode(CLI::App& command, EncodeOptions& encode) {
     });
     command.add_flag("--bytes", encode.isBytes, "Send the data as it is, without conversion");
     command.add_flag("--strict", encode.isStrict, "Refuse what there is a warning about");
+    AddGtin(command, encode.isArticleNumber);
     return data;
 }
 
@@ -140,6 +146,7 @@ void AddRows(CLI::App& command, Arguments& arguments) {
         return true;
     });
     command.add_flag("--strict", batch.isStrict, "Refuse rows that there is a warning about");
+    AddGtin(command, batch.isArticleNumber);
 }
 
 void AddBatch(CLI::App& app, Arguments& arguments) {

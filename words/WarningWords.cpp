@@ -222,6 +222,7 @@ std::string Sentence(const Warning& warning, Language language) {
 
 std::string JoinedWarnings(const BarcodeOutcome& outcome, Language language) {
     std::string text;
+    if (outcome.note) text = Sentence(*outcome.note, language);
     for (const Warning& warning : outcome.Warnings()) {
         if (!text.empty()) text += "; ";
         text += Sentence(warning, language);
