@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "cli/LineReader.h"
+#include "stream/LineReader.h"
 #include "merge/Failure.h"
 #include "text/Readable.h"
 

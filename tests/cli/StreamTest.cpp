@@ -3,9 +3,9 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "cli/LineReader.h"
-#include "cli/StreamRequest.h"
 #include "merge/Failure.h"
+#include "stream/LineReader.h"
+#include "stream/StreamRequest.h"
 #include "tests/cli/CommandRunner.h"
 #include "text/Hex.h"
 
@@ -17,7 +17,7 @@ using nlohmann::json;
 
 EncodeRequest Parsed(std::string_view line) {
     std::string id;
-    return ParseStreamRequest(line, id);
+    return ParseStreamRequest(line, id).encode;
 }
 
 std::string WhyRefused(std::string_view line) {
@@ -70,7 +70,7 @@ TEST(StreamRequest, SaysWhatIsWrong) {
     EXPECT_EQ(
         WhyRefused(R"({"type":"","data":"","ratoi":3})"),
         R"(there is no member "ratoi"; the members are type, typeHex, data, hex, utf8, check, )"
-        "ratio, id");
+        "ratio, gtin, warnings, id");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":"3"})"), R"("ratio" is not a number)");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":1e999})"), "a number is too large");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","utf8":false})"),
