@@ -1,7 +1,7 @@
 #include "stream/AnswerWriter.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <nlohmann/json.hpp>
 
 #include "text/FontText.h"
@@ -17,13 +17,18 @@ std::string Quoted(std::string_view utf8) {
     return nlohmann::json(utf8).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-/** The text form of each byte of a font string as it stands within a JSON text. */
-const std::array<std::string, 256>& FontTexts() {
+/** The text form of a byte of a font string as it stands within a JSON text. */
+struct ByteText {
+    std::array<char, 4> characters{};
+    std::size_t size = 0;
+};
+
+const std::array<ByteText, 256>& ByteTexts() {
     static const auto texts = [] {
-        std::array<std::string, 256> made;
+        std::array<ByteText, 256> made;
         for (std::size_t byte = 0; byte < made.size(); ++byte) {
             const std::string quoted = Quoted(FontText(std::string(1, static_cast<char>(byte))));
-            made[byte] = quoted.substr(1, quoted.size() - 2);
+            made[byte].size = quoted.copy(made[byte].characters.data(), quoted.size() - 2, 1);
         }
         return made;
     }();
@@ -31,8 +36,15 @@ const std::array<std::string, 256>& FontTexts() {
 }
 
 void AppendFontText(std::string& text, std::string_view fontString) {
-    const auto& texts = FontTexts();
-    for (const char byte : fontString) text += texts[static_cast<unsigned char>(byte)];
+    const auto& texts = ByteTexts();
+    std::size_t end = text.size();
+    text.resize(end + fontString.size() * sizeof(ByteText::characters));
+    for (const char byte : fontString) {
+        const ByteText& one = texts[static_cast<unsigned char>(byte)];
+        std::copy_n(one.characters.begin(), one.characters.size(), text.data() + end);
+        end += one.size;
+    }
+    text.resize(end);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "text/Hex.h"
+#include "text/Utf8.h"
 
 namespace linewright {
 
@@ -84,6 +85,19 @@ class MemberTaker {
     bool isInObject = false;
 };
 
+/** Whether a line is UTF-8 without escapes and NUL: then reading in place changes nothing but
+ * quotes, which become NUL. What is broken off would lead the reader's own look at UTF-8 beyond the
+ * end. */
+bool IsPlain(std::string_view line) {
+    unsigned bits = 0;
+    bool isPlain = true;
+    for (const char character : line) {
+        bits |= static_cast<unsigned char>(character);
+        isPlain &= character != '\\' && character != '\0';
+    }
+    return isPlain && (bits < 128 || !FirstInvalidUtf8(line));
+}
+
 /** The text of one of two members, of which the second is hexadecimal. */
 std::optional<std::string> TextOrHex(const MemberTaker& members, Member text, Member hex) {
     if (members.Has(text) == members.Has(hex)) return std::nullopt;
@@ -144,14 +158,11 @@ std::optional<StreamRequest> RequestOf(const MemberTaker& members) {
 }  // namespace
 
 std::optional<StreamRequest> ReadPlainRequest(std::string& line, std::string& id) {
-    // Without these two the one thing that reading in place changes is a quote, which becomes NUL.
-    constexpr std::string_view kNotPlain("\\\0", 2);
-    if (line.find_first_of(kNotPlain) != std::string::npos) return std::nullopt;
+    if (!IsPlain(line)) return std::nullopt;
     rapidjson::InsituStringStream stream(line.data());
     rapidjson::Reader reader;
     MemberTaker members;
-    constexpr unsigned kHow = rapidjson::kParseInsituFlag | rapidjson::kParseValidateEncodingFlag |
-                              rapidjson::kParseFullPrecisionFlag;
+    constexpr unsigned kHow = rapidjson::kParseInsituFlag | rapidjson::kParseFullPrecisionFlag;
     std::optional<StreamRequest> request;
     if (!reader.Parse<kHow>(stream, members).IsError()) request = RequestOf(members);
     if (request) {
