@@ -18,14 +18,13 @@ namespace {
 
 constexpr int kNameColumn = 26;
 
-/** The library's form of a help text without the blank line above options, which a screen has no
- *  room for, and with --no-text where it has --no-text{false}. */
+/** The library's form of a help text without blank lines above lists, which a screen has no room
+ *  for, and with --no-text where it has --no-text{false}. */
 class HelpFormatter : public CLI::Formatter {
   public:
     std::string make_group(std::string group, bool isPositional,
                            std::vector<const CLI::Option*> options) const override {
-        const std::string text = CLI::Formatter::make_group(group, isPositional, options);
-        return isPositional ? text : text.substr(1);
+        return CLI::Formatter::make_group(group, isPositional, options).substr(1);
     }
     std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
         return CLI::detail::find_and_replace(CLI::Formatter::make_option_name(option, isPositional),
@@ -102,8 +101,9 @@ void AddStream(CLI::App& app) {
         *app.add_subcommand("stream", "Answer requests, a JSON object a line, as they come");
     command.footer(
         "In:   \"type\" or \"typeHex\", \"data\" or \"hex\" (with \"utf8\"), \"check\", \"ratio\", "
-        "\"id\"\n"
-        "Out:  \"id\", \"status\", \"recognised\", \"hex\", \"text\", \"hint\"\n\n"
+        "\"gtin\", \"warnings\", \"id\"\n"
+        "Out:  \"id\", \"status\", \"recognised\", \"hex\", \"text\", \"hint\", \"note\", "
+        "\"warnings\"\n\n"
         "Example:  echo '{\"type\":\"_QVT_BARCODE_EAN13_\",\"data\":\"4006381333931\"}' "
         "| linewright stream");
 }

@@ -278,6 +278,45 @@ TEST(Stream, PutsTheIdInFront) {
 )");
 }
 
+TEST(Stream, BringsNumbersToTheFormOfTheirType) {
+    const CommandRunner command;
+    const auto result =
+        command.Run({"stream"}, R"({"type":"_QVT_BARCODE_EAN13_","data":"0-306-40615-2","gtin":true}
+{"type":"_QVT_BARCODE_EAN13_","data":"9780306406157"}
+{"type":"_QVT_BARCODE_EAN13_","data":"0-306-40615-3","gtin":true,"id":7}
+{"type":"ean13","data":"0-306-40615-2","gtin":true}
+)");
+    EXPECT_EQ(result.status, 2);
+    const std::vector<json> answers = Answers(result.out);
+    ASSERT_EQ(answers.size(), 4U);
+    EXPECT_EQ(answers[0]["hex"], answers[1]["hex"]);
+    EXPECT_EQ(answers[0]["note"],
+              "ISBN-10 0-306-40615-2 was brought to the type's form: 9780306406157");
+    EXPECT_FALSE(answers[1].contains("note"));
+    EXPECT_EQ(answers[2]["error"],
+              "line 3: the check digit of ISBN-10 0-306-40615-3 is 3, and should be 2");
+    EXPECT_EQ(answers[2]["id"], 7);
+    EXPECT_EQ(answers[3]["recognised"], false) << "no short names here";
+}
+
+TEST(Stream, WarnsWhereItIsAsked) {
+    const CommandRunner command;
+    const auto result = command.Run(
+        {"stream"}, R"({"type":"_QVT_BARCODE_EAN13_","data":"12345678905","warnings":true}
+{"type":"_QVT_BARCODE_EAN13_","data":"12345678905"}
+{"type":"_QVT_BARCODE_EAN13_","data":"400638133393","warnings":true}
+{"type":"_QVT_BARCODE_EAN13_","data":"x","warnings":true}
+)");
+    EXPECT_EQ(result.status, 0);
+    const std::vector<json> answers = Answers(result.out);
+    ASSERT_EQ(answers.size(), 4U);
+    EXPECT_EQ(answers[0]["warnings"],
+              json::array({"zeros put in front (1): the number in the bars is 0123456789050"}));
+    EXPECT_FALSE(answers[1].contains("warnings"));
+    EXPECT_EQ(answers[2]["warnings"], json::array());
+    EXPECT_EQ(answers[3]["warnings"], json::array()) << "refused data is not warned about";
+}
+
 TEST(Stream, OfNothingIsNothing) {
     const CommandRunner command;
     const auto result = command.Run({"stream"});
