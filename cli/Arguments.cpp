@@ -18,14 +18,13 @@ namespace {
 
 constexpr int kNameColumn = 26;
 
-/** The library's form of a help text without the blank line above options, which a screen has no
- *  room for, and with --no-text where it has --no-text{false}. */
+/** The library's form of a help text without blank lines above lists, which a screen has no room
+ *  for, and with --no-text where it has --no-text{false}. */
 class HelpFormatter : public CLI::Formatter {
   public:
     std::string make_group(std::string group, bool isPositional,
                            std::vector<const CLI::Option*> options) const override {
-        const std::string text = CLI::Formatter::make_group(group, isPositional, options);
-        return isPositional ? text : text.substr(1);
+        return CLI::Formatter::make_group(group, isPositional, options).substr(1);
     }
     std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
         return CLI::detail::find_and_replace(CLI::Formatter::make_option_name(option, isPositional),
@@ -51,6 +50,11 @@ void AddRatio(CLI::App& command, const CLI::callback_t& store) {
         ->check(CLI::IsMember({"2", "2.0", "2.5", "3", "3.0"}).description(""));
 }
 
+void AddGtin(CLI::App& command, bool& isArticleNumber) {
+    command.add_flag("--gtin", isArticleNumber,
+                     "Bring article numbers, ISBN and ISSN to the type's form");
+}
+
 void AddTypes(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("types", "List the barcode types and their names");
     command.add_flag("--json", arguments.isTypesJson, "Print a JSON array");
@@ -72,6 +76,7 @@ CLI::Option* AddBarcode(CLI::App& command, EncodeOptions& encode) {
     });
     command.add_flag("--bytes", encode.isBytes, "Send the data as it is, without conversion");
     command.add_flag("--strict", encode.isStrict, "Refuse what there is a warning about");
+    AddGtin(command, encode.isArticleNumber);
     return data;
 }
 
@@ -96,8 +101,9 @@ void AddStream(CLI::App& app) {
         *app.add_subcommand("stream", "Answer requests, a JSON object a line, as they come");
     command.footer(
         "In:   \"type\" or \"typeHex\", \"data\" or \"hex\" (with \"utf8\"), \"check\", \"ratio\", "
-        "\"id\"\n"
-        "Out:  \"id\", \"status\", \"recognised\", \"hex\", \"text\", \"hint\"\n\n"
+        "\"gtin\", \"warnings\", \"id\"\n"
+        "Out:  \"id\", \"status\", \"recognised\", \"hex\", \"text\", \"hint\", \"note\", "
+        "\"warnings\"\n\n"
         "Example:  echo '{\"type\":\"_QVT_BARCODE_EAN13_\",\"data\":\"4006381333931\"}' "
         "| linewright stream");
 }
@@ -140,6 +146,7 @@ void AddRows(CLI::App& command, Arguments& arguments) {
         return true;
     });
     command.add_flag("--strict", batch.isStrict, "Refuse rows that there is a warning about");
+    AddGtin(command, batch.isArticleNumber);
 }
 
 void AddBatch(CLI::App& app, Arguments& arguments) {

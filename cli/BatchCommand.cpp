@@ -23,6 +23,7 @@ struct Counts {
     std::size_t rows = 0;
     std::size_t refused = 0;
     std::size_t warned = 0;
+    UpcAColumn upcANumbers{};
 
     std::string Summary() const {
         return fmt::format("{}: {} encoded ({} with warnings), {} refused", Times(rows, "row"),
@@ -43,6 +44,7 @@ MakeRow RowMaker(Service& service, const BatchOptions& options) {
 RowResult ResultOf(const MakeRow& make, const BarcodeWish& wish, Language language,
                    Counts& counts) {
     const ScannedBarcode made = make(wish);
+    if (!wish.isArticleNumber) counts.upcANumbers.Take(made.outcome.type, wish.data);
     if (!made.outcome.IsMade()) {
         ++counts.refused;
     } else if (!made.outcome.Warnings().empty()) {
@@ -108,6 +110,9 @@ ExitStatus RunBatch(Service& service, const BatchFiles& files, const BatchOption
         file.Keep();
     }
     console.err << counts.Summary() << '\n';
+    if (const auto found = counts.upcANumbers.Found()) {
+        console.err << "linewright: note: " << Sentence(*found, console.language) << '\n';
+    }
     return counts.refused == 0 ? kDone : kRowsRefused;
 }
 

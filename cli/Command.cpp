@@ -13,10 +13,10 @@
 #include "cli/FontsCommand.h"
 #include "cli/Installation.h"
 #include "cli/PrefsCommand.h"
-#include "cli/StreamCommand.h"
 #include "cli/TypesCommand.h"
 #include "host/runtime/Paths.h"
 #include "merge/Failure.h"
+#include "stream/AnswerLines.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -28,7 +28,9 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
     switch (arguments.command) {
         case Arguments::Command::kTypes: return RunTypes(service, arguments.isTypesJson, console);
         case Arguments::Command::kEncode: return RunEncode(service, arguments.encode, console);
-        case Arguments::Command::kStream: return RunStream(service, console);
+        case Arguments::Command::kStream:
+            return AnswerLines(service, console.in, console.out, console.language) ? kDone
+                                                                                   : kTrouble;
         case Arguments::Command::kBatch:
             return RunBatch(service, arguments.batchFiles, arguments.batch, console);
         case Arguments::Command::kPrefs: return RunPrefs(console);

@@ -2,8 +2,8 @@
 
 #include <fmt/format.h>
 
-#include "cli/LineReader.h"
 #include "merge/Failure.h"
+#include "stream/LineReader.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -89,6 +89,9 @@ class RowDrawer {
     }
 
     void Report(const CsvRecord& row, const DrawnBarcode& drawn) {
+        if (drawn.outcome.note) {
+            Say(row, "note: " + Sentence(*drawn.outcome.note, console.language));
+        }
         for (const Warning& warning : drawn.outcome.Warnings()) {
             Say(row, "warning: " + Sentence(warning, console.language));
         }
@@ -137,6 +140,7 @@ ExitStatus RunDrawRows(Service& service, const DrawOptions& options, const FileW
     BatchOptions rows = options.rows;
     rows.isCheckWanted = options.encode.isCheckWanted;
     rows.isStrict = options.encode.isStrict;
+    rows.isArticleNumber = options.encode.isArticleNumber;
     rows.ratio = options.encode.ratio;
     const std::string& input = options.encode.type;
     const std::string text = ReadInput(input, console.in);

@@ -41,6 +41,7 @@ std::string JsonOf(const BarcodeOutcome& outcome, Language language) {
         object["message"] = WhyRefused(outcome, language);
         object["hint"] = outcome.hint;
     }
+    if (outcome.note) object["note"] = Sentence(*outcome.note, language);
     object["warnings"] = nlohmann::json::array();
     for (const Warning& warning : outcome.Warnings()) {
         object["warnings"].push_back(Sentence(warning, language));
@@ -68,10 +69,14 @@ BarcodeWish WishOf(const EncodeOptions& options, Console& console) {
         .checkCharacter = static_cast<uint8>(options.isCheckWanted ? 1 : 0),
         .ratio = options.ratio.value_or(2.0),
         .isStrict = options.isStrict,
+        .isArticleNumber = options.isArticleNumber,
     };
 }
 
 void ReportOutcome(const BarcodeOutcome& outcome, Console& console) {
+    if (outcome.note) {
+        console.err << "linewright: note: " << Sentence(*outcome.note, console.language) << '\n';
+    }
     for (const Warning& warning : outcome.Warnings()) {
         console.err << "linewright: warning: " << Sentence(warning, console.language) << '\n';
     }

@@ -18,6 +18,7 @@ struct EncodeOptions {
     std::optional<double> ratio;
     bool isBytes = false;
     bool isStrict = false;
+    bool isArticleNumber = false;
     Form form = Form::kText;
 };
 

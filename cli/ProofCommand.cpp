@@ -117,6 +117,9 @@ class Proof {
             fmt::format("size  {}", SizeOf(*drawn.drawing, type)),
             fmt::format("read  {}{}", VerdictWords(verification), read.empty() ? "" : ": " + read)};
         if (type.face == nullptr) lines.erase(lines.begin() + 2);
+        if (drawn.outcome.note) {
+            lines.push_back("note  " + Sentence(*drawn.outcome.note, language));
+        }
         for (const Warning& warning : drawn.outcome.Warnings()) {
             lines.push_back("note  " + Sentence(warning, language));
         }

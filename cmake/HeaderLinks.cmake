@@ -1,6 +1,7 @@
-# The header-only libraries, as linewright::cli11, linewright::fmt, linewright::json and
-# linewright::toml. They lie among the system's headers, which a cross compiler must never see, so
-# the build has a folder of its own that holds a link to each of them and nothing else.
+# The header-only libraries, as linewright::cli11, linewright::fmt, linewright::json,
+# linewright::rapidjson and linewright::toml. They lie among the system's headers, which a cross
+# compiler must never see, so the build has a folder of its own that holds a link to each of them
+# and nothing else.
 set(LINEWRIGHT_HEADER_LINKS ${PROJECT_BINARY_DIR}/header-links)
 file(MAKE_DIRECTORY ${LINEWRIGHT_HEADER_LINKS})
 
@@ -24,6 +25,7 @@ endfunction()
 linewright_header_library(cli11 CLI CLI.hpp)
 linewright_header_library(fmt fmt format.h)
 linewright_header_library(json nlohmann json.hpp)
+linewright_header_library(rapidjson rapidjson reader.h)
 linewright_header_library(toml toml++ toml.h)
 
 target_compile_definitions(linewright_fmt INTERFACE FMT_HEADER_ONLY)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "meaning/Gs1Identifiers.h"
 #include "standards/CheckDigits.h"
 
 namespace linewright::meaning {
@@ -65,16 +66,9 @@ bool IsElementString(std::string_view text) {
     return true;
 }
 
-/** GS1 General Specifications, figure 7.8.5-1: identifiers whose elements need no separator, by
- *  their first two digits. */
-bool HasPredefinedLength(std::string_view identifier) {
-    const int first = LeadingNumber(identifier, 2).value_or(-1);
-    return (first >= 0 && first <= 4) || (first >= 11 && first <= 20) ||
-           (first >= 31 && first <= 36) || first == 41;
-}
-
-/** "(01)…(10)…" as the characters of its elements with FNC1 in front and where it is needed. */
-std::string Elements(std::string_view text) {
+/** "(01)…(10)…" as the characters of its elements with FNC1 in front and where it is needed, or
+ *  between all. */
+std::string Elements(std::string_view text, bool areAllSeparated) {
     std::string elements;
     bool isOpen = true;
     while (!text.empty()) {
@@ -84,7 +78,7 @@ std::string Elements(std::string_view text) {
         const std::size_t end = std::min(text.find('(', start), text.size());
         elements += identifier;
         elements += text.substr(start, end - start);
-        isOpen = !HasPredefinedLength(identifier);
+        isOpen = areAllSeparated || PredefinedElementLength(identifier) == 0;
         text.remove_prefix(end);
     }
     return elements;
@@ -157,7 +151,12 @@ void Code128Text::AddFnc4() {
 }
 
 std::string Code128Characters(std::string_view data) {
-    return WithoutEscapes(IsElementString(data) ? Elements(data) : std::string(data));
+    return WithoutEscapes(IsElementString(data) ? Elements(data, false) : std::string(data));
+}
+
+std::optional<std::string> SeparatedElements(std::string_view data) {
+    if (!IsElementString(data)) return std::nullopt;
+    return TextOfCharacters(WithoutEscapes(Elements(data, true)), false).text;
 }
 
 Code128Text TextOfCharacters(std::string_view characters, bool hasDelete) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,10 @@ class Code128Text {
 /** The characters that data of the current Code 128 stands for, function characters as their bytes:
  *  its escapes and a GS1 element string taken apart. */
 std::string Code128Characters(std::string_view data);
+
+/** The text of a GS1 element string in brackets with a separator between any two elements; none for
+ *  other data. */
+std::optional<std::string> SeparatedElements(std::string_view data);
 
 /** The text of such characters. `hasDelete`: with DEL, which the encoder leaves out. */
 Code128Text TextOfCharacters(std::string_view characters, bool hasDelete);

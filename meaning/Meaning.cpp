@@ -1,11 +1,14 @@
 #include "meaning/Meaning.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "meaning/Code128Text.h"
 #include "meaning/Code39Text.h"
+#include "meaning/Gs1Elements.h"
 #include "meaning/PlugInConversion.h"
 #include "meaning/TypeRules.h"
+#include "standards/CheckDigits.h"
 #include "standards/UpcEZeroSuppression.h"
 #include "text/Readable.h"
 #include "text/Utf8.h"
@@ -62,8 +65,10 @@ class Comparison {
             meaning.carried = isMeant ? bars.text : intent.mayCarry.front();
         }
         SetMeaning();
+        WarnOfFill(rules.filledTo);
         WarnOfCheckDigit();
         if (!isMeant) WarnOfDifference();
+        if (meaning.isGs1) WarnOfElements();
         WarnOfExpectation();
     }
 
@@ -115,6 +120,11 @@ class Comparison {
         if (dropped.empty()) return;
         Warn(WarningReason::kDroppedByEncoder,
              {std::to_string(dropped.size()), Utf8FromLatin1(dropped.substr(0, kMostShown))});
+    }
+
+    void WarnOfFill(std::size_t length) {
+        if (data.empty() || data.size() >= length) return;
+        Warn(WarningReason::kFilledUp, {std::to_string(length - data.size()), meaning.carried});
     }
 
     void WarnOfCheckDigit() {
@@ -170,14 +180,28 @@ class Comparison {
         return true;
     }
 
+    /** In brackets a value is what stands behind them, whatever a reader would make of it. */
+    void WarnOfElements() {
+        const auto separated = SeparatedElements(BeforeNul(data));
+        std::vector<Warning> found = ElementWarnings(separated ? SplitSeparatedElements(*separated)
+                                                               : SplitElements(meaning.carried));
+        std::move(found.begin(), found.end(), std::back_inserter(meaning.warnings));
+    }
+
     void WarnOfExpectation() {
         constexpr std::size_t kItf14 = 14;
         if (barcode.expectation == Expectation::kIdentifiers && !meaning.isGs1) {
             Warn(WarningReason::kNoIdentifiers);
         }
-        if (barcode.expectation == Expectation::kFourteenDigits &&
-            meaning.carried.size() != kItf14) {
-            Warn(WarningReason::kNotFourteenDigits, {std::to_string(meaning.carried.size())});
+        if (barcode.expectation != Expectation::kFourteenDigits) return;
+        const std::string_view digits = meaning.carried;
+        if (digits.size() != kItf14) {
+            Warn(WarningReason::kNotFourteenDigits, {std::to_string(digits.size())});
+            return;
+        }
+        const char computed = Modulo10CheckDigit(digits.substr(0, kItf14 - 1));
+        if (digits.back() != computed) {
+            Warn(WarningReason::kWrongItf14CheckDigit, {{digits.back()}, {computed}});
         }
     }
 

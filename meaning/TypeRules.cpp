@@ -66,7 +66,7 @@ TypeRules RulesOf(TypeCode code) {
         case TypeCode::kClassicCode39: return {ReadClassicCode39, ClassicCode39Intent};
         case TypeCode::kClassicCode39FullAscii:
             return {ReadClassicCode39, ClassicCode39FullAsciiIntent, Bytes128};
-        case TypeCode::kEan8: return {ReadRetail, Ean8Intent};
+        case TypeCode::kEan8: return {ReadRetail, Ean8Intent, nullptr, 7};
         case TypeCode::kClassicEan13: return {ReadClassicRetail, Ean13Intent};
         case TypeCode::kClassicInterleaved2of5:
             return {ReadClassicInterleaved2of5, ClassicInterleaved2of5Intent};
@@ -79,10 +79,10 @@ TypeRules RulesOf(TypeCode code) {
         case TypeCode::kCodabar: return {ReadCodabar, CodabarIntent, FromNulOn};
         case TypeCode::kCode39: return {ReadCode39, Code39Intent, FromNulOn};
         case TypeCode::kCode128: return {ReadCode128, Code128Intent, DelAndFromNulOn};
-        case TypeCode::kEan13: return {ReadRetail, Ean13Intent};
+        case TypeCode::kEan13: return {ReadRetail, Ean13Intent, nullptr, 12};
         case TypeCode::kInterleaved2of5: return {ReadInterleaved2of5, Interleaved2of5Intent};
         case TypeCode::kInterleaved2of5Text: return {ReadDigits, Interleaved2of5Intent};
-        case TypeCode::kJan13: return {ReadRetail, Ean13Intent};
+        case TypeCode::kJan13: return {ReadRetail, Ean13Intent, nullptr, 12};
         case TypeCode::kMsi: return {ReadMsi, MsiIntent};
         case TypeCode::kUpcA: return {ReadRetail, UpcAIntent};
         case TypeCode::kUpcE: return {ReadRetail, UpcEIntent};

@@ -46,6 +46,20 @@ enum class WarningReason : std::uint8_t {
     kBarsSay,
     /** The same of a type that gives digits to be read. */
     kDigitsSay,
+    /** How many zeros the encoder put in front of a retail number; the number in the bars. */
+    kFilledUp,
+    /** ITF-14 was asked for. The last digit of the symbol; the check digit of those before it. */
+    kWrongItf14CheckDigit,
+    /** The digits where no GS1 application identifier is. */
+    kNoIdentifier,
+    /** A GS1 application identifier, how long its value is, and how long it has to be. */
+    kElementLength,
+    /** A GS1 application identifier; the character that cannot be in its value. */
+    kElementCharacter,
+    /** A GS1 application identifier, the check digit in its value, and the computed one. */
+    kElementCheckDigit,
+    /** A GS1 application identifier; what is no date or time in its value. */
+    kElementDate,
     /** No scanner finds a symbol in the font string. */
     kNoSymbol,
 };

@@ -129,6 +129,7 @@ BarcodeWish BatchColumns::WishOf(const CsvRecord& row) const {
     wish.data = ValueAt(row, *data);
     wish.checkCharacter = check ? CheckOf(ValueAt(row, *check)) : options.isCheckWanted ? 1 : 0;
     wish.isStrict = options.isStrict;
+    wish.isArticleNumber = options.isArticleNumber;
     wish.ratio = ratio ? RatioOf(ValueAt(row, *ratio)) : options.ratio.value_or(2.0);
     return wish;
 }

@@ -23,6 +23,8 @@ struct BatchOptions {
     std::optional<std::string> titleColumn;
     std::optional<char> delimiter;
     bool isStrict = false;
+    /** The data are article numbers, to be brought to their types' forms. */
+    bool isArticleNumber = false;
     /** Draws each barcode with the fonts in `fonts` (a folder, UTF-8) and has it read. */
     bool isVerified = false;
     std::string fonts;

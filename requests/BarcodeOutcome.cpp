@@ -51,10 +51,20 @@ BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish) {
         outcome.refusal = UnknownType(wish.type);
         return outcome;
     }
+    ArticleNumber number{.data = wish.data};
+    if (wish.isArticleNumber) {
+        number = BringToForm(*written.type, wish.data);
+        if (number.data.empty()) {
+            outcome.refusal = Refusal{RefusalReason::kNumber, {}, std::move(number.finding)};
+            return outcome;
+        }
+    }
+    // An article number has its check digit.
+    const uint8 checkCharacter = wish.isArticleNumber ? uint8{0} : wish.checkCharacter;
     EncodeAnswer answer = service.Encode({.typeName = outcome.typeName,
-                                          .data = wish.data,
+                                          .data = number.data,
                                           .isUtf8 = wish.isUtf8,
-                                          .checkCharacter = wish.checkCharacter,
+                                          .checkCharacter = checkCharacter,
                                           .ratio = wish.ratio});
     outcome.status = answer.status;
     outcome.hint = answer.hint;
@@ -64,12 +74,13 @@ BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish) {
         return outcome;
     }
     outcome.meaning = MeaningOf({.type = *written.type,
-                                 .data = wish.data,
+                                 .data = number.data,
                                  .isUtf8 = wish.isUtf8,
-                                 .isCheckWanted = wish.checkCharacter != 0,
+                                 .isCheckWanted = checkCharacter != 0,
                                  .expectation = written.expectation,
                                  .fontString = answer.bytes});
     outcome.bytes = std::move(answer.bytes);
+    outcome.note = std::move(number.finding);
     return outcome;
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "meaning/ArticleNumber.h"
 #include "meaning/Meaning.h"
 #include "requests/Service.h"
 #include "types/BarcodeType.h"
@@ -21,6 +22,8 @@ struct BarcodeWish {
     double ratio = 2.0;
     /** Whether a warning is a refusal. */
     bool isStrict = false;
+    /** Whether the data is an article number, to be brought to the type's form. */
+    bool isArticleNumber = false;
 };
 
 enum class RefusalReason {
@@ -31,11 +34,14 @@ enum class RefusalReason {
     kPlugIn,
     /** There are warnings, and the wish is strict. */
     kStrict,
+    /** The data is no article number for the type; `number` says why. */
+    kNumber,
 };
 
 struct Refusal {
     RefusalReason reason;
     std::vector<std::string> texts{};
+    std::optional<NumberFinding> number{};
 };
 
 /** What became of a wish. Texts are UTF-8. */
@@ -53,6 +59,8 @@ struct BarcodeOutcome {
     /** What the plug-in left of data that it refused: a marker, or the data. */
     std::string marker{};
     std::optional<Refusal> refusal{};
+    /** What was made of an article number; none where it had the form already. No warning. */
+    std::optional<NumberFinding> note{};
     /** What the data and the bars mean, with all warnings; of a font string that was made. */
     Meaning meaning{};
 

@@ -1,11 +1,12 @@
 #include "requests/PrintedText.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <string_view>
 
+#include "meaning/Gs1Elements.h"
 #include "text/Readable.h"
 #include "text/Utf8.h"
 
@@ -13,45 +14,13 @@ namespace linewright {
 
 namespace {
 
-constexpr char kSeparator = 0x1D;
-
-/** GS1 application identifiers by their first two digits. */
-struct Identifiers {
-    std::string_view first;
-    std::string_view last;
-    std::size_t length;
-    /** Of identifier and value together, where it is predefined; 0 where FNC1 ends the value. */
-    std::size_t elementLength = 0;
-};
-
-/** GS1 General Specifications, sections 3.2 and 7.8.5. */
-constexpr std::array kIdentifiers{
-    Identifiers{"00", "00", 2, 20}, Identifiers{"01", "03", 2, 16}, Identifiers{"04", "04", 2, 18},
-    Identifiers{"10", "10", 2},     Identifiers{"11", "19", 2, 8},  Identifiers{"20", "20", 2, 4},
-    Identifiers{"21", "22", 2},     Identifiers{"23", "29", 3},     Identifiers{"30", "30", 2},
-    Identifiers{"31", "36", 4, 10}, Identifiers{"37", "37", 2},     Identifiers{"39", "39", 4},
-    Identifiers{"40", "40", 3},     Identifiers{"41", "41", 3, 16}, Identifiers{"42", "42", 3},
-    Identifiers{"43", "43", 4},     Identifiers{"70", "70", 4},     Identifiers{"71", "71", 3},
-    Identifiers{"72", "72", 4},     Identifiers{"80", "82", 4},     Identifiers{"90", "99", 2},
-};
-
 /** GS1 elements with brackets; "" for what is no list of elements. */
 std::string BracketedElements(std::string_view data) {
+    const Gs1Elements split = SplitElements(data);
+    if (!split.rest.empty()) return "";
     std::string text;
-    while (!data.empty()) {
-        const std::string_view first = data.substr(0, 2);
-        const auto row = std::find_if(kIdentifiers.begin(), kIdentifiers.end(),
-                                      [first](const Identifiers& known) {
-                                          return first >= known.first && first <= known.last;
-                                      });
-        if (row == kIdentifiers.end() || data.size() < row->length) return "";
-        std::size_t end = std::min(data.find(kSeparator), data.size());
-        if (row->elementLength != 0) end = std::min(end, row->elementLength);
-        if (end < row->length) return "";
-        text += '(' + std::string(data.substr(0, row->length)) + ')';
-        text += data.substr(row->length, end - row->length);
-        data.remove_prefix(end);
-        if (data.starts_with(kSeparator)) data.remove_prefix(1);
+    for (const auto& [identifier, value] : split.elements) {
+        text.append("(").append(identifier).append(")").append(value);
     }
     return text;
 }

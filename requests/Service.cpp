@@ -47,8 +47,9 @@ int32 Service::Send(RequestCode code, LinewrightRequestParams& params) {
     return request.result;
 }
 
-EncodeAnswer Service::Encode(const EncodeRequest& request) {
+EncodeAnswer Service::Encode(EncodeRequest request) {
     HostBlock data(request.data);
+    std::string().swap(request.data);
     uint16 isRecognised = 0;
     PMString hint;
     LinewrightRequestParams params{};

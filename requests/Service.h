@@ -58,8 +58,9 @@ class Service {
     Service& operator=(const Service&) = delete;
     ~Service() = default;
 
-    /** Throws RequestFailure when the host has no memory for the data. */
-    EncodeAnswer Encode(const EncodeRequest& request);
+    /** Lets go of the data as soon as the host has it. Throws RequestFailure when the host has no
+     *  memory for it. */
+    EncodeAnswer Encode(EncodeRequest request);
     /** All types in the plug-in's own order. */
     std::vector<TypeDescription> Types();
 

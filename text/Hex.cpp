@@ -15,12 +15,12 @@ int ValueOf(char digit) {
 }  // namespace
 
 std::string ToHex(std::string_view bytes) {
-    std::string digits;
-    digits.reserve(2 * bytes.size());
+    std::string digits(2 * bytes.size(), '0');
+    auto digit = digits.begin();
     for (const char character : bytes) {
         const auto byte = static_cast<unsigned char>(character);
-        digits += kDigits[byte >> 4];
-        digits += kDigits[byte & 15];
+        *digit++ = kDigits[byte >> 4];
+        *digit++ = kDigits[byte & 15];
     }
     return digits;
 }

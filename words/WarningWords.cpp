@@ -125,6 +125,46 @@ constexpr Translations TranslationsOf(WarningReason reason) {
         case WarningReason::kDigitsSay:
             return {"the digits to be read say {0}", "die Ziffern sagen {0}",
                     "les chiffres disent {0}", "数字は {0} です"};
+        case WarningReason::kFilledUp:
+            return {"zeros put in front ({0}): the number in the bars is {1}",
+                    "vorn mit Nullen aufgefüllt ({0}): die Nummer in den Balken ist {1}",
+                    "complété par des zéros à gauche ({0}) : le numéro dans les barres est {1}",
+                    "先頭に 0 が補われました ({0} 個)。バーの番号は {1} です"};
+        case WarningReason::kWrongItf14CheckDigit:
+            return {"the last digit of an ITF-14 is its check digit: it is {0}, and should be {1}",
+                    "die letzte Ziffer einer ITF-14 ist ihre Prüfziffer: sie ist {0} und müsste "
+                    "{1} sein",
+                    "le dernier chiffre d’un ITF-14 est sa clé de contrôle : c’est {0}, ce "
+                    "devrait être {1}",
+                    "ITF-14 の最後の桁はチェックデジットです。{0} ではなく {1} のはずです"};
+        case WarningReason::kNoIdentifier:
+            return {"there is no GS1 application identifier {0}",
+                    "es gibt keinen GS1-Datenbezeichner {0}", "il n’y a pas d’identifiant GS1 {0}",
+                    "GS1 識別子 {0} はありません"};
+        case WarningReason::kElementLength:
+            return {"the value of GS1 identifier ({0}) has the length {1}, not {2}",
+                    "der Wert des GS1-Datenbezeichners ({0}) hat die Länge {1}, nicht {2}",
+                    "la valeur de l’identifiant GS1 ({0}) est de longueur {1}, non {2}",
+                    "GS1 識別子 ({0}) の値の長さは {1} ですが、{2} のはずです"};
+        case WarningReason::kElementCharacter:
+            return {"the value of GS1 identifier ({0}) cannot hold {1}",
+                    "der Wert des GS1-Datenbezeichners ({0}) darf kein {1} enthalten",
+                    "la valeur de l’identifiant GS1 ({0}) ne peut contenir {1}",
+                    "GS1 識別子 ({0}) の値に {1} は使えません"};
+        case WarningReason::kElementCheckDigit:
+            return {"the check digit behind GS1 identifier ({0}) is {1}, and should be {2}",
+                    "die Prüfziffer hinter dem GS1-Datenbezeichner ({0}) ist {1} und müsste {2} "
+                    "sein",
+                    "la clé de contrôle derrière l’identifiant GS1 ({0}) est {1}, ce devrait "
+                    "être {2}",
+                    "GS1 識別子 ({0}) のチェックデジットは {1} ではなく {2} のはずです"};
+        case WarningReason::kElementDate:
+            return {"the value of GS1 identifier ({0}) holds {1}, which is no date or time",
+                    "der Wert des GS1-Datenbezeichners ({0}) enthält {1}; das ist kein Datum und "
+                    "keine Zeit",
+                    "la valeur de l’identifiant GS1 ({0}) contient {1}, qui n’est ni une date ni "
+                    "une heure",
+                    "GS1 識別子 ({0}) の値にある {1} は日付でも時刻でもありません"};
         case WarningReason::kNoSymbol:
             return {"the bars are no symbol of this type: no scanner reads them",
                     "kein Scanner findet in diesen Balken ein Symbol",
@@ -167,19 +207,22 @@ std::string Sentence(const Warning& warning, Language language) {
             return Filled(parameter(0) == "1" ? OneOf(reason, language) : TranslationsOf(reason),
                           language, parameter(0), Characters(warning, language));
         case WarningReason::kNoCode128Character:
+        case WarningReason::kElementCharacter:
             return Filled(TranslationsOf(reason), language, parameter(0),
                           Quoted(parameter(1), language));
+        case WarningReason::kNoIdentifier:
         case WarningReason::kBarsSay:
         case WarningReason::kDigitsSay:
             return Filled(TranslationsOf(reason), language, Quoted(parameter(0), language));
         default:
             return Filled(TranslationsOf(reason), language, Readable(parameter(0)),
-                          Readable(parameter(1)));
+                          Readable(parameter(1)), parameter(2));
     }
 }
 
 std::string JoinedWarnings(const BarcodeOutcome& outcome, Language language) {
     std::string text;
+    if (outcome.note) text = Sentence(*outcome.note, language);
     for (const Warning& warning : outcome.Warnings()) {
         if (!text.empty()) text += "; ";
         text += Sentence(warning, language);

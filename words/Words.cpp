@@ -56,6 +56,7 @@ std::string WhyRefused(const BarcodeOutcome& outcome, Language language) {
         case RefusalReason::kPlugIn:
             return texts.empty() ? Filled(kEncoderFailed, language) : Readable(texts.front());
         case RefusalReason::kStrict: return Filled(kStrict, language);
+        case RefusalReason::kNumber: return Sentence(*outcome.refusal->number, language);
     }
     return "";
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "meaning/UpcAColumn.h"
 #include "meaning/Warning.h"
 #include "render/DrawingFailure.h"
 #include "render/DrawingWarning.h"
@@ -19,7 +20,9 @@ enum class Language { kEnglish, kGerman, kFrench, kJapanese };
 Language LanguageOf(std::string_view locale);
 
 std::string Sentence(const Warning& warning, Language language);
-/** All warnings of an outcome as one text. */
+std::string Sentence(const NumberFinding& finding, Language language);
+std::string Sentence(const UpcANumbers& numbers, Language language);
+/** The note on an outcome and all its warnings as one text. */
 std::string JoinedWarnings(const BarcodeOutcome& outcome, Language language);
 /** Why an outcome is a refusal; "" for one that is none. */
 std::string WhyRefused(const BarcodeOutcome& outcome, Language language);

@@ -118,6 +118,34 @@ TEST(Batch, IsStrictWhenAsked) {
             "10€,,,\"there is a warning, and warnings are refused\",\"1 character above U+00FF"));
 }
 
+TEST(Batch, NotesAColumnOfUpcANumbersForEan13) {
+    const auto note = [](const std::string& rows) {
+        const std::string err = Convert("type,data\n" + rows).err;
+        return err.substr(err.find('\n') + 1);
+    };
+    EXPECT_EQ(note("ean13,036000291452\nean13,012345678905\nean13,400638133393\n"),
+              "linewright: note: 2 of 3 numbers of 12 digits end with the check digit of UPC-A: as "
+              "EAN-13 they get another one behind it; the type upca or --gtin keeps them\n");
+    EXPECT_EQ(note("ean13,036000291452\nean13,400638133393\n"), "");
+}
+
+TEST(Batch, BringsNumbersToTheFormOfTheirTypeWhenAsked) {
+    const CommandRunner command;
+    const auto result =
+        command.Run({"batch", "-", "--gtin", "--strict"},
+                    "type,data\nean13,036000291452\nean13,0036000291452\nean13,036000291453\n");
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(
+        result.out,
+        "type,data,barcode,status,message,warning\n"
+        "ean13,036000291452,U(036000*MTLOPM(,0,,GTIN-12 036000291452 was brought to the type's "
+        "form: 0036000291452\n"
+        "ean13,0036000291452,U(036000*MTLOPM(,0,,\n"
+        "ean13,036000291453,,,\"the check digit of GTIN-12 036000291453 is 3, and should be "
+        "2\",\n");
+    EXPECT_EQ(result.err, "3 rows: 2 encoded (0 with warnings), 1 refused\n");
+}
+
 TEST(Batch, SaysWhatIsWrongWithAFile) {
     const std::vector<std::pair<std::string, std::string>> files{
         {"", "linewright: -: there is no header row\n"},

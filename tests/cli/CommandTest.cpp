@@ -312,6 +312,25 @@ TEST(Encode, WarnsWhereANameMeansMoreThanItsType) {
     EXPECT_EQ(command.Run({"encode", "i2of5", "1234"}).err, "");
 }
 
+TEST(Encode, BringsANumberToTheFormOfItsTypeWhenAsked) {
+    const CommandRunner command;
+    const auto made = command.Run({"encode", "isbn", "0-306-40615-2", "--gtin", "--strict"});
+    EXPECT_EQ(made.status, 0);
+    EXPECT_EQ(made.out, command.Run({"encode", "isbn", "9780306406157"}).out);
+    EXPECT_EQ(made.err,
+              "linewright: note: ISBN-10 0-306-40615-2 was brought to the type's form: "
+              "9780306406157\n");
+    const auto refused = command.Run({"encode", "ean13", "4006381333937", "--gtin"});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(refused.err,
+              "linewright: refused: the check digit of GTIN-13 4006381333937 is 7, and should be "
+              "1\n");
+    const auto object = command.Run({"encode", "code128", "4006381333931", "--gtin", "--json"});
+    EXPECT_THAT(object.out, HasSubstr("\"note\":\"GTIN-13 4006381333931 was brought"));
+    EXPECT_EQ(command.Run({"encode", "ean13", "0-306-40615-2"}).status, 1) << "not unasked";
+}
+
 TEST(Encode, WarnsByTheBeginningOfATypeNameAsThePlugInKnowsIt) {
     const CommandRunner command;
     for (const char* const type : {"_QVT_BARCODE_EAN13_", "_QVT_BARCODE_EAN13_ "}) {

@@ -3,9 +3,9 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "cli/LineReader.h"
-#include "cli/StreamRequest.h"
 #include "merge/Failure.h"
+#include "stream/LineReader.h"
+#include "stream/StreamRequest.h"
 #include "tests/cli/CommandRunner.h"
 #include "text/Hex.h"
 
@@ -17,7 +17,7 @@ using nlohmann::json;
 
 EncodeRequest Parsed(std::string_view line) {
     std::string id;
-    return ParseStreamRequest(line, id);
+    return ParseStreamRequest(line, id).encode;
 }
 
 std::string WhyRefused(std::string_view line) {
@@ -70,7 +70,7 @@ TEST(StreamRequest, SaysWhatIsWrong) {
     EXPECT_EQ(
         WhyRefused(R"({"type":"","data":"","ratoi":3})"),
         R"(there is no member "ratoi"; the members are type, typeHex, data, hex, utf8, check, )"
-        "ratio, id");
+        "ratio, gtin, warnings, id");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":"3"})"), R"("ratio" is not a number)");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","ratio":1e999})"), "a number is too large");
     EXPECT_EQ(WhyRefused(R"({"type":"","data":"","utf8":false})"),
@@ -276,6 +276,45 @@ TEST(Stream, PutsTheIdInFront) {
 {"id":"a\"é","error":"line 2: there is neither \"data\" nor \"hex\""}
 {"status":0,"recognised":false,"hex":"","text":"","hint":""}
 )");
+}
+
+TEST(Stream, BringsNumbersToTheFormOfTheirType) {
+    const CommandRunner command;
+    const auto result =
+        command.Run({"stream"}, R"({"type":"_QVT_BARCODE_EAN13_","data":"0-306-40615-2","gtin":true}
+{"type":"_QVT_BARCODE_EAN13_","data":"9780306406157"}
+{"type":"_QVT_BARCODE_EAN13_","data":"0-306-40615-3","gtin":true,"id":7}
+{"type":"ean13","data":"0-306-40615-2","gtin":true}
+)");
+    EXPECT_EQ(result.status, 2);
+    const std::vector<json> answers = Answers(result.out);
+    ASSERT_EQ(answers.size(), 4U);
+    EXPECT_EQ(answers[0]["hex"], answers[1]["hex"]);
+    EXPECT_EQ(answers[0]["note"],
+              "ISBN-10 0-306-40615-2 was brought to the type's form: 9780306406157");
+    EXPECT_FALSE(answers[1].contains("note"));
+    EXPECT_EQ(answers[2]["error"],
+              "line 3: the check digit of ISBN-10 0-306-40615-3 is 3, and should be 2");
+    EXPECT_EQ(answers[2]["id"], 7);
+    EXPECT_EQ(answers[3]["recognised"], false) << "no short names here";
+}
+
+TEST(Stream, WarnsWhereItIsAsked) {
+    const CommandRunner command;
+    const auto result = command.Run(
+        {"stream"}, R"({"type":"_QVT_BARCODE_EAN13_","data":"12345678905","warnings":true}
+{"type":"_QVT_BARCODE_EAN13_","data":"12345678905"}
+{"type":"_QVT_BARCODE_EAN13_","data":"400638133393","warnings":true}
+{"type":"_QVT_BARCODE_EAN13_","data":"x","warnings":true}
+)");
+    EXPECT_EQ(result.status, 0);
+    const std::vector<json> answers = Answers(result.out);
+    ASSERT_EQ(answers.size(), 4U);
+    EXPECT_EQ(answers[0]["warnings"],
+              json::array({"zeros put in front (1): the number in the bars is 0123456789050"}));
+    EXPECT_FALSE(answers[1].contains("warnings"));
+    EXPECT_EQ(answers[2]["warnings"], json::array());
+    EXPECT_EQ(answers[3]["warnings"], json::array()) << "refused data is not warned about";
 }
 
 TEST(Stream, OfNothingIsNothing) {

@@ -99,6 +99,26 @@ TEST_F(BarcodeOutcomeTest, IsARefusalWithoutAFontStringWhereWarningsAreNone) {
     EXPECT_EQ(outcome.Warnings().size(), 1U);
 }
 
+TEST_F(BarcodeOutcomeTest, BringsAnArticleNumberToTheFormOfItsType) {
+    BarcodeWish wish{.type = "ean13", .data = "0-306-40615-2", .checkCharacter = 1};
+    EXPECT_EQ(Made(wish).status, -6301) << "not without being asked";
+    wish.isArticleNumber = true;
+    wish.isStrict = true;
+    const BarcodeOutcome outcome = Made(wish);
+    EXPECT_TRUE(outcome.IsMade()) << "a note is no warning";
+    EXPECT_EQ(outcome.note->reason, NumberReason::kBrought);
+    EXPECT_EQ(outcome.meaning.carried, "9780306406157");
+
+    wish.type = "i2of5";
+    EXPECT_EQ(Made(wish).meaning.carried, "09780306406157") << "has its check digit already";
+
+    wish.data = "0-306-40615-3";
+    const BarcodeOutcome refused = Made(wish);
+    EXPECT_EQ(refused.refusal->reason, RefusalReason::kNumber);
+    EXPECT_EQ(refused.refusal->number->reason, NumberReason::kWrongCheckDigit);
+    EXPECT_EQ(refused.bytes, "");
+}
+
 /** The rows of tests/meaning/: what is warned about is made all the same, and strictness refuses
  *  it. */
 TEST_F(BarcodeOutcomeTest, WarnsOfTheRows) {

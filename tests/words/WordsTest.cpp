@@ -17,7 +17,7 @@ constexpr Language kLanguages[]{Language::kEnglish, Language::kGerman, Language:
 
 /** A warning with parameters that every sentence can show. */
 Warning Sample(WarningReason reason) {
-    return {reason, {"3", "7"}};
+    return {reason, {"3", "7", "9"}};
 }
 
 /** What is said has a sentence of its own in each language, for each number up to the last. */
@@ -38,6 +38,10 @@ void ExpectOtherOnes(int last, const Make& make) {
 TEST(Words, AreOtherOnesInEachLanguage) {
     ExpectOtherOnes(static_cast<int>(WarningReason::kNoSymbol),
                     [](int number) { return Sample(static_cast<WarningReason>(number)); });
+    ExpectOtherOnes(static_cast<int>(NumberReason::kNoArticleType), [](int number) {
+        return NumberFinding{static_cast<NumberReason>(number), {"GTIN-8", "1", "2", "3"}};
+    });
+    ExpectOtherOnes(0, [](int) { return UpcANumbers{2, 3}; });
     ExpectOtherOnes(static_cast<int>(DrawingProblem::Reason::kLibrary), [](int number) {
         return DrawingFailure(static_cast<DrawingProblem::Reason>(number));
     });

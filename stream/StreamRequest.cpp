@@ -1,4 +1,4 @@
-#include "cli/StreamRequest.h"
+#include "stream/StreamRequest.h"
 
 #include <fmt/format.h>
 
@@ -117,14 +117,17 @@ double RatioOf(const json& value) {
     return value.get<double>();
 }
 
-bool Utf8FlagOf(const json& value) {
-    if (!value.is_boolean()) throw Failure("\"utf8\" is not a boolean");
-    return value.get<bool>();
+/** A boolean member; false when it is not there. */
+bool FlagOf(const json& object, const char* name) {
+    const auto member = object.find(name);
+    if (member == object.end()) return false;
+    if (!member->is_boolean()) throw Failure(fmt::format("\"{}\" is not a boolean", name));
+    return member->get<bool>();
 }
 
 void RefuseUnknownMembers(const json& object) {
-    constexpr std::array<std::string_view, 8> kMembers{"type", "typeHex", "data",  "hex",
-                                                       "utf8", "check",   "ratio", "id"};
+    constexpr std::array<std::string_view, 10> kMembers{
+        "type", "typeHex", "data", "hex", "utf8", "check", "ratio", "gtin", "warnings", "id"};
     for (const auto& [name, value] : object.items()) {
         if (std::find(kMembers.begin(), kMembers.end(), name) == kMembers.end()) {
             throw Failure(fmt::format("there is no member \"{}\"; the members are {}",
@@ -135,32 +138,35 @@ void RefuseUnknownMembers(const json& object) {
 
 }  // namespace
 
-EncodeRequest ParseStreamRequest(std::string_view line, std::string& id) {
+StreamRequest ParseStreamRequest(std::string_view line, std::string& id) {
     RequestReader reader;
     json::sax_parse(line, &reader);
     id = reader.id;
     if (!reader.mistake.empty()) throw Failure(reader.mistake);
     const json& object = reader.members;
     RefuseUnknownMembers(object);
-    EncodeRequest request;
-    request.typeName = TextOrHex(object, "type", "typeHex").first;
-    if (request.typeName.size() > kMaxPStringLength) {
+    StreamRequest request;
+    EncodeRequest& encode = request.encode;
+    encode.typeName = TextOrHex(object, "type", "typeHex").first;
+    if (encode.typeName.size() > kMaxPStringLength) {
         throw Failure(fmt::format("the type name has {} bytes; {} is the most",
-                                  request.typeName.size(), kMaxPStringLength));
+                                  encode.typeName.size(), kMaxPStringLength));
     }
-    std::tie(request.data, request.isUtf8) = TextOrHex(object, "data", "hex");
-    if (const auto utf8 = object.find("utf8"); utf8 != object.end()) {
-        const bool isWanted = Utf8FlagOf(*utf8);
-        if (request.isUtf8 && !isWanted)
+    std::tie(encode.data, encode.isUtf8) = TextOrHex(object, "data", "hex");
+    if (object.contains("utf8")) {
+        const bool isWanted = FlagOf(object, "utf8");
+        if (encode.isUtf8 && !isWanted)
             throw Failure("\"data\" is always converted; send \"hex\" for data that is not");
-        request.isUtf8 = isWanted;
+        encode.isUtf8 = isWanted;
     }
     if (const auto check = object.find("check"); check != object.end()) {
-        request.checkCharacter = CheckOf(*check);
+        encode.checkCharacter = CheckOf(*check);
     }
     if (const auto ratio = object.find("ratio"); ratio != object.end()) {
-        request.ratio = RatioOf(*ratio);
+        encode.ratio = RatioOf(*ratio);
     }
+    request.isArticleNumber = FlagOf(object, "gtin");
+    request.areWarningsWanted = FlagOf(object, "warnings");
     return request;
 }
 

@@ -1,4 +1,4 @@
-#include "cli/LineReader.h"
+#include "stream/LineReader.h"
 
 #include <algorithm>
 #include <streambuf>
