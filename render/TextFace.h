@@ -1,19 +1,24 @@
 #pragma once
 
-#include <cairo/cairo.h>
-
 #include <string>
 #include <vector>
 
+#include "render/CairoContext.h"
 #include "render/FontFile.h"
 
 namespace linewright {
 
-/** Text of one line, set in a face: what a context shows, at the baseline's start. */
+/** Text of one line, set in a face, at the baseline's start. */
 struct TextLine {
-    std::vector<cairo_glyph_t> glyphs;
+    std::vector<PlacedGlyph> glyphs;
     double width = 0;
 };
+
+/** Where the face lies; another one that stands in for it is none. Throws a DrawingFailure where it
+ *  is not there. */
+std::filesystem::path TextFaceFile(bool isBold);
+/** What is wrong where it cannot be had. */
+DrawingProblem MissingTextFace();
 
 /** The face for text that a barcode font does not print: DejaVu Sans Mono, and no other one in its
  *  place, so that the same drawing has the same text on every machine. */
