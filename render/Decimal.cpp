@@ -1,9 +1,10 @@
 #include "render/Decimal.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
+#include <iterator>
+#include <vector>
 
 namespace linewright {
 
@@ -12,10 +13,25 @@ namespace {
 /** From here on there are whole numbers only. */
 constexpr double kWholeNumbers = 9007199254740992;  // 2^53
 
+/** The digits of a number that is too large to have any behind the point. */
 std::string WholeNumber(double number) {
-    std::array<char, 320> text;
-    std::snprintf(text.data(), text.size(), "%.0f", number);
-    return text.data();
+    int doublings = 0;
+    auto value = static_cast<std::uint64_t>(std::ldexp(std::frexp(number, &doublings), 53));
+    std::vector<std::uint8_t> digits;  // the lowest first
+    for (; value > 0; value /= 10) digits.push_back(static_cast<std::uint8_t>(value % 10));
+    for (doublings -= 53; doublings > 0; --doublings) {
+        int carried = 0;
+        for (std::uint8_t& digit : digits) {
+            const int doubled = 2 * digit + carried;
+            carried = doubled / 10;
+            digit = static_cast<std::uint8_t>(doubled % 10);
+        }
+        if (carried > 0) digits.push_back(1);
+    }
+    std::string text;
+    std::transform(digits.rbegin(), digits.rend(), std::back_inserter(text),
+                   [](std::uint8_t digit) { return static_cast<char>('0' + digit); });
+    return text;
 }
 
 double PowerOfTen(int exponent) {
@@ -28,7 +44,8 @@ double PowerOfTen(int exponent) {
 
 std::string Decimal(double number, int digits) {
     const double magnitude = std::abs(number);
-    if (!(magnitude < kWholeNumbers)) return WholeNumber(number);
+    if (!std::isfinite(number)) return "no number";
+    if (magnitude >= kWholeNumbers) return (number < 0 ? "-" : "") + WholeNumber(magnitude);
     double whole = std::floor(magnitude);
     const double fraction = magnitude - whole;
     const double scale = PowerOfTen(digits);

@@ -63,7 +63,7 @@ TEST(Decimal, IsWhatTheStandardLibraryWrites) {
 }
 
 TEST(Decimal, SaysWhatIsNoNumber) {
-    EXPECT_EQ(Decimal(std::numeric_limits<double>::infinity(), 2), "inf");
+    EXPECT_EQ(Decimal(std::numeric_limits<double>::infinity(), 2), "no number");
 }
 
 }  // namespace
