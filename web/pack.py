@@ -3,8 +3,9 @@
 
 Usage: pack.py WASM FONT-FOLDER OUTPUT-FOLDER [SCANNER-FOLDER]
 
-OUTPUT-FOLDER gets `module`, a folder as `npm pack` takes it, and `linewright.html`. SCANNER-FOLDER
-is that of the package zxing-wasm, where the page is to read its drawings back.
+OUTPUT-FOLDER gets `module`, a folder as `npm pack` takes it, and `linewright.html`. With
+SCANNER-FOLDER, that of the package zxing-wasm, there is also `linewright-reads.html`, a page that
+reads its drawings back.
 """
 
 import base64
@@ -32,15 +33,14 @@ def script(core):
     return f'"use strict";\nvar Linewright = (() => {{\n{core}\nreturn Linewright;\n}})();\n'
 
 
-def base64_of(path):
-    return base64.b64encode(path.read_bytes()).decode()
+def packed(path):
+    return base64.b64encode(gzip.compress(path.read_bytes(), mtime=0)).decode()
 
 
 def write_page(wasm, fonts, scanner, path):
-    # In base64 a byte is a text; compressed, a page that is sent anywhere is small.
     data = {
-        "wasm": base64_of(wasm),
-        "fonts": {font.name: base64_of(font) for font in sorted(fonts.glob("*.ttf"))},
+        "wasm": packed(wasm),
+        "fonts": {font.name: packed(font) for font in sorted(fonts.glob("*.ttf"))},
     }
     parts = {
         "style": (WEB / "page/page.css").read_text("utf-8"),
@@ -58,8 +58,8 @@ def write_page(wasm, fonts, scanner, path):
 
 def scanner_script(folder):
     code = (folder / "dist/iife/reader/index.js").read_text("utf-8")
-    wasm = base64_of(folder / "dist/reader/zxing_reader.wasm")
-    return f'{code}\nDATA.scanner = "{wasm}";'
+    scanner = packed(folder / "dist/reader/zxing_reader.wasm")
+    return f'{code}\nDATA.scanner = "{scanner}";'
 
 
 def main():
@@ -68,13 +68,17 @@ def main():
     output.mkdir(parents=True, exist_ok=True)
     write_module(wasm, output / "module")
     page = output / "linewright.html"
-    write_page(wasm, fonts, scanner, page)
+    write_page(wasm, fonts, None, page)
 
     def size(path):
         return f"{len(gzip.compress(path.read_bytes())) / 1000:.0f} KB compressed"
 
     print(f"The module: {output / 'module'} (linewright.wasm {size(wasm)})")
     print(f"The page:   {page} ({size(page)})")
+    if scanner:
+        reading = output / "linewright-reads.html"
+        write_page(wasm, fonts, scanner, reading)
+        print(f"The page that reads its drawings back: {reading} ({size(reading)})")
 
 
 main()
