@@ -27,7 +27,7 @@ struct TableFont {
     std::span<const std::uint16_t> larger;
 };
 
-#include "FontTable.inc"
+#include "web/tables/FontTable.inc"
 
 /** The second of the pair that begins with a number, or `otherwise`. */
 unsigned int SecondOf(std::span<const std::uint16_t> pairs, char32_t first,

@@ -5,7 +5,7 @@ namespace host {
 namespace {
 
 constexpr TextRow kRows[]{
-#include "TextTable.inc"
+#include "web/tables/TextTable.inc"
 };
 
 }  // namespace
