@@ -43,9 +43,10 @@ double PowerOfTen(int exponent) {
 }  // namespace
 
 std::string Decimal(double number, int digits) {
-    const double magnitude = std::abs(number);
     if (!std::isfinite(number)) return "no number";
-    if (magnitude >= kWholeNumbers) return (number < 0 ? "-" : "") + WholeNumber(magnitude);
+    const double magnitude = std::abs(number);
+    std::string decimal(number < 0 ? "-" : "");
+    if (magnitude >= kWholeNumbers) return decimal.append(WholeNumber(magnitude));
     double whole = std::floor(magnitude);
     const double fraction = magnitude - whole;
     const double scale = PowerOfTen(digits);
@@ -58,14 +59,14 @@ std::string Decimal(double number, int digits) {
         parts = 0;
         ++whole;
     }
-    std::string decimal = std::to_string(static_cast<std::uint64_t>(whole));
+    if (whole == 0 && parts == 0) return "0";
+    decimal.append(std::to_string(static_cast<std::uint64_t>(whole)));
     if (parts > 0) {
-        std::string behind = std::to_string(static_cast<std::uint64_t>(parts));
-        behind.insert(0, static_cast<std::size_t>(digits) - behind.size(), '0');
-        behind.erase(behind.find_last_not_of('0') + 1);
-        decimal += '.' + behind;
+        const std::string behind = std::to_string(static_cast<std::uint64_t>(parts));
+        decimal.append(1, '.').append(static_cast<std::size_t>(digits) - behind.size(), '0');
+        decimal.append(behind, 0, behind.find_last_not_of('0') + 1);
     }
-    return number < 0 && decimal != "0" ? '-' + decimal : decimal;
+    return decimal;
 }
 
 }  // namespace linewright

@@ -135,7 +135,7 @@ function update() {
   const data = byId("data").value;
   try {
     if (data !== "") drawing = linewright.draw(wishOf(data), drawingWish());
-    if (drawing && drawing.message) verdict.append(note("bad", `${words.refused}: ${drawing.message}`));
+    if (drawing && drawing.message) verdict.append(note("bad", words.refused(drawing.message)));
     for (const warning of [...(drawing?.warnings ?? []), ...(drawing?.drawingWarnings ?? [])]) verdict.append(note("warn", warning));
   } catch (error) {
     verdict.append(note("bad", error.message));
@@ -295,7 +295,7 @@ function convertColumn() {
     const outcome = linewright.encode(wishOf(data));
     rows.push({
       data, text: outcome.text ?? "",
-      remark: outcome.message !== undefined ? `${words.refused}: ${outcome.message}` : outcome.warnings.join("; "),
+      remark: outcome.message !== undefined ? words.refused(outcome.message) : outcome.warnings.join("; "),
       kind: outcome.message !== undefined ? "bad" : outcome.warnings.length > 0 ? "warn" : "",
     });
   }
