@@ -29,11 +29,11 @@ constexpr int32 kUnknownRequest = -1018;
 struct LinewrightRequestParams;
 
 /** What a caller hands to ProcessRequest. Shared with plug-ins built separately: fixed to the byte,
- *  little-endian. */
+ *  little-endian. A pointer has a place of eight bytes, also where it fills but four. */
 struct LinewrightRequest {
     int32 result;
     uint32 code;
-    LinewrightRequestParams* params;
+    alignas(8) LinewrightRequestParams* params;
 };
 static_assert(offsetof(LinewrightRequest, result) == 0);
 static_assert(offsetof(LinewrightRequest, code) == 4);
@@ -51,11 +51,11 @@ struct LinewrightRequestParams {
     uint8 callerC[160];
     double ratio;
     uint8 callerD[312];
-    void* slot1;
-    void* slot2;
-    void* slot3;
-    void* slot4;
-    uint8 callerE[288];
+    alignas(8) void* slot1;
+    alignas(8) void* slot2;
+    alignas(8) void* slot3;
+    alignas(8) void* slot4;
+    alignas(8) uint8 callerE[288];
     PString typeName;
 };
 static_assert(offsetof(LinewrightRequestParams, convertFromUtf8) == 0);
@@ -67,6 +67,8 @@ static_assert(offsetof(LinewrightRequestParams, slot1) == 584);
 static_assert(offsetof(LinewrightRequestParams, slot2) == 592);
 static_assert(offsetof(LinewrightRequestParams, slot3) == 600);
 static_assert(offsetof(LinewrightRequestParams, slot4) == 608);
+static_assert(offsetof(LinewrightRequestParams, callerE) == 616);
 static_assert(offsetof(LinewrightRequestParams, typeName) == 904);
+static_assert(sizeof(LinewrightRequestParams) == 1160);
 
 }  // namespace linewright

@@ -11,8 +11,8 @@ namespace {
 
 std::string_view CStringView(const char* text) {
     const void* const end = std::memchr(text, 0, kMaxPStringLength);
-    const auto size = end ? static_cast<const char*>(end) - text : kMaxPStringLength;
-    return {text, static_cast<std::size_t>(size)};
+    if (!end) return {text, kMaxPStringLength};
+    return {text, static_cast<std::size_t>(static_cast<const char*>(end) - text)};
 }
 
 std::string_view UpToNul(std::string_view text) {

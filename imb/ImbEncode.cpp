@@ -124,7 +124,7 @@ Codewords MakeCodewords(LongNumber value, std::uint32_t frameCheckSequence) {
 }
 
 /** The letters of eight bars from bits that say which reach up and which reach down. */
-Word BarLetters(std::size_t ascenders, std::size_t descenders) {
+Word BarLetters(Word ascenders, Word descenders) {
     const Word up = kBitsAsBytes[ascenders & 0xFF];
     const Word down = kBitsAsBytes[descenders & 0xFF];
     return EightTimes('T') ^ up * ('T' ^ 'A') ^ down * ('T' ^ 'D') ^

@@ -203,7 +203,7 @@ void BarcodeDrawing::PlaceGlyphs(const BarcodeFont& shaped, const BarcodeType& t
         place(step.control);
         place(step.end);
     }
-    for (cairo_glyph_t& glyph : glyphs) {
+    for (PlacedGlyph& glyph : glyphs) {
         glyph.x -= left;
         glyph.y = above;
     }
@@ -224,7 +224,7 @@ void BarcodeDrawing::PlaceBearerBars() {
     for (Rectangle& side : bars) {
         for (double* number : {&side.left, &side.top, &side.right, &side.bottom}) moved(*number);
     }
-    for (cairo_glyph_t& glyph : glyphs) {
+    for (PlacedGlyph& glyph : glyphs) {
         moved(glyph.x);
         moved(glyph.y);
     }
@@ -311,14 +311,6 @@ Shapes BarcodeDrawing::InDots(double dotsPerModule) const {
 
 Shapes BarcodeDrawing::Drawn() const {
     return dotsPerInch ? InDots(module * *dotsPerInch / kInch) : InModules();
-}
-
-void BarcodeDrawing::ShowText(cairo_t* context) const {
-    if (font && !glyphs.empty()) {
-        font->Select(context);
-        cairo_show_glyphs(context, glyphs.data(), static_cast<int>(glyphs.size()));
-    }
-    if (textFace) textFace->Show(context, text, textSize, textX, textY);
 }
 
 }  // namespace linewright

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cairo/cairo.h>
-
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -9,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "render/CairoContext.h"
 #include "render/DrawingFailure.h"
 #include "render/DrawingWarning.h"
 #include "render/Fonts.h"
@@ -98,7 +97,7 @@ class BarcodeDrawing {
     /** The one to set the font string in as text. */
     std::shared_ptr<const BarcodeFont> font;
     const BarcodeFace* face = nullptr;
-    std::vector<cairo_glyph_t> glyphs;
+    std::vector<PlacedGlyph> glyphs;
     /** Without the reduction. */
     std::vector<Rectangle> bars;
     std::vector<Rectangle> bearerBars;

@@ -80,8 +80,4 @@ BarcodeGlyph BarcodeFont::GlyphOf(unsigned char byte, bool isLarge) const {
     return glyph;
 }
 
-void BarcodeFont::Select(cairo_t* context) const {
-    file.Select(context, face.modulesPerEm, face.modulesPerEm * stretch);
-}
-
 }  // namespace linewright

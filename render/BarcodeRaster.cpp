@@ -7,7 +7,7 @@
 
 #include "render/BarcodeDrawing.h"
 #include "render/CairoPage.h"
-#include "render/FontFile.h"
+#include "render/FreeType.h"
 
 namespace linewright {
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "render/CairoPage.h"
+#include "render/FreeType.h"
 
 namespace linewright {
 
@@ -52,19 +53,39 @@ FT_Library FreeTypeLibrary() {
     return library;
 }
 
-FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing) {
-    if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &file) != 0) throw DrawingFailure(missing);
-}
+struct FontFile::Face {
+    Face() = default;
+    Face(const Face&) = delete;
+    Face& operator=(const Face&) = delete;
+    ~Face() {
+        if (cairoFace != nullptr) {
+            cairo_font_face_destroy(cairoFace);
+        } else if (file != nullptr) {
+            FT_Done_Face(file);
+        }
+    }
 
-FontFile::~FontFile() {
-    if (cairoFace != nullptr) {
-        cairo_font_face_destroy(cairoFace);
-    } else {
-        FT_Done_Face(file);
+    void Load(unsigned int glyph) const {
+        CheckFreeType(FT_Load_Glyph(file, glyph, FT_LOAD_NO_SCALE));
+    }
+    cairo_font_face_t* CairoFace();
+
+    FT_Face file = nullptr;
+    /** Made when it is first shown, and then the owner of the file: Cairo leaks the axes of a
+     *  variable font, which is never shown by it. */
+    cairo_font_face_t* cairoFace = nullptr;
+};
+
+FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing)
+    : face(std::make_unique<Face>()) {
+    if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &face->file) != 0) {
+        throw DrawingFailure(missing);
     }
 }
 
-cairo_font_face_t* FontFile::CairoFace() const {
+FontFile::~FontFile() = default;
+
+cairo_font_face_t* FontFile::Face::CairoFace() {
     if (cairoFace != nullptr) return cairoFace;
     cairo_font_face_t* const made = cairo_ft_font_face_create_for_ft_face(file, FT_LOAD_NO_HINTING);
     // Cairo's caches may keep the face for longer than we do; the file goes with it.
@@ -82,32 +103,28 @@ cairo_font_face_t* FontFile::CairoFace() const {
 bool FontFile::SetBarHeight(double percent) {
     // The axes in the order in which the fonts have them: BHGT, BWRD.
     std::array<FT_Fixed, 2> axes{std::lround(percent * 65536), 0};
-    return FT_Set_Var_Design_Coordinates(file, axes.size(), axes.data()) == 0;
+    return FT_Set_Var_Design_Coordinates(face->file, axes.size(), axes.data()) == 0;
 }
 
 unsigned int FontFile::GlyphOf(char32_t character) const {
-    return FT_Get_Char_Index(file, character);
+    return FT_Get_Char_Index(face->file, character);
 }
 
 unsigned int FontFile::LargerOf(unsigned int glyph) const {
     std::array<char, 64> name{};
-    CheckFreeType(FT_Get_Glyph_Name(file, glyph, name.data(), name.size()));
+    CheckFreeType(FT_Get_Glyph_Name(face->file, glyph, name.data(), name.size()));
     const unsigned int larger =
-        FT_Get_Name_Index(file, (std::string(name.data()) + ".full").data());
+        FT_Get_Name_Index(face->file, (std::string(name.data()) + ".full").data());
     return larger == 0 ? glyph : larger;
 }
 
-void FontFile::Load(unsigned int glyph) const {
-    CheckFreeType(FT_Load_Glyph(file, glyph, FT_LOAD_NO_SCALE));
-}
-
 double FontFile::AdvanceOf(unsigned int glyph) const {
-    Load(glyph);
-    return static_cast<double>(file->glyph->metrics.horiAdvance) / file->units_per_EM;
+    face->Load(glyph);
+    return static_cast<double>(face->file->glyph->metrics.horiAdvance) / face->file->units_per_EM;
 }
 
 Outline FontFile::OutlineOf(unsigned int glyph) const {
-    Load(glyph);
+    face->Load(glyph);
     using Kind = PathStep::Kind;
     FT_Outline_Funcs functions{};
     functions.move_to = [](const FT_Vector* to, void* pen) {
@@ -123,8 +140,8 @@ Outline FontFile::OutlineOf(unsigned int glyph) const {
     functions.cubic_to = [](const FT_Vector*, const FT_Vector*, const FT_Vector*, void*) -> int {
         return FT_Err_Invalid_Outline;
     };
-    Pen pen{{}, static_cast<double>(file->units_per_EM)};
-    CheckFreeType(FT_Outline_Decompose(&file->glyph->outline, &functions, &pen));
+    Pen pen{{}, static_cast<double>(face->file->units_per_EM)};
+    CheckFreeType(FT_Outline_Decompose(&face->file->glyph->outline, &functions, &pen));
     return pen.outline;
 }
 
@@ -137,7 +154,7 @@ void FontFile::Select(cairo_t* context, double width, double height) const {
     const cairo_status_t status = cairo_font_options_status(options);
     cairo_font_options_destroy(options);
     CheckCairo(status);
-    cairo_set_font_face(context, CairoFace());
+    cairo_set_font_face(context, face->CairoFace());
     cairo_matrix_t size;
     cairo_matrix_init_scale(&size, width, height);
     cairo_set_font_matrix(context, &size);

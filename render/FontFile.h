@@ -1,20 +1,13 @@
 #pragma once
 
-#include <cairo/cairo.h>
-#include <freetype/freetype.h>
-
 #include <filesystem>
+#include <memory>
 
+#include "render/CairoContext.h"
 #include "render/DrawingFailure.h"
 #include "render/Shapes.h"
 
 namespace linewright {
-
-/** Throws a DrawingFailure unless there is no error. */
-void CheckFreeType(FT_Error error);
-
-/** The one that lives as long as the program. */
-FT_Library FreeTypeLibrary();
 
 /** A font from its file. Lengths are in ems, y upwards from the baseline. What a library cannot do
  *  is thrown as a DrawingFailure. */
@@ -41,13 +34,9 @@ class FontFile {
     void Select(cairo_t* context, double width, double height) const;
 
   private:
-    void Load(unsigned int glyph) const;
-    cairo_font_face_t* CairoFace() const;
-
-    FT_Face file = nullptr;
-    /** Made when it is first shown, and then the owner of the file: Cairo leaks the axes of a
-     *  variable font, which is never shown by it. */
-    mutable cairo_font_face_t* cairoFace = nullptr;
+    /** What the libraries that read fonts have of it. */
+    struct Face;
+    std::unique_ptr<Face> face;
 };
 
 }  // namespace linewright

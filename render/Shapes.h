@@ -27,6 +27,13 @@ struct PathStep {
     Point end{};
 };
 
+/** A glyph of a font and where it stands. */
+struct PlacedGlyph {
+    unsigned int index = 0;
+    double x = 0;
+    double y = 0;
+};
+
 /** Contours, filled where their winding is not zero. */
 using Outline = std::vector<PathStep>;
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <fmt/format.h>
-
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "words/Words.h"
@@ -12,11 +11,21 @@ namespace linewright {
 /** One sentence in the languages, in the order of Language; {0}, {1} are its parameters. */
 using Translations = std::array<std::string_view, 4>;
 
+/** The sentence in a language. A parameter that is not given is empty. */
 template <class... Parameters>
 std::string Filled(const Translations& translations, Language language,
                    const Parameters&... parameters) {
-    return fmt::format(fmt::runtime(translations[static_cast<std::size_t>(language)]),
-                       parameters...);
+    const std::array<std::string_view, sizeof...(parameters)> texts{parameters...};
+    std::string_view sentence = translations[static_cast<std::size_t>(language)];
+    std::string filled;
+    for (std::size_t brace = sentence.find('{'); brace != std::string_view::npos;
+         brace = sentence.find('{')) {
+        filled += sentence.substr(0, brace);
+        const auto place = static_cast<std::size_t>(sentence[brace + 1] - '0');
+        if (place < texts.size()) filled += texts[place];
+        sentence.remove_prefix(brace + 3);
+    }
+    return filled.append(sentence);
 }
 
 }  // namespace linewright

@@ -36,6 +36,15 @@ constexpr Translations kStrict{"there is a warning, and warnings are refused",
                                "警告があり、警告のあるものは拒否されます"};
 constexpr std::size_t kShownOfName = 80;
 
+std::string Joined(const std::vector<std::string>& texts) {
+    std::string joined;
+    for (const std::string& text : texts) {
+        if (!joined.empty()) joined += ", ";
+        joined += text;
+    }
+    return joined;
+}
+
 }  // namespace
 
 Language LanguageOf(std::string_view locale) {
@@ -51,8 +60,7 @@ std::string WhyRefused(const BarcodeOutcome& outcome, Language language) {
     switch (outcome.refusal->reason) {
         case RefusalReason::kUnknownType:
             return Filled(kUnknownType, language,
-                          Readable(outcome.typeName.substr(0, kShownOfName)),
-                          fmt::join(texts, ", "));
+                          Readable(outcome.typeName.substr(0, kShownOfName)), Joined(texts));
         case RefusalReason::kPlugIn:
             return texts.empty() ? Filled(kEncoderFailed, language) : Readable(texts.front());
         case RefusalReason::kStrict: return Filled(kStrict, language);

@@ -51,7 +51,8 @@ class MarkedBlocks {
 
     /** No two blocks have the same mark, so a copy of one is none. */
     static std::uintptr_t MarkOf(const void* block) {
-        return reinterpret_cast<std::uintptr_t>(block) ^ 0x4C57'5242'4C4F'434B;
+        constexpr auto kMark = static_cast<std::uintptr_t>(0x4C57'5242'4C4F'434B);
+        return reinterpret_cast<std::uintptr_t>(block) ^ kMark;
     }
     static Header* Find(void* block) {
         Header* const header = static_cast<Header*>(block) - 1;

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "host/runtime/Make.h"
-#include "host/runtime/Running.h"
+#include "host/runtime/TextLookUp.h"
 
 struct PMString::Text {
     std::u32string characters;
@@ -128,9 +128,8 @@ bool16 PMString::IsTranslatable() const {
 }
 
 void PMString::Translate() {
-    const host::Running* const running = host::GetRunning();
-    if (!running || !fText->isTranslatable) return;
-    const std::u32string* const text = running->strings.Find(fText->characters);
+    if (!fText->isTranslatable) return;
+    const std::u32string* const text = host::FindText(fText->characters);
     if (!text) return;
     Assign(fText->characters, *text);
     fText->isTranslatable = kFalse;
