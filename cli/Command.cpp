@@ -45,7 +45,7 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kDraw: return RunDraw(service, arguments.draw, console);
         case Arguments::Command::kVerify: return RunVerify(service, arguments.draw, console);
         case Arguments::Command::kProof:
-            return RunProof(service, arguments.batchFiles, arguments.batch, arguments.draw,
+            return RunProof(service, arguments.batchFiles, arguments.batch.rows, arguments.draw,
                             console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson

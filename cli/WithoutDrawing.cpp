@@ -14,12 +14,11 @@ ExitStatus RunVerify(Service&, const DrawOptions&, Console&) {
     throw Failure("verify is for Linux; this program has no renderer and no scanner");
 }
 
-ExitStatus RunProof(Service&, const BatchFiles&, const BatchOptions&, const DrawOptions&,
-                    Console&) {
+ExitStatus RunProof(Service&, const MergeFiles&, const RowOptions&, const DrawOptions&, Console&) {
     throw Failure("proof is for Linux; this program has no renderer and no scanner");
 }
 
-std::function<ScannedBarcode(const BarcodeWish&)> BarcodeScanner(Service&, const std::string&) {
+MakeScanned BarcodeScanner(Service&, const std::string&) {
     throw Failure("--verify is for Linux; this program has no renderer and no scanner");
 }
 

@@ -28,17 +28,16 @@ Refusal UnknownType(std::string_view written) {
     return {RefusalReason::kUnknownType, {nearest.begin(), nearest.end()}};
 }
 
-/** The name that the plug-in gets: one of its own is sent as it was written. */
-std::string_view SentName(const BarcodeWish& wish, const BarcodeType& type) {
-    return wish.type.starts_with(type.name) ? std::string_view(wish.type) : type.name;
-}
-
 }  // namespace
+
+std::string_view SentTypeName(std::string_view written, const BarcodeType& type) {
+    return written.starts_with(type.name) ? written : type.name;
+}
 
 BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish) {
     const WrittenType written = FindWrittenType(wish.type);
     BarcodeOutcome outcome{.typeName = wish.type, .type = written.type};
-    if (written.type) outcome.typeName = SentName(wish, *written.type);
+    if (written.type) outcome.typeName = SentTypeName(wish.type, *written.type);
     if (!written.type || outcome.typeName.size() > kMaxPStringLength) {
         outcome.refusal = UnknownType(wish.type);
         return outcome;

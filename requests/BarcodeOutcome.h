@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "meaning/Meaning.h"
@@ -57,6 +58,10 @@ struct BarcodeOutcome {
     bool IsMade() const { return !refusal; }
     const std::vector<Warning>& Warnings() const { return meaning.warnings; }
 };
+
+/** The name that the plug-in gets for a type that was found by what was written: one of its own is
+ *  sent as it was written. */
+std::string_view SentTypeName(std::string_view written, const BarcodeType& type);
 
 /** Has the plug-in make a barcode, and refuses one with warnings where the wish is strict. Throws
  *  RequestFailure. */
