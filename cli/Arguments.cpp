@@ -9,6 +9,7 @@
 
 #include "cli/DialogArguments.h"
 #include "cli/DrawingArguments.h"
+#include "cli/RowArguments.h"
 #include "merge/Failure.h"
 #include "text/Nearest.h"
 
@@ -108,45 +109,19 @@ void AddStream(CLI::App& app) {
         "| linewright stream");
 }
 
-char DelimiterOf(const std::string& text) {
-    const std::map<std::string, char> names{
-        {"comma", ','}, {"semicolon", ';'}, {"tab", '\t'}, {"\\t", '\t'}};
-    if (const auto named = names.find(text); named != names.end()) return named->second;
-    const bool isUsable =
-        text.size() == 1 && text.find_first_of("\"\r\n") == std::string::npos && text[0] > 0;
-    if (isUsable) return text[0];
-    throw CLI::ValidationError("--delimiter", "is one character, comma, semicolon or tab");
-}
-
-/** Where the rows of a file have what. */
-void AddColumns(CLI::App& command, BatchOptions& batch) {
-    command.add_option("--type", batch.type, "One type for all rows")->type_name("TYPE");
-    command.add_option("--column", batch.dataColumn, "Column of the data; data unless stated")
-        ->type_name("NAME");
-    command
-        .add_option(
-            "--delimiter",
-            [&batch](const CLI::results_t& results) {
-                batch.delimiter = DelimiterOf(results.front());
-                return true;
-            },
-            "Between fields; found from the header unless stated")
-        ->type_name("C");
-}
-
 /** What all commands have that work on the rows of a file. */
 void AddRows(CLI::App& command, Arguments& arguments) {
-    BatchOptions& batch = arguments.batch;
+    RowOptions& rows = arguments.batch.rows;
     command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
         ->required();
-    AddColumns(command, batch);
-    command.add_flag("--check", batch.isCheckWanted, "Add the check character in all rows");
-    AddRatio(command, [&batch](const CLI::results_t& results) {
-        batch.ratio = std::stod(results.front());
+    AddColumns(command, rows);
+    command.add_flag("--check", rows.isCheckWanted, "Add the check character in all rows");
+    AddRatio(command, [&rows](const CLI::results_t& results) {
+        rows.ratio = std::stod(results.front());
         return true;
     });
-    command.add_flag("--strict", batch.isStrict, "Refuse rows that there is a warning about");
-    AddGtin(command, batch.isArticleNumber);
+    command.add_flag("--strict", rows.isStrict, "Refuse rows that there is a warning about");
+    AddGtin(command, rows.isArticleNumber);
 }
 
 void AddBatch(CLI::App& app, Arguments& arguments) {
@@ -157,6 +132,7 @@ void AddBatch(CLI::App& app, Arguments& arguments) {
                     "CSV file to write; standard output unless stated")
         ->check(NamesAFile())
         ->type_name("OUT");
+    AddResults(command, arguments.batch);
     command.add_flag("--verify", arguments.batch.isVerified, "Add what scanners read of each");
     command.footer(
         "Columns read: type, data, check, ratio. Written: barcode, status, message, warning.\n"
@@ -209,7 +185,7 @@ void AddProof(CLI::App& app, Arguments& arguments) {
         ->check(NamesAFile())
         ->type_name("F")
         ->required();
-    command.add_option("--title", arguments.batch.titleColumn, "Column of titles")
+    command.add_option("--title", arguments.batch.rows.titleColumn, "Column of titles")
         ->type_name("NAME");
     command.add_flag("--letter", arguments.draw.isLetter, "Letter paper in place of A4");
     AddDrawing(command, arguments.draw.drawing);

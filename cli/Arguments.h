@@ -35,8 +35,8 @@ struct Arguments {
     bool isTypesJson = false;
     bool isFontsJson = false;
     EncodeOptions encode;
-    BatchFiles batchFiles;
-    BatchOptions batch;
+    MergeFiles batchFiles;
+    MergeOptions batch;
     std::vector<std::string> assignments;
     DialogOptions dialog;
     DrawOptions draw;

@@ -40,7 +40,7 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kVerify:
             return OpenDrawingModule().verify(service, arguments.draw, console);
         case Arguments::Command::kProof:
-            return OpenDrawingModule().proof(service, arguments.batchFiles, arguments.batch,
+            return OpenDrawingModule().proof(service, arguments.batchFiles, arguments.batch.rows,
                                              arguments.draw, console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson

@@ -5,11 +5,9 @@
 #include <memory>
 
 #include "cli/DrawnFile.h"
-#include "cli/Progress.h"
 #include "cli/ScannedBarcode.h"
 #include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
-#include "merge/BatchFile.h"
 #include "merge/Failure.h"
 #include "merge/OutputFile.h"
 #include "text/Readable.h"
@@ -51,7 +49,7 @@ void Write(const std::string& name, const std::string& content, Console& console
         return;
     }
     OutputFile file(name);
-    file.Stream() << content;
+    file.Write(content);
     file.Keep();
 }
 
@@ -78,8 +76,7 @@ ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& cons
     return IsVerified(drawn, options, console.out) ? kDone : kDoesNotScan;
 }
 
-std::function<ScannedBarcode(const BarcodeWish&)> BarcodeScanner(Service& service,
-                                                                 const std::string& fonts) {
+MakeScanned BarcodeScanner(Service& service, const std::string& fonts) {
     const auto runFonts = std::make_shared<Fonts>(host::PathFromUtf8(fonts));
     return [&service, runFonts](const BarcodeWish& wish) -> ScannedBarcode {
         DrawnBarcode drawn = DrawBarcode(service, *runFonts, wish, {.isTextWanted = false});

@@ -6,7 +6,6 @@
 #include "cli/BatchCommand.h"
 #include "cli/Console.h"
 #include "cli/EncodeCommand.h"
-#include "merge/Batch.h"
 #include "requests/DrawingWish.h"
 
 namespace linewright {
@@ -29,7 +28,7 @@ struct DrawOptions {
     bool isVerified = false;
     /** Without data the type is the name of a CSV file, whose rows are drawn. */
     bool hasData = true;
-    BatchOptions rows;
+    RowOptions rows;
     /** Of a proof. */
     bool isLetter = false;
 };
@@ -44,7 +43,7 @@ ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& cons
 
 /** A sheet of all barcodes of a CSV file, with what the scanners read. kRowsRefused when rows were
  *  refused; with `isVerified` kDoesNotScan when a barcode does not scan as it is meant. */
-ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOptions& options,
+ExitStatus RunProof(Service& service, const MergeFiles& files, const RowOptions& options,
                     const DrawOptions& drawing, Console& console);
 
 }  // namespace linewright

@@ -7,9 +7,9 @@
 #include "cli/Progress.h"
 #include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
-#include "merge/BatchFile.h"
 #include "merge/Failure.h"
 #include "merge/OutputFile.h"
+#include "merge/RowFile.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -43,7 +43,7 @@ std::string Replaced(std::string text, std::string_view place, const std::string
     return text;
 }
 
-std::string NameOf(const std::string& pattern, const CsvRecord& row, const BarcodeWish& wish) {
+std::string NameOf(const std::string& pattern, const Record& row, const BarcodeWish& wish) {
     std::string name = Replaced(pattern, "{line}", std::to_string(row.line));
     name = Replaced(name, "{type}", NamePart(wish.type));
     return Replaced(name, "{data}", NamePart(wish.data));
@@ -60,10 +60,10 @@ class RowDrawer {
           console(runConsole),
           fonts(host::PathFromUtf8(runOptions.fonts)) {}
 
-    void Draw(const BatchColumns& columns, const CsvRecord& row) {
+    void Draw(RowColumns& columns, const Record& row) {
         ++counts.rows;
         try {
-            const BarcodeWish wish = columns.WishOf(row);
+            const BarcodeWish wish = columns.BarcodeWishOf(row);
             const DrawnBarcode drawn = DrawBarcode(service, fonts, wish, options.drawing);
             Report(row, drawn);
             if (drawn.drawing) {
@@ -84,11 +84,11 @@ class RowDrawer {
     Counts counts;
 
   private:
-    void Say(const CsvRecord& row, std::string_view sentence) {
+    void Say(const Record& row, std::string_view sentence) {
         console.err << fmt::format("linewright: line {}: {}\n", row.line, sentence);
     }
 
-    void Report(const CsvRecord& row, const DrawnBarcode& drawn) {
+    void Report(const Record& row, const DrawnBarcode& drawn) {
         if (drawn.outcome.note) {
             Say(row, "note: " + Sentence(*drawn.outcome.note, console.language));
         }
@@ -109,11 +109,11 @@ class RowDrawer {
                             Readable(name)));
         }
         OutputFile output(name);
-        output.Stream() << content;
+        output.Write(content);
         output.Keep();
     }
 
-    void Verify(const CsvRecord& row, const DrawnBarcode& drawn) {
+    void Verify(const Record& row, const DrawnBarcode& drawn) {
         const Verification verification = linewright::Verify(*drawn.drawing, drawn.outcome.meaning);
         if (!verification.IsBad()) return;
         ++counts.unreadable;
@@ -137,21 +137,19 @@ ExitStatus RunDrawRows(Service& service, const DrawOptions& options, const FileW
             "draw wants TYPE and DATA, or a CSV file and -o with {line}, {type} or {data} in it, "
             "such as \"{line}-{data}.pdf\"");
     }
-    BatchOptions rows = options.rows;
+    RowOptions rows = options.rows;
     rows.isCheckWanted = options.encode.isCheckWanted;
     rows.isStrict = options.encode.isStrict;
     rows.isArticleNumber = options.encode.isArticleNumber;
     rows.ratio = options.encode.ratio;
     const std::string& input = options.encode.type;
-    const std::string text = ReadInput(input, console.in);
-    const BatchFile batch(text, input, rows);
+    RowFile source(input, console.in, rows);
     RowDrawer drawer(service, options, file, console);
-    const std::vector<CsvRecord>& records = batch.File().records;
     {
-        Progress progress(console, records.size());
-        for (std::size_t i = 1; i < records.size(); ++i) {
-            if (!records[i].IsBlank()) drawer.Draw(batch.Columns(), records[i]);
-            progress.Show(i, drawer.counts);
+        Progress progress(console);
+        while (source.Next()) {
+            if (!source.Row().IsBlank()) drawer.Draw(source.Columns(), source.Row());
+            progress.Show(source, drawer.counts.rows);
         }
     }
     console.err << drawer.counts.Summary() << '\n';

@@ -10,8 +10,9 @@
 #include "cli/UserFonts.h"
 #include "files/NewFile.h"
 #include "host/runtime/Paths.h"
-#include "merge/BatchFile.h"
+#include "merge/ByteSource.h"
 #include "merge/Failure.h"
+#include "merge/ReadAll.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {
@@ -82,7 +83,7 @@ ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
         const fs::path file = FileOf(fonts, *face);
         const fs::path installed = folder / file.filename();
         files::NewFile copy(installed, {.startsAfresh = true});
-        copy.Write(ReadInput(host::Utf8FromPath(file), console.in));
+        copy.Write(ReadAll(*OpenInput(host::Utf8FromPath(file))));
         if (!copy.Keep())
             throw Failure(fmt::format("{}: {}", host::Utf8FromPath(installed), copy.Error()));
         AnnounceFont(installed, std::string(face->family));

@@ -2,41 +2,56 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <chrono>
-#include <cstddef>
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "cli/Console.h"
+#include "merge/RowFile.h"
 
 namespace linewright {
 
-/** A line on a terminal that says how far the work is, several times a second. */
+/** A line on a terminal that says how far the work on a file is, several times a second. */
 class Progress {
   public:
-    Progress(Console& runConsole, std::size_t rows) : console(runConsole), total(rows) {}
+    explicit Progress(Console& runConsole) : console(runConsole) {}
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
     ~Progress() {
         if (isShown) console.err << kEraseLine << std::flush;
     }
 
-    template <class Counts>
-    void Show(std::size_t done, const Counts& counts) {
-        const auto now = std::chrono::steady_clock::now();
+    void Show(const RowFile& file, std::uint64_t rows) {
+        const auto now = Clock::now();
         if (!console.isErrTerminal || now < next) return;
         next = now + std::chrono::milliseconds(200);
         isShown = true;
-        console.err << kEraseLine << fmt::format("{:3} %  {}", 100 * done / total, counts.Summary())
-                    << std::flush;
+        const double seconds = std::chrono::duration<double>(now - start).count();
+        console.err << kEraseLine << Line(file, rows, seconds) << std::flush;
+    }
+
+    /** "12 %  4800 rows, 2400 rows/s, 15 s left"; how far it is and how long it takes only of a
+     *  file whose length is known. */
+    static std::string Line(const RowFile& file, std::uint64_t rows, double seconds) {
+        const std::string done =
+            fmt::format("{} rows, {:.0f} rows/s", rows, static_cast<double>(rows) / seconds);
+        const auto length = file.Length();
+        if (!length || *length == 0) return done;
+        const double part =
+            std::min(1.0, static_cast<double>(file.Position()) / static_cast<double>(*length));
+        return fmt::format("{:3.0f} %  {}, {:.0f} s left", 100 * part, done,
+                           part > 0 ? seconds / part - seconds : 0);
     }
 
   private:
+    using Clock = std::chrono::steady_clock;
     static constexpr std::string_view kEraseLine = "\r\x1B[K";
 
     Console& console;
-    std::size_t total;
-    std::chrono::steady_clock::time_point next =
-        std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
+    Clock::time_point start = Clock::now();
+    Clock::time_point next = start + std::chrono::milliseconds(500);
     bool isShown = false;
 };
 

@@ -12,9 +12,9 @@
 #include "cli/Progress.h"
 #include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
-#include "merge/BatchFile.h"
 #include "merge/Failure.h"
 #include "merge/OutputFile.h"
+#include "merge/RowFile.h"
 #include "render/Sheet.h"
 #include "requests/DrawnBarcode.h"
 #include "scanners/Verification.h"
@@ -72,11 +72,11 @@ class Proof {
           fonts(host::PathFromUtf8(runOptions.fonts)),
           sheet(fonts, runOptions.isLetter ? Paper::kLetter : Paper::kA4, title) {}
 
-    void Add(const BatchColumns& columns, const CsvRecord& row) {
+    void Add(RowColumns& columns, const Record& row) {
         ++counts.rows;
         BarcodeWish wish;
         try {
-            wish = columns.WishOf(row);
+            wish = columns.BarcodeWishOf(row);
             const DrawnBarcode drawn = DrawBarcode(service, fonts, wish, options.drawing);
             if (drawn.drawing) return Show(drawn, wish, columns.TitleOf(row), row.line);
             Refuse(row, wish, WhyRefused(drawn.outcome, language));
@@ -97,7 +97,7 @@ class Proof {
     ProofCounts counts;
 
   private:
-    void Refuse(const CsvRecord& row, const BarcodeWish& wish, const std::string& why) {
+    void Refuse(const Record& row, const BarcodeWish& wish, const std::string& why) {
         ++counts.refused;
         refused.push_back(
             fmt::format("line {}  {}  {}", row.line, Readable(wish.type), Readable(wish.data)));
@@ -105,7 +105,7 @@ class Proof {
     }
 
     void Show(const DrawnBarcode& drawn, const BarcodeWish& wish, const std::string& title,
-              std::size_t line) {
+              std::uint64_t line) {
         const BarcodeType& type = *drawn.outcome.type;
         const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
         if (verification.verdict == Verdict::kNoScanner) ++counts.withoutScanner;
@@ -141,19 +141,17 @@ class Proof {
 
 }  // namespace
 
-ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOptions& options,
+ExitStatus RunProof(Service& service, const MergeFiles& files, const RowOptions& options,
                     const DrawOptions& drawing, Console& console) {
-    const std::string text = ReadInput(files.input, console.in);
-    const BatchFile batch(text, files.input, options);
+    RowFile source(files.input, console.in, options);
     const std::string name = host::Utf8FromPath(host::PathFromUtf8(files.input).filename());
     Proof proof(service, drawing, fmt::format("Linewright proof of {}", Readable(name)),
                 console.language);
-    const std::vector<CsvRecord>& records = batch.File().records;
     {
-        Progress progress(console, records.size());
-        for (std::size_t i = 1; i < records.size(); ++i) {
-            if (!records[i].IsBlank()) proof.Add(batch.Columns(), records[i]);
-            progress.Show(i, proof.counts);
+        Progress progress(console);
+        while (source.Next()) {
+            if (!source.Row().IsBlank()) proof.Add(source.Columns(), source.Row());
+            progress.Show(source, proof.counts.rows);
         }
     }
     const std::string sheet = proof.Finish();
@@ -161,7 +159,7 @@ ExitStatus RunProof(Service& service, const BatchFiles& files, const BatchOption
         console.out << sheet;
     } else {
         OutputFile file(files.output);
-        file.Stream() << sheet;
+        file.Write(sheet);
         file.Keep();
     }
     console.err << proof.counts.Summary() << '\n';

@@ -66,7 +66,7 @@ class RowEncoder {
         if (isTypeSet && written == wish.type) return;
         isTypeSet = true;
         wish.type = written;
-        request.typeName = SentTypeName(wish.type);
+        request.typeName = SentTypeName(wish.type, FindWrittenType(wish.type).type);
     }
     void SetCheck(uint8_t check) { wish.checkCharacter = request.checkCharacter = check; }
     void SetRatio(double ratio) { wish.ratio = request.ratio = ratio; }

@@ -6,6 +6,7 @@
 #include "current/FontLetters.h"
 #include "meaning/Bars.h"
 #include "meaning/Code128Text.h"
+#include "meaning/PlainBars.h"
 #include "standards/Code128Patterns.h"
 
 namespace linewright::meaning {
@@ -17,6 +18,7 @@ constexpr unsigned char kNoValue = 255;
 using Values = std::vector<unsigned char>;
 
 // ISO/IEC 15417:2007, table 1: what the values from 95 on do.
+constexpr int kDelete = 95;  // in set B
 constexpr int kFnc3 = 96;
 constexpr int kFnc2 = 97;
 constexpr int kShift = 98;
@@ -139,7 +141,86 @@ constexpr std::array<unsigned char, kLetters* kLetters* kLetters> kValues = [] {
     return values;
 }();
 
+int ValueOf(const char* letters) {
+    const std::size_t place = PlaceOf({letters, 3});
+    return place < kValues.size() ? kValues[place] : kNoValue;
+}
+
+/** Sets characters against data, which they have to say in its order. */
+class PlainComparison {
+  public:
+    PlainComparison(int startValue, std::string_view data)
+        : set(static_cast<char>('A' + (startValue - static_cast<int>(kCode128StartA)))),
+          rest(data) {}
+
+    /** False for what is not next in the data, and for functions other than changes of the set. */
+    bool Take(int value) {
+        const bool isShifted = std::exchange(isNextShifted, false);
+        if (set == 'C' && value < kCodeB) return TakePair(value);
+        if (set != 'C' && value < kFnc3) return TakeCharacter(value, (set == 'A') != isShifted);
+        if (value == kShift && set != 'C') {
+            isNextShifted = true;
+        } else if (value == kCodeC && set != 'C') {
+            set = 'C';
+        } else if (value == kCodeB && set != 'B') {
+            set = 'B';
+        } else if (value == kCodeA && set != 'A') {
+            set = 'A';
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    bool IsAtEnd() const { return rest.empty(); }
+
+  private:
+    bool TakePair(int pair) {
+        if (rest.size() < 2 || rest[0] != '0' + pair / 10 || rest[1] != '0' + pair % 10) {
+            return false;
+        }
+        rest.remove_prefix(2);
+        return true;
+    }
+
+    bool TakeCharacter(int value, bool isSetA) {
+        const int character = value + 32;
+        const bool isPrintable = isSetA ? value < 64 : value < kDelete;
+        if (!isPrintable || rest.empty() || rest.front() != character) return false;
+        rest.remove_prefix(1);
+        return true;
+    }
+
+    char set;
+    bool isNextShifted = false;
+    std::string_view rest;
+};
+
 }  // namespace
+
+bool PlainlySaysCode128(std::string_view fontString, std::string_view data) {
+    if (data.starts_with('(') || data.find('~') != std::string_view::npos ||
+        !fontString.ends_with(current::kStopLetters)) {
+        return false;
+    }
+    fontString.remove_suffix(current::kStopLetters.size());
+    if (fontString.size() % 3 != 0 || fontString.size() < 6) return false;
+    const char* letters = fontString.data();
+    const int start = ValueOf(letters);
+    if (start < static_cast<int>(kCode128StartA) || start > static_cast<int>(kCode128StartC)) {
+        return false;
+    }
+    PlainComparison comparison(start, data);
+    const std::size_t last = fontString.size() / 3 - 1;
+    std::size_t sum = static_cast<std::size_t>(start);
+    for (std::size_t place = 1; place < last; ++place) {
+        const int value = ValueOf(letters += 3);
+        sum += place * static_cast<std::size_t>(value);
+        if (!comparison.Take(value)) return false;
+    }
+    return comparison.IsAtEnd() &&
+           static_cast<std::size_t>(ValueOf(letters + 3)) == sum % kCode128Modulus;
+}
 
 Bars ReadClassicCode128(std::string_view fontString) {
     if (!fontString.ends_with(static_cast<char>(classic::kStopByte))) return {};

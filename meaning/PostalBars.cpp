@@ -1,9 +1,12 @@
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <optional>
 
 #include "classic/FontLetters.h"
 #include "current/FontLetters.h"
 #include "meaning/Bars.h"
+#include "meaning/PlainBars.h"
 #include "standards/TableChecks.h"
 
 namespace linewright::meaning {
@@ -57,6 +60,20 @@ Bars ReadPostnet(std::string_view fontString) {
         bars.text += *digit;
     }
     return bars;
+}
+
+bool PlainlySaysPostnet(std::string_view fontString, std::string_view data) {
+    const auto letters = Framed(fontString, current::kTallBar);
+    if (!letters || letters->size() != 3 * data.size()) return false;
+    for (std::size_t place = 0; place < data.size(); ++place) {
+        const auto digit = static_cast<std::size_t>(data[place] - '0');
+        if (digit >= kPostnetLetters.size() ||
+            !std::equal(kPostnetLetters[digit].begin(), kPostnetLetters[digit].end(),
+                        letters->begin() + 3 * static_cast<std::ptrdiff_t>(place))) {
+            return false;
+        }
+    }
+    return true;
 }
 
 Bars ReadIntelligentMail(std::string_view fontString) {

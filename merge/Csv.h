@@ -1,44 +1,41 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace linewright {
 
-// CSV after RFC 4180, with any delimiter and any line ending (LF, CRLF, CR). Fields are kept as
-// they stand in the file, quotes included, so that what nobody changes is written back byte for
-// byte. A quote inside a field that does not begin with one stands for itself.
+/** Finds the delimiter that stands most often, outside of quotes, in a file's first line: comma,
+ *  semicolon or tab; a comma where there is none. */
+class DelimiterFinder {
+  public:
+    /** Takes the next piece of the file; true once the line has ended. */
+    bool Take(std::string_view text);
+    char Found() const;
 
-struct CsvRecord {
-    /** The fields as they stand in the file; pieces of the text that was read. */
-    std::vector<std::string_view> fields;
-    /** "\n", "\r\n", "\r", or "" for a last line without one. */
-    std::string_view ending;
-    /** The line in the file on which the record begins, from 1. */
-    std::size_t line = 0;
-
-    /** A line without any character. It is no row, and is passed on as it is. */
-    bool IsBlank() const { return fields.size() == 1 && fields[0].empty(); }
+  private:
+    std::array<std::size_t, 3> counts{};
+    bool isQuoted = false;
 };
 
-struct CsvFile {
-    /** The byte-order mark or "". */
-    std::string_view byteOrderMark;
-    std::vector<CsvRecord> records;
-};
+/** How many lines end in a text: by LF, CRLF or CR. */
+std::uint64_t CountLineEnds(std::string_view text);
 
-/** The delimiter that stands most often, outside of quotes, in the first record: comma, semicolon
- *  or tab; a comma when there is none. */
-char DetectCsvDelimiter(std::string_view text);
+/** What a field says that begins with a quote; see CsvValue. */
+std::string_view UnquotedValue(std::string_view field, std::string& memory);
 
-/** Takes a text apart, which must outlive the result. Throws Failure for a quoted field that is
- *  never closed. */
-CsvFile ReadCsv(std::string_view text, char delimiter);
-
-/** What a field of a file says, without its quotes. */
+/** What a field of a file says, without its quotes; a view into the field or, where quotes stand
+ *  inside it, into `memory`. */
+inline std::string_view CsvValue(std::string_view field, std::string& memory) {
+    return field.starts_with('"') ? UnquotedValue(field, memory) : field;
+}
 std::string CsvValue(std::string_view field);
+
+/** Whether a value stands in quotes as a field. */
+bool NeedsQuotes(std::string_view value, char delimiter);
 
 /** A text as a field of a file, in quotes where it needs them. */
 std::string CsvField(std::string_view value, char delimiter);

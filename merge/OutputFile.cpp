@@ -13,26 +13,16 @@ OutputFile::OutputFile(const std::string& fileName)
     if (!file.Error().empty()) Fail();
 }
 
+void OutputFile::Write(std::string_view bytes) {
+    if (!file.Write(bytes)) Fail();
+}
+
 void OutputFile::Keep() {
-    stream.flush();
     if (!file.Keep()) Fail();
 }
 
 void OutputFile::Fail() const {
     throw Failure(fmt::format("{}: {}", Readable(name), file.Error()));
-}
-
-OutputFile::Buffer::int_type OutputFile::Buffer::overflow(int_type character) {
-    if (sync() != 0) return traits_type::eof();
-    if (!traits_type::eq_int_type(character, traits_type::eof()))
-        return sputc(traits_type::to_char_type(character));
-    return traits_type::not_eof(character);
-}
-
-int OutputFile::Buffer::sync() {
-    const std::string_view gathered(pbase(), static_cast<std::size_t>(pptr() - pbase()));
-    setp(piece.data(), piece.data() + piece.size());
-    return file.Write(gathered) ? 0 : -1;
 }
 
 }  // namespace linewright

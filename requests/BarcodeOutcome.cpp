@@ -28,23 +28,17 @@ Refusal UnknownType(std::string_view written) {
     return {RefusalReason::kUnknownType, {nearest.begin(), nearest.end()}};
 }
 
-/** The name that the plug-in gets: one of its own is sent as it was written; "" where it is none.
- */
-std::string_view SentName(std::string_view written, const BarcodeType* type) {
+}  // namespace
+
+std::string_view SentTypeName(std::string_view written, const BarcodeType* type) {
     if (type == nullptr) return "";
     const std::string_view name = written.starts_with(type->name) ? written : type->name;
     return name.size() <= kMaxPStringLength ? name : "";
 }
 
-}  // namespace
-
-std::string SentTypeName(const std::string& written) {
-    return std::string(SentName(written, FindWrittenType(written).type));
-}
-
 BarcodeOutcome MakeBarcodeLeniently(Service& service, const BarcodeWish& wish) {
     const WrittenType written = FindWrittenType(wish.type);
-    const std::string_view sent = SentName(wish.type, written.type);
+    const std::string_view sent = SentTypeName(wish.type, written.type);
     BarcodeOutcome outcome{.typeName = std::string(sent.empty() ? wish.type : sent),
                            .type = written.type};
     if (sent.empty()) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "meaning/ArticleNumber.h"
@@ -68,8 +69,9 @@ struct BarcodeOutcome {
     const std::vector<Warning>& Warnings() const { return meaning.warnings; }
 };
 
-/** The type name that the plug-in gets for what a person wrote; "" for what names no type. */
-std::string SentTypeName(const std::string& written);
+/** The name that the plug-in gets for what a person wrote: one of its own is sent as it was written;
+ *  "" where it is none. `type` is the one that was found by it, or nullptr. */
+std::string_view SentTypeName(std::string_view written, const BarcodeType* type);
 
 /** Has the plug-in make a barcode, and refuses one with warnings where the wish is strict. Throws
  *  RequestFailure. */

@@ -64,12 +64,13 @@ class Service {
     /** All types in the plug-in's own order. */
     std::vector<TypeDescription> Types();
 
+    /** Sends one request as it stands and returns its result. */
+    int32 Send(RequestCode code, LinewrightRequestParams& params);
+
     /** Ends plug-in and host; nothing else is called afterwards. */
     host::Leaks Stop();
 
   private:
-    /** Sends one request and returns its result. */
-    int32 Send(RequestCode code, LinewrightRequestParams& params);
     std::string ClassicTypeName(int16 index);
     std::string DisplayTextOf(const std::string& typeName);
     TypeDescription CurrentType(int16 index);

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "tests/cli/CommandRunner.h"
 
 namespace linewright {
@@ -45,25 +47,26 @@ TEST(Batch, PassesEverythingElseThroughByteForByte) {
         "\xEF\xBB\xBF\"note\";type;data;\" x\"\r\n"
         "\"a;\"\"b\"\"\r\nc\";classic-codabar;1; y \r\n"
         "\r\n"
-        "5\" disk\xFF;\"classic-codabar\";\"2\";\"z\"");
+        "5\" diskÿ;\"classic-codabar\";\"2\";\"z\"");
     EXPECT_EQ(result.out,
               "\xEF\xBB\xBF\"note\";type;data;\" x\";barcode;status;message;warning\r\n"
               "\"a;\"\"b\"\"\r\nc\";classic-codabar;1; y ;A1D;0;;\r\n"
               "\r\n"
-              "5\" disk\xFF;\"classic-codabar\";\"2\";\"z\";A2D;0;;");
+              "5\" diskÿ;\"classic-codabar\";\"2\";\"z\";A2D;0;;");
     EXPECT_EQ(result.err, "2 rows: 2 encoded (0 with warnings), 0 refused\n");
 }
 
 TEST(Batch, ReplacesItsColumnsWhereTheyAre) {
     const std::string once = Convert("type,data\nclassic-codabar,1\nclassic-codabar,x\n").out;
-    EXPECT_EQ(Convert(once).out, once);
-    EXPECT_EQ(Convert("status,type,barcode,data\nold,classic-codabar,\"o,ld\",1\n").out,
-              "status,type,barcode,data,message,warning\n0,classic-codabar,A1D,1,,\n");
+    EXPECT_EQ(Convert(once, {"--replace"}).out, once);
+    EXPECT_EQ(
+        Convert("status,type,barcode,data\nold,classic-codabar,\"o,ld\",1\n", {"--replace"}).out,
+        "status,type,barcode,data,message,warning\n0,classic-codabar,A1D,1,,\n");
 }
 
 TEST(Batch, KeepsAllFieldsOfRaggedRows) {
-    const auto result =
-        Convert("type,data,barcode,note\nclassic-codabar,1\nclassic-codabar,2,,a,b,\"c\"\n");
+    const auto result = Convert(
+        "type,data,barcode,note\nclassic-codabar,1\nclassic-codabar,2,,a,b,\"c\"\n", {"--replace"});
     EXPECT_EQ(result.status, 3);
     EXPECT_EQ(result.out,
               "type,data,barcode,note,status,message,warning\n"
@@ -157,9 +160,15 @@ TEST(Batch, SaysWhatIsWrongWithAFile) {
          "linewright: -: there is no column \"type\"; the columns are \"data\"; --type "
          "names one type for all rows\n"},
         {"type,data,data\n", "linewright: -: the column \"data\" stands twice in the header\n"},
-        {"type,data\nx,\"y\n",
-         "linewright: -: a quoted field of the row in line 2 is never closed\n"},
-        {"\xFF\xFEt", "linewright: -: the file is UTF-16; save it as CSV in UTF-8\n"},
+        {"\"type,data\nx,y\n",
+         "linewright: -: a quoted field of the row in line 1 is never closed\n"},
+        {"type,data\xE9\n",
+         "linewright: -: line 1: byte 10, 0xE9, is not UTF-8; --encoding says what the file is in, "
+         "such as --encoding windows-1252\n"},
+        {"type,data,status\n",
+         "linewright: -: the file has a column \"status\" already, and a result has that name; "
+         "--prefix P and --columns status=NAME give it another one, --replace writes over the "
+         "column\n"},
     };
     for (const auto& [csv, message] : files) {
         const auto result = Convert(csv);
@@ -167,8 +176,99 @@ TEST(Batch, SaysWhatIsWrongWithAFile) {
         EXPECT_EQ(result.out, "");
         EXPECT_EQ(result.err, message);
     }
-    EXPECT_EQ(Convert("type,barcode\n", {"--column", "barcode"}).err,
+    EXPECT_EQ(Convert("type,barcode\n", {"--column", "barcode", "--replace"}).err,
               "linewright: -: the column \"barcode\" receives results and cannot hold the data\n");
+}
+
+TEST(Batch, LetsOutTheRowsBeforeOneThatIsBroken) {
+    const std::vector<std::pair<std::string, std::string>> rows{
+        {"classic-codabar,\"2\n", "a quoted field of the row in line 3 is never closed\n"},
+        {"classic-codabar,2\xE9\n",
+         "line 3: byte 18, 0xE9, is not UTF-8; --encoding says what the file is in, such as "
+         "--encoding windows-1252\n"},
+    };
+    for (const auto& [row, message] : rows) {
+        const auto result = Convert("type,data\nclassic-codabar,1\n" + row);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.out,
+                  "type,data,barcode,status,message,warning\nclassic-codabar,1,A1D,0,,\n");
+        EXPECT_EQ(result.err, "linewright: -: " + message);
+    }
+}
+
+TEST(Batch, LeavesColumnsOfTheFileAlone) {
+    const std::string csv = "type,barcode,status\nclassic-codabar,1,mine\n";
+    EXPECT_EQ(Convert(csv, {"--column", "barcode", "--prefix", "x "}).out,
+              "type,barcode,status,x barcode,x status,x message,x warning\n"
+              "classic-codabar,1,mine,A1D,0,,\n");
+    EXPECT_EQ(Convert(csv, {"--column", "barcode", "--columns", "barcode=b,status=\"s"}).out,
+              "type,barcode,status,b,\"\"\"s\",message,warning\nclassic-codabar,1,mine,A1D,0,,\n");
+    EXPECT_EQ(Convert("type,data\n", {"--columns", "barcode=status"}).err,
+              "linewright: -: two columns of results would be named \"status\"\n");
+}
+
+TEST(Batch, AddsWhatADataMergeWants) {
+    EXPECT_EQ(Convert("data\n4006381333931\n", {"--type", "ean13", "--add", "text,font,size"}).out,
+              "data,barcode,status,message,warning,text,font,size\n"
+              "4006381333931,Y(0A63IB*NNNTNL(,0,,,4006381333931,Linewright EAN UPC,119.7354\n");
+    // 1 mm is 72/25.4 points, and a module an em's 128th.
+    EXPECT_EQ(Convert("data\n4006381333931\n", {"--type", "ean13", "--add", "size", "--x-dimension",
+                                                "0.254mm", "--drop-input"})
+                  .out,
+              "barcode,status,message,warning,size\nY(0A63IB*NNNTNL(,0,,,92.16\n");
+    EXPECT_EQ(Convert("data\nx\n", {"--type", "ean13", "--add", "font", "--drop-input"}).out,
+              "barcode,status,message,warning,font\n,-6301,Only the digits 0 to 9,,\n");
+}
+
+TEST(Batch, NamesColumnsByNumbersWithoutAHeader) {
+    EXPECT_EQ(Convert("1,classic-codabar\n\n2,classic-codabar",
+                      {"--no-header", "--column", "1", "--type-column", "2"})
+                  .out,
+              "1,classic-codabar,A1D,0,,\n\n2,classic-codabar,A2D,0,,");
+    EXPECT_EQ(Convert("1\n", {"--no-header", "--type", "msi"}).err,
+              "linewright: -: there is no column \"data\"; the columns are \"1\"; --column names "
+              "the one that holds the data\n");
+    EXPECT_EQ(Convert("", {"--no-header", "--type", "msi"}).err,
+              "linewright: -: there is no row\n");
+}
+
+TEST(Batch, TellsRefusedRows) {
+    const CommandRunner command;
+    const std::string in = command.Write("in.csv",
+                                         "type,data\nclassic-codabar,x\nclassic-codabar,\"y\n\"\n"
+                                         "ean13,x\nclassic-codabar,1\n");
+    const std::vector<std::string> run{"batch",     in,
+                                       "-o",        command.Place("out.csv"),
+                                       "--rejects", command.Place("rejects.csv"),
+                                       "--summary", command.Place("summary.json")};
+    EXPECT_EQ(command.Run(run).status, 3);
+    EXPECT_EQ(command.Read("rejects.csv"),
+              "type,data,line,reason\nclassic-codabar,x,2,Bad Codabar\n"
+              "classic-codabar,\"y\n\",3,Bad Codabar\nean13,x,5,Only the digits 0 to 9\n");
+    const std::string summary = command.Read("summary.json");
+    EXPECT_THAT(summary, HasSubstr("\"rows\": 4,\n  \"encoded\": 1,\n  \"warnings\": 0,\n  "
+                                   "\"refused\": 3,"));
+    EXPECT_THAT(summary, HasSubstr("\"reason\": \"Bad Codabar\",\n      \"rows\": 2"));
+
+    std::vector<std::string> fine = run;
+    fine.push_back("--refused-ok");
+    EXPECT_EQ(command.Run(fine).status, 0);
+}
+
+TEST(Batch, StopsAtSoManyRefusedRows) {
+    const CommandRunner command;
+    const std::string in =
+        command.Write("in.csv", "type,data\nmsi,x\nmsi,1\nmsi,y\nmsi,z\nmsi,2\n");
+    const auto whole = command.Run({"batch", in, "-o", command.Place("out.csv"), "--stop-at", "2",
+                                    "--rejects", command.Place("rejects.csv")});
+    EXPECT_EQ(whole.status, 2);
+    EXPECT_EQ(
+        whole.err,
+        "3 rows: 1 encoded (0 with warnings), 2 refused\n"
+        "linewright: stopped at line 4: so many rows are refused; the output is not written\n");
+    EXPECT_FALSE(std::filesystem::exists(command.Folder() / "out.csv"));
+    EXPECT_THAT(command.Read("rejects.csv"), HasSubstr("msi,y,4,"));
+    EXPECT_EQ(command.Run({"batch", in, "--stop-at", "4"}).status, 3);
 }
 
 TEST(Batch, OfAHeaderAloneIsAHeader) {

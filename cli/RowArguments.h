@@ -1,0 +1,15 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "merge/Merge.h"
+
+namespace linewright {
+
+/** How the rows of a file are read. */
+void AddColumns(CLI::App& command, RowOptions& rows);
+
+/** What is written of them, and what becomes of those that are refused. */
+void AddResults(CLI::App& command, MergeOptions& merge);
+
+}  // namespace linewright
