@@ -39,8 +39,8 @@ ExitStatus RunBatch(Service& service, const MergeFiles& files, const MergeOption
     }
     if (result.stoppedAt) {
         console.err << fmt::format("linewright: stopped at line {}: so many rows are refused{}\n",
-                                    *result.stoppedAt,
-                                    files.output == "-" ? "" : "; the output is not written");
+                                   *result.stoppedAt,
+                                   files.output == "-" ? "" : "; the output is not written");
         return kTrouble;
     }
     return result.counts.refused == 0 || options.areRefusalsFine ? kDone : kRowsRefused;

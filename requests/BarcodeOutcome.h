@@ -69,7 +69,8 @@ struct BarcodeOutcome {
     const std::vector<Warning>& Warnings() const { return meaning.warnings; }
 };
 
-/** The name that the plug-in gets for what a person wrote: one of its own is sent as it was written;
+/** The name that the plug-in gets for what a person wrote: one of its own is sent as it was
+ * written;
  *  "" where it is none. `type` is the one that was found by it, or nullptr. */
 std::string_view SentTypeName(std::string_view written, const BarcodeType* type);
 
