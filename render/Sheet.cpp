@@ -69,7 +69,8 @@ void Sheet::Add(const SheetEntry& entry) {
 std::string Sheet::Finish(const std::vector<std::string>& firstLines) {
     if (rowHeight > 0) EndPage("page " + std::to_string(pages + 1));
     // The tally is known last and stands first.
-    const std::string behind = std::to_string(pages) + " pages of barcodes behind";
+    const std::string behind =
+        std::to_string(pages) + (pages == 1 ? " page" : " pages") + " of barcodes behind";
     const double bottom = BottomOf(pageHeight);
     const auto linesOfPage = static_cast<std::size_t>((bottom - kTop) / kLeading);
     const std::size_t count =

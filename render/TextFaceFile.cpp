@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "render/TextFace.h"
 
@@ -22,6 +23,23 @@ std::string TextOf(const Pattern& pattern, const char* name) {
     return reinterpret_cast<const char*>(text);
 }
 
+Pattern FaceOf(bool isBold) {
+    return {FcPatternBuild(nullptr, FC_FAMILY, FcTypeString, kFamily, FC_WEIGHT, FcTypeInteger,
+                           isBold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR, FC_SLANT, FcTypeInteger,
+                           FC_SLANT_ROMAN, nullptr),
+            FcPatternDestroy};
+}
+
+/** The installed face that is nearest; none without memory or fonts. */
+Pattern Match(const Pattern& wanted) {
+    if (!wanted || FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern) == FcFalse) {
+        return {nullptr, FcPatternDestroy};
+    }
+    FcDefaultSubstitute(wanted.get());
+    FcResult result{};
+    return {FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy};
+}
+
 }  // namespace
 
 DrawingProblem MissingTextFace() {
@@ -29,21 +47,27 @@ DrawingProblem MissingTextFace() {
 }
 
 std::filesystem::path TextFaceFile(bool isBold) {
-    const Pattern wanted(FcPatternBuild(nullptr, FC_FAMILY, FcTypeString, kFamily, FC_WEIGHT,
-                                        FcTypeInteger, isBold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR,
-                                        FC_SLANT, FcTypeInteger, FC_SLANT_ROMAN, nullptr),
-                         FcPatternDestroy);
-    if (!wanted || FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern) == FcFalse) {
-        throw DrawingFailure(MissingTextFace());
-    }
-    FcDefaultSubstitute(wanted.get());
-    FcResult result{};
-    const Pattern found(FcFontMatch(nullptr, wanted.get(), &result), FcPatternDestroy);
+    const Pattern found = Match(FaceOf(isBold));
     int weight = 0;
     const bool isIt = found && TextOf(found, FC_FAMILY) == kFamily &&
                       FcPatternGetInteger(found.get(), FC_WEIGHT, 0, &weight) == FcResultMatch &&
                       (weight >= FC_WEIGHT_BOLD) == isBold;
     if (!isIt) throw DrawingFailure(MissingTextFace());
+    return TextOf(found, FC_FILE);
+}
+
+std::optional<std::filesystem::path> OtherTextFaceFile(bool isBold, char32_t character) {
+    const std::unique_ptr<FcCharSet, decltype(&FcCharSetDestroy)> characters(FcCharSetCreate(),
+                                                                             FcCharSetDestroy);
+    const Pattern wanted = FaceOf(isBold);
+    const bool isAsked =
+        characters && wanted && FcCharSetAddChar(characters.get(), character) == FcTrue &&
+        FcPatternAddCharSet(wanted.get(), FC_CHARSET, characters.get()) == FcTrue &&
+        FcPatternAddString(wanted.get(), FC_FONTFORMAT,
+                           reinterpret_cast<const FcChar8*>("TrueType")) == FcTrue;
+    if (!isAsked) return std::nullopt;
+    const Pattern found = Match(wanted);
+    if (!found || TextOf(found, FC_FONTFORMAT) != "TrueType") return std::nullopt;
     return TextOf(found, FC_FILE);
 }
 

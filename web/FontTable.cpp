@@ -157,6 +157,10 @@ std::filesystem::path TextFaceFile(bool /*isBold*/) {
     return "DejaVuSansMono";
 }
 
+std::optional<std::filesystem::path> OtherTextFaceFile(bool /*isBold*/, char32_t /*character*/) {
+    return std::nullopt;
+}
+
 DrawingProblem MissingTextFace() {
     return {DrawingProblem::Reason::kNoTextFace, {"DejaVu Sans Mono"}};
 }

@@ -88,7 +88,7 @@ class FontFileTest(unittest.TestCase):
             self.assertEqual(file["OS/2"].achVendID, "LWR ")
             panose = file["OS/2"].panose
             self.assertEqual((panose.bFamilyType, panose.bSerifStyle), (5, 12))
-            self.assertEqual(file["gasp"].gaspRange, {0xFFFF: 0x000A})
+            self.assertEqual((file["gasp"].version, file["gasp"].gaspRange), (1, {0xFFFF: 0x000A}))
 
     def test_underline_is_clear_of_the_bars(self):
         for family, _, file in self.files():
