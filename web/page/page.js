@@ -311,7 +311,7 @@ function showRows() {
   rows.forEach((row, place) => {
     if (shown >= MOST_ROWS_SHOWN || (isOnlyMarked && !row.kind)) return;
     shown++;
-    list.append(make("tr", [String(place + 1), row.data, row.text, row.remark].map((text) => make("td", text)), { className: row.kind }));
+    list.append(make("tr", [`${row.kind === "bad" ? "✗ " : ""}${place + 1}`, row.data, row.text, row.remark].map((text) => make("td", text)), { className: row.kind }));
   });
   byId("row-list").replaceChildren(list);
   const count = (kind) => rows.filter((row) => row.kind === kind).length;
