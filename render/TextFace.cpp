@@ -1,5 +1,7 @@
 #include "render/TextFace.h"
 
+#include <optional>
+
 #include "text/Utf8.h"
 
 namespace linewright {
@@ -12,7 +14,7 @@ const FontFile& TextFace::FileWith(char32_t character) const {
     for (const auto& [path, other] : others) {
         if (other.GlyphOf(character) != 0) return other;
     }
-    const std::optional<std::filesystem::path> path = TextFaceFileWith(isBold, character);
+    const auto path = OtherTextFaceFile(isBold, character);
     if (!path) return file;
     const FontFile& other = others.try_emplace(*path, *path, MissingTextFace()).first->second;
     return other.GlyphOf(character) == 0 ? file : other;
@@ -23,8 +25,7 @@ TextLine TextFace::Set(const std::u32string& characters, double size) const {
     for (const char32_t character : characters) {
         const FontFile& face = FileWith(character);
         const unsigned int glyph = face.GlyphOf(character);
-        if (line.runs.empty() || line.runs.back().file != &face) line.runs.push_back({&face, {}});
-        line.runs.back().glyphs.push_back({glyph, line.width, 0});
+        line.glyphs.push_back({&face, glyph, line.width});
         line.width += face.AdvanceOf(glyph) * size;
     }
     return line;
@@ -47,14 +48,12 @@ TextLine TextFace::SetWithin(const std::string& text, double size, double width)
 
 void TextFace::AddTo(Outline& outline, const TextLine& line, double size, double x,
                      double y) const {
-    for (const TextRun& run : line.runs) {
-        for (const PlacedGlyph& glyph : run.glyphs) {
-            const auto place = [&](Point point) {
-                return Point{x + glyph.x + point.x * size, y - point.y * size};
-            };
-            for (const PathStep& step : run.file->OutlineOf(glyph.index)) {
-                outline.push_back({step.kind, place(step.control), place(step.end)});
-            }
+    for (const TextLine::Glyph& glyph : line.glyphs) {
+        const auto place = [&](Point point) {
+            return Point{x + glyph.x + point.x * size, y - point.y * size};
+        };
+        for (const PathStep& step : glyph.file->OutlineOf(glyph.index)) {
+            outline.push_back({step.kind, place(step.control), place(step.end)});
         }
     }
 }

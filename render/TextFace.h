@@ -11,25 +11,25 @@
 
 namespace linewright {
 
-/** Glyphs of one font, placed from the baseline's start of their line. */
-struct TextRun {
-    const FontFile* file;
-    std::vector<PlacedGlyph> glyphs;
-};
+/** Where the face for text lies; another one that stands in for it is none. Throws a DrawingFailure
+ *  where it is not there. */
+std::filesystem::path TextFaceFile(bool isBold);
+/** Where a TrueType face with a character lies, as like the one for text as there is one. */
+std::optional<std::filesystem::path> OtherTextFaceFile(bool isBold, char32_t character);
+/** What is wrong where the face for text cannot be had. */
+DrawingProblem MissingTextFace();
 
-/** Text of one line, set in a face that it must not outlive. */
+/** Text of one line, set in a face that it must not outlive: its glyphs from the baseline's start.
+ */
 struct TextLine {
-    std::vector<TextRun> runs;
+    struct Glyph {
+        const FontFile* file;
+        unsigned int index;
+        double x;
+    };
+    std::vector<Glyph> glyphs;
     double width = 0;
 };
-
-/** Where the face lies; another one that stands in for it is none. Throws a DrawingFailure where it
- *  is not there. */
-std::filesystem::path TextFaceFile(bool isBold);
-/** Where a TrueType face with a character lies, as like the face as there is one. */
-std::optional<std::filesystem::path> TextFaceFileWith(bool isBold, char32_t character);
-/** What is wrong where it cannot be had. */
-DrawingProblem MissingTextFace();
 
 /** The face for text that a barcode font does not print: DejaVu Sans Mono, and no other one in its
  *  place, so that the same drawing has the same text on every machine. Characters that it lacks, as

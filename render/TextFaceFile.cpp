@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "render/TextFace.h"
 
@@ -55,7 +56,7 @@ std::filesystem::path TextFaceFile(bool isBold) {
     return TextOf(found, FC_FILE);
 }
 
-std::optional<std::filesystem::path> TextFaceFileWith(bool isBold, char32_t character) {
+std::optional<std::filesystem::path> OtherTextFaceFile(bool isBold, char32_t character) {
     const std::unique_ptr<FcCharSet, decltype(&FcCharSetDestroy)> characters(FcCharSetCreate(),
                                                                              FcCharSetDestroy);
     const Pattern wanted = FaceOf(isBold);

@@ -157,7 +157,7 @@ std::filesystem::path TextFaceFile(bool /*isBold*/) {
     return "DejaVuSansMono";
 }
 
-std::optional<std::filesystem::path> TextFaceFileWith(bool /*isBold*/, char32_t /*character*/) {
+std::optional<std::filesystem::path> OtherTextFaceFile(bool /*isBold*/, char32_t /*character*/) {
     return std::nullopt;
 }
 

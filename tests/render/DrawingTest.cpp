@@ -404,15 +404,15 @@ TEST(DrawingTest, TextTypesAreDrawnAsText) {
 TEST(DrawingTest, CharactersThatTheTextFaceLacksComeFromAnother) {
     const TextFace face(false);
     const TextLine line = face.Set("a\u05D0b", 10);
-    ASSERT_EQ(line.runs.size(), 3U);
-    EXPECT_EQ(line.runs[0].file, line.runs[2].file);
-    EXPECT_NE(line.runs[1].file, line.runs[0].file);
-    EXPECT_NE(line.runs[1].glyphs[0].index, 0U);
+    ASSERT_EQ(line.glyphs.size(), 3U);
+    EXPECT_EQ(line.glyphs[0].file, line.glyphs[2].file);
+    EXPECT_NE(line.glyphs[1].file, line.glyphs[0].file);
+    EXPECT_NE(line.glyphs[1].index, 0U);
     Outline outline;
     face.AddTo(outline, line, 10, 0, 0);
     EXPECT_GT(outline.size(), 20U);
     // Nobody has a private one.
-    EXPECT_EQ(face.Set("\U0010FFFD", 10).runs[0].glyphs[0].index, 0U);
+    EXPECT_EQ(face.Set("\U0010FFFD", 10).glyphs[0].index, 0U);
 }
 
 TEST(DrawingTest, AnEmptyFontStringIsAnEmptyDrawing) {

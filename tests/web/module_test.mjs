@@ -178,6 +178,16 @@ test("a drawing that cannot be had says why, and the module goes on", () => {
   }
 });
 
+test("what is no preference and no language is refused, and changes nothing", () => {
+  const before = module.preferences;
+  for (const change of [{ codabarStart: "E" }, { msiFirstCheck: "mod43" }, { code39CheckMode: 1 }, { other: 1 }]) {
+    assert.throws(() => (module.preferences = change), RangeError);
+    assert.deepEqual(module.preferences, before);
+  }
+  assert.throws(() => (module.language = "xx"), RangeError);
+  assert.equal(module.language, "en");
+});
+
 // ---- the package
 
 test("both forms of the module are the same, and npm packs the folder", async () => {

@@ -7,6 +7,7 @@ const PREFERENCES = {
 };
 const CODE39_CHECKS = { none: 0, mod10: 1, mod43: 2 };
 const MSI_CHECKS = { none: 0, mod10: 1, mod11: 2 };
+const CODABAR_LETTERS = { A: 65, B: 66, C: 67, D: 68 };
 
 const encoder = new TextEncoder();
 const decoder = new TextDecoder();
@@ -14,7 +15,7 @@ const bytesOf = (data) => (typeof data === "string" ? encoder.encode(data) : dat
 const points = (millimetres) => (millimetres == null ? NaN : millimetres * POINTS_PER_MM);
 
 function numberOf(name, table, value) {
-  if (!(value in table)) throw new RangeError(`${name} is none of ${Object.keys(table).join(", ")}`);
+  if (!Object.hasOwn(table, value)) throw new RangeError(`${name} is none of ${Object.keys(table).join(", ")}`);
   return table[value];
 }
 
@@ -46,14 +47,15 @@ class Linewright {
 
   set preferences(changes) {
     for (const name in changes)
-      if (!(name in PREFERENCES)) throw new RangeError(`no preference is named ${name}`);
+      if (!Object.hasOwn(PREFERENCES, name)) throw new RangeError(`no preference is named ${name}`);
     const wanted = { ...this.#preferences, ...changes };
     this.#exports.SetPreferences(
       numberOf("code39CheckMode", CODE39_CHECKS, wanted.code39CheckMode),
       wanted.code39UseAsterisk ? 1 : 0, wanted.i2of5CheckDigit ? 1 : 0,
       numberOf("msiFirstCheck", MSI_CHECKS, wanted.msiFirstCheck),
       numberOf("msiSecondCheck", MSI_CHECKS, wanted.msiSecondCheck),
-      wanted.codabarStart.charCodeAt(0), wanted.codabarStop.charCodeAt(0));
+      numberOf("codabarStart", CODABAR_LETTERS, wanted.codabarStart),
+      numberOf("codabarStop", CODABAR_LETTERS, wanted.codabarStop));
     this.#preferences = wanted;
   }
 

@@ -154,7 +154,7 @@ function showPaper() {
   const paper = byId("paper");
   paper.replaceChildren();
   if (!drawing?.svg) {
-    paper.append(make("p", byId("data").value === "" ? words.empty : byId("verdict").textContent));
+    paper.append(make("p", words.empty));
     return;
   }
   const picture = new DOMParser().parseFromString(drawing.svg, "image/svg+xml").documentElement;
@@ -164,6 +164,8 @@ function showPaper() {
   const pixels = Math.min(Math.max(Math.floor(room / width), 1), Math.ceil(4 * devicePixelRatio)) / devicePixelRatio;
   picture.setAttribute("width", width * pixels);
   picture.setAttribute("height", height * pixels);
+  // Halves of modules, at the ratio 2.5, need not be whole pixels.
+  if (chosen.ratio !== "2.5") picture.setAttribute("shape-rendering", "geometricPrecision");
   picture.setAttribute("role", "img");
   picture.setAttribute("aria-label", `${type.displayText}: ${drawing.printed}`);
   picture.classList.toggle("wide", width * pixels > paper.clientWidth - 34);
@@ -309,7 +311,7 @@ function showRows() {
   rows.forEach((row, place) => {
     if (shown >= MOST_ROWS_SHOWN || (isOnlyMarked && !row.kind)) return;
     shown++;
-    list.append(make("tr", [String(place + 1), row.data, row.text, row.remark].map((text) => make("td", text)), { className: row.kind }));
+    list.append(make("tr", [`${row.kind === "bad" ? "✗ " : ""}${place + 1}`, row.data, row.text, row.remark].map((text) => make("td", text)), { className: row.kind }));
   });
   byId("row-list").replaceChildren(list);
   const count = (kind) => rows.filter((row) => row.kind === kind).length;

@@ -36,7 +36,7 @@ const WORDS = {
     reads: (text) => `Zurückgelesen: ${text}`, readsNot: "Kein Scanner liest diese Zeichnung.", readsOther: (text) => `Ein Scanner liest etwas anderes: ${text}`,
     groups: { retail: "Handel", logistics: "Logistik", postal: "Post", library: "Bibliothek und Lager", classic: "Klassisch" },
     check: "Prüfziffer", ratio: "Breit zu schmal", xDimension: "Modulbreite, mm", height: "Balkenhöhe, mm", showText: "Text darunter",
-    usual: "wie üblich", yes: "ja", no: "nein", bearer: "Trägerbalken", marginMarks: "Hellzonenzeichen",
+    usual: "wie üblich", yes: "ja", no: "nein", bearer: "Trägerbalken", marginMarks: "Hellzonen\u00ADzeichen",
     code39CheckMode: "Prüfzeichen", code39UseAsterisk: "* als Start und Stopp", i2of5CheckDigit: "Prüfziffer",
     msiFirstCheck: "Erste Prüfziffer", msiSecondCheck: "Zweite Prüfziffer", codabarStart: "Startzeichen", codabarStop: "Stoppzeichen",
     none: "keine", mod10: "Modulo 10", mod11: "Modulo 11", mod43: "Modulo 43",
