@@ -42,29 +42,28 @@ int16 RefuseRouting(PMString* message) {
     return kBadLength;
 }
 
-int16 EncodeDigits(DataBlock data, PMString* message) {
-    const std::string_view digits = data.View();
-    std::array<char, kImbBarCount + 1> bars;
-    const ImbResult result = ImbEncode(digits.substr(0, kImbTrackingLength),
-                                       digits.substr(kImbTrackingLength), bars.data());
-    if (result == USPS_FSB_ENCODER_API_SUCCESS)
-        return FinishWith(data, {bars.data(), kImbBarCount}, kEncoded);
-    if (message) message->SetCString(ImbErrorMessage(result));
-    return FinishWith(data, kProcessError, kInternalError);
-}
-
 }  // namespace
 
 int16 EncodeIntelligentMail(DataBlock data, PMString* message, PMString* humanReadable) {
     if (message) message->Clear();
     const auto length = static_cast<int32>(data.length);
     if (!IsInRange(length, kShortestData, kLongestData)) return RefuseLength(data, message);
-    if (!AreDigits(data.View())) return RefuseCharacters(data, message);
-    if (!IsImbRoutingLength(data.length - kImbTrackingLength)) return RefuseRouting(message);
 
     const std::string_view digits = data.View();
+    const std::string_view routing = digits.substr(kImbTrackingLength);
+    std::array<char, kImbBarCount + 1> bars;
+    const ImbResult result = ImbEncode(digits.substr(0, kImbTrackingLength), routing, bars.data());
+    // What is encoded is of digits and of a right length.
+    if (result != USPS_FSB_ENCODER_API_SUCCESS) {
+        if (!AreDigits(digits)) return RefuseCharacters(data, message);
+        if (!IsImbRoutingLength(routing.size())) return RefuseRouting(message);
+    }
+
     if (humanReadable) humanReadable->SetString(digits.data(), length);
-    return EncodeDigits(data, message);
+    if (result == USPS_FSB_ENCODER_API_SUCCESS)
+        return FinishWith(data, {bars.data(), kImbBarCount}, kEncoded);
+    if (message) message->SetCString(ImbErrorMessage(result));
+    return FinishWith(data, kProcessError, kInternalError);
 }
 
 const char* ImbErrorMessage(ImbResult result) {

@@ -67,8 +67,10 @@ std::vector<fs::path> ResourceFilesIn(const fs::path& folder) {
     std::vector<fs::path> files;
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-        const fs::path extension = entry.path().extension();
-        if (extension == ".toml" || extension == kCompiledExtension) files.push_back(entry.path());
+        const fs::path& path = entry.path();
+        const bool isToml = path.extension() == ".toml" &&
+                            !fs::exists(fs::path(path).replace_extension(kCompiledExtension));
+        if (isToml || path.extension() == kCompiledExtension) files.push_back(path);
     }
     std::sort(files.begin(), files.end());
     return files;

@@ -8,7 +8,7 @@
 
 namespace host {
 
-/** The resource files of a folder by name: TOML, and what was compiled from it. */
+/** The resource files of a folder by name: TOML, or in its place what was compiled from it. */
 std::vector<std::filesystem::path> ResourceFilesIn(const std::filesystem::path& folder);
 
 /** A file of a plug-in's resources. What is wrong with it is thrown as std::runtime_error with

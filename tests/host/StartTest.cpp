@@ -206,6 +206,14 @@ TEST_F(CompiledTest, IsReadAsTheToml) {
     EXPECT_EQ(host::CountLocales(), 2);
 }
 
+TEST_F(CompiledTest, TakesThePlaceOfTheToml) {
+    WriteResource("test.toml", kDefinitions);
+    WriteResource("strings/enUS.toml", kTexts);
+    EXPECT_EQ(ErrorOf(kCompiled), "");
+    EXPECT_EQ(host::CountLocales(), 2);
+    EXPECT_EQ(ToUtf8(PMString("kRange")), "kRange");
+}
+
 TEST_F(CompiledTest, IsRefusedWithoutItsLine) {
     EXPECT_EQ(ErrorOf(Replaced(kCompiled, "4:name9:kEchoBoss", "4:namei9;")),
               ": \"name\" is a string");

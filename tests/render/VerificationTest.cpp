@@ -75,6 +75,28 @@ TEST(Ean13AddOns, AreRead) {
     }
 }
 
+/** What ZBar reads of an EAN-13 whose bars reach from one row to another. */
+bool IsReadWithin(int height, int first, int end, ZbarView view) {
+    FixedText<kLongestEan13> symbol;
+    EXPECT_EQ(BuildEan13("590123412345", symbol), 0);
+    const GreyRaster bars = Drawn("_QVT_BARCODE_EAN13_", std::string(symbol.View())).Raster(4);
+    GreyRaster picture{bars.width, height, {}};
+    for (int y = 0; y < height; ++y) {
+        const std::uint8_t* const row = bars.Row(bars.height / 2);
+        for (int x = 0; x < bars.width; ++x)
+            picture.pixels.push_back(y >= first && y < end ? row[x] : std::uint8_t{255});
+    }
+    return ReadWithZbar(picture, {.symbology = Symbology::kEanUpc}, view).isFound;
+}
+
+TEST(Zbar, SkipsRowsOnlyWhereItMayAndCan) {
+    // Of 96 rows every eighth is the fifth, the thirteenth and so on.
+    EXPECT_TRUE(IsReadWithin(96, 0, 96, {.skipsRows = true}));
+    EXPECT_FALSE(IsReadWithin(96, 5, 12, {.skipsRows = true}));
+    EXPECT_TRUE(IsReadWithin(96, 5, 12, {}));
+    EXPECT_TRUE(IsReadWithin(40, 5, 12, {.skipsRows = true}));
+}
+
 }  // namespace
 
 }  // namespace linewright
