@@ -60,6 +60,8 @@ class Service {
 
     /** Throws RequestFailure when the host has no memory for the data. */
     EncodeAnswer Encode(const EncodeRequest& request);
+    /** The same into an answer that has room from the last one. */
+    void Encode(const EncodeRequest& request, EncodeAnswer& answer);
     /** All types in the plug-in's own order. */
     std::vector<TypeDescription> Types();
 
