@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "bench/Cases.h"
+#include "bench/ManyRows.h"
 #include "bench/PlugIn.h"
 
 // Makes a number of calls for an instruction counter: CASE LEVEL CALLS. Two numbers of calls tell
@@ -26,6 +27,10 @@ void MakeCalls(const Case& benchCase, long count, Encode encode) {
 }
 
 int Run(const Case& benchCase, std::string_view level, long count) {
+    if (level == "many") {
+        std::printf("%zu\n", EncodeMany(benchCase, static_cast<std::size_t>(count)));
+        return EXIT_SUCCESS;
+    }
     PlugIn plugIn;
     plugIn.Choose(benchCase, level == "request UTF-8");
     std::size_t written = 0;

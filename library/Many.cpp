@@ -12,6 +12,9 @@ namespace linewright {
 
 namespace {
 
+/** So many rows tell what room all of them need. */
+constexpr std::size_t kSample = 1024;
+
 [[noreturn]] void Refuse(const std::string& sentence) {
     throw CallFailure{LINEWRIGHT_BAD_ARGUMENT, sentence};
 }
@@ -73,10 +76,10 @@ class RowEncoder {
 
     void Encode(std::string_view data, Results& results) {
         if (isWarned) return EncodeWithWarnings(data, results);
-        if (request.typeName.empty()) return results.Add("", 0, LINEWRIGHT_UNKNOWN_TYPE);
+        if (request.typeName.empty()) return results.Add(0, LINEWRIGHT_UNKNOWN_TYPE);
         request.data = data;
-        const EncodeAnswer answer = service.Encode(request);
-        if (answer.status != 0) return results.Add("", answer.status, LINEWRIGHT_BAD_DATA);
+        service.Encode(request, answer);
+        if (answer.status != 0) return results.Add(answer.status, LINEWRIGHT_BAD_DATA);
         AddMade(answer.bytes, LINEWRIGHT_MADE, results);
     }
 
@@ -85,12 +88,17 @@ class RowEncoder {
         wish.data = data;
         const BarcodeOutcome outcome = MakeBarcode(service, wish);
         const auto reason = static_cast<uint8_t>(ReasonOf(outcome));
-        if (!outcome.IsMade()) return results.Add("", outcome.status.value_or(0), reason);
+        if (!outcome.IsMade()) return results.Add(outcome.status.value_or(0), reason);
         AddMade(outcome.bytes, reason, results);
     }
 
     void AddMade(const std::string& bytes, uint8_t reason, Results& results) const {
-        results.Add(isText ? FontText(bytes) : bytes, 0, reason);
+        if (isText) {
+            AppendFontText(results.Texts(), bytes);
+        } else {
+            results.Texts() += bytes;
+        }
+        results.Add(0, reason);
     }
 
     Service& service;
@@ -100,6 +108,7 @@ class RowEncoder {
     bool isTypeSet = false;
     BarcodeWish wish;
     EncodeRequest request;
+    EncodeAnswer answer;
 };
 
 }  // namespace
@@ -111,8 +120,7 @@ Results::Results(std::size_t count) {
     offsets.push_back(0);
 }
 
-void Results::Add(std::string_view text, int32_t status, uint8_t reason) {
-    texts += text;
+void Results::Add(int32_t status, uint8_t reason) {
     offsets.push_back(static_cast<int64_t>(texts.size()));
     statuses.push_back(status);
     reasons.push_back(reason);
@@ -148,6 +156,7 @@ std::unique_ptr<Results> EncodeMany(Opened& opened, const linewright_rows& rows,
     const Column types(rows.types, "types");
     RowEncoder encoder(opened.Requests(), options);
     for (std::size_t row = 0; row < rows.count; ++row) {
+        if (row == kSample) results->Texts().reserve(results->Texts().size() / row * rows.count);
         encoder.SetType(IsThere(rows.types) ? types.At(row) : ViewOf(rows.type));
         encoder.SetCheck(rows.checks != nullptr ? rows.checks[row]
                                                 : static_cast<uint8_t>(options.check));

@@ -17,8 +17,9 @@ class Results {
     Results(const Results&) = delete;
     Results& operator=(const Results&) = delete;
 
-    /** The next row. */
-    void Add(std::string_view text, int32_t status, uint8_t reason);
+    /** The next row, of which the text has been appended to Texts(). */
+    void Add(int32_t status, uint8_t reason);
+    std::string& Texts() { return texts; }
     static const linewright_results* HandOut(std::unique_ptr<Results> results);
     static void TakeBack(const linewright_results* results);
 

@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <limits>
 
-#include "IMemoryService.h"
 #include "ISession.h"
-#include "InterfacePtr.h"
 #include "requests/RequestFailure.h"
 
 namespace linewright {
 
-HostBlock::HostBlock(std::string_view bytes) {
-    const InterfacePtr<IMemoryService> memory(GetExecutionContextSession(), UseDefaultIID());
+HostBlock::HostBlock(std::string_view bytes)
+    : memory(GetExecutionContextSession(), UseDefaultIID()) {
     if (memory && bytes.size() <= std::numeric_limits<uint32>::max()) {
         length = static_cast<uint32>(bytes.size());
         block = memory->Allocate(length);
@@ -21,8 +19,7 @@ HostBlock::HostBlock(std::string_view bytes) {
 }
 
 HostBlock::~HostBlock() {
-    const InterfacePtr<IMemoryService> memory(GetExecutionContextSession(), UseDefaultIID());
-    if (memory) memory->Deallocate(block);
+    memory->Deallocate(block);
 }
 
 }  // namespace linewright

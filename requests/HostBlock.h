@@ -3,6 +3,8 @@
 #include <string_view>
 
 #include "BaseType.h"
+#include "IMemoryService.h"
+#include "InterfacePtr.h"
 
 namespace linewright {
 
@@ -23,6 +25,9 @@ class HostBlock {
 
     void* block = nullptr;
     uint32 length = 0;
+
+  private:
+    InterfacePtr<IMemoryService> memory;
 };
 
 }  // namespace linewright

@@ -50,6 +50,17 @@ int32 Service::Send(RequestCode code, LinewrightRequestParams& params) {
 EncodeAnswer Service::Encode(EncodeRequest request) {
     HostBlock data(request.data);
     std::string().swap(request.data);
+    EncodeAnswer answer;
+    Encode(data, request, answer);
+    return answer;
+}
+
+void Service::Encode(const EncodeRequest& request, EncodeAnswer& answer) {
+    HostBlock data(request.data);
+    Encode(data, request, answer);
+}
+
+void Service::Encode(HostBlock& data, const EncodeRequest& request, EncodeAnswer& answer) {
     uint16 isRecognised = 0;
     PMString hint;
     LinewrightRequestParams params{};
@@ -64,9 +75,11 @@ EncodeAnswer Service::Encode(EncodeRequest request) {
         std::min<std::size_t>(request.typeName.size(), kMaxPStringLength);
     params.typeName.length = static_cast<uint8>(nameLength);
     std::copy_n(request.typeName.begin(), nameLength, params.typeName.text);
-    const int32 status = Send(kEncodeRequest, params);
+    answer.status = Send(kEncodeRequest, params);
     data.length = params.dataLength;
-    return {status, isRecognised != 0, std::string(data.Bytes()), host::ToUtf8(hint)};
+    answer.isRecognised = isRecognised != 0;
+    answer.bytes = data.Bytes();
+    answer.hint = host::ToUtf8(hint);
 }
 
 std::string Service::ClassicTypeName(int16 index) {

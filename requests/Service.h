@@ -11,6 +11,8 @@
 
 namespace linewright {
 
+class HostBlock;
+
 /** Where the host finds things, as UTF-8 texts; an empty one takes the host's default. */
 struct HostOptions {
     std::string plugin{};
@@ -61,6 +63,8 @@ class Service {
     /** Lets go of the data as soon as the host has it. Throws RequestFailure when the host has no
      *  memory for it. */
     EncodeAnswer Encode(EncodeRequest request);
+    /** The same, with the data kept, into an answer that has room from the last one. */
+    void Encode(const EncodeRequest& request, EncodeAnswer& answer);
     /** All types in the plug-in's own order. */
     std::vector<TypeDescription> Types();
 
@@ -71,6 +75,8 @@ class Service {
     host::Leaks Stop();
 
   private:
+    /** The request for data that the host has already. */
+    void Encode(HostBlock& data, const EncodeRequest& request, EncodeAnswer& answer);
     std::string ClassicTypeName(int16 index);
     std::string DisplayTextOf(const std::string& typeName);
     TypeDescription CurrentType(int16 index);

@@ -1,20 +1,35 @@
 #include "text/FontText.h"
 
+#include <algorithm>
+
 #include "text/FontCharacters.h"
 #include "text/Utf8.h"
 
 namespace linewright {
 
+namespace {
+
+bool StandsForItself(char byte) {
+    return byte >= ' ' && byte <= '~';
+}
+
+}  // namespace
+
+void AppendFontText(std::string& text, std::string_view fontString) {
+    while (!fontString.empty()) {
+        const auto* const other =
+            std::find_if_not(fontString.begin(), fontString.end(), StandsForItself);
+        const auto plain = static_cast<std::size_t>(other - fontString.begin());
+        text += fontString.substr(0, plain);
+        if (plain == fontString.size()) return;
+        AppendUtf8(text, FontCharacter(static_cast<unsigned char>(fontString[plain])));
+        fontString.remove_prefix(plain + 1);
+    }
+}
+
 std::string FontText(std::string_view fontString) {
     std::string text;
-    text.reserve(fontString.size());
-    for (const char byte : fontString) {
-        if (byte >= ' ' && byte <= '~') {
-            text += byte;
-        } else {
-            AppendUtf8(text, FontCharacter(static_cast<unsigned char>(byte)));
-        }
-    }
+    AppendFontText(text, fontString);
     return text;
 }
 

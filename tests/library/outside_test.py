@@ -5,6 +5,7 @@ pkg-config, from a folder that was moved after the installation.
 Usage: outside_test.py CMAKE BUILD-FOLDER C-COMPILER C++-COMPILER
 """
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -70,6 +71,37 @@ class OutsideTest(unittest.TestCase):
         program = self.found_by_pkg_config("linewright-service", [CXX, "-std=c++20"],
                                            "service/main.cpp")
         self.assertEqual(self.run_program(program, self.plug_in()), ENCODED)
+
+    def documented(self, language):
+        text = (Path(__file__).parents[2] / "docs/library.md").read_text(encoding="utf-8")
+        block, = re.findall(rf"```{language}\n(.*?)```", text, re.DOTALL)
+        self.assertEqual(block.count("\n"), 5)
+        return block
+
+    def compiled(self, language, compiler, includes):
+        source = self.folder / f"documented.{language}"
+        source.write_text("".join(f"#include <{name}>\n" for name in includes)
+                          + "int main(void) {\n" + self.documented(language) + "}\n")
+        return self.run_program(self.found_by_pkg_config("linewright", compiler, source))
+
+    def test_the_documentations_c(self):
+        self.assertEqual(self.compiled("c", [CC, "-std=c11", "-Wall", "-Wextra", "-Werror"],
+                                       ["linewright.h", "stdio.h"]), ENCODED)
+
+    def test_the_documentations_cpp(self):
+        self.assertEqual(self.compiled("cpp", [CXX, "-std=c++11", "-Wall", "-Wextra", "-Werror"],
+                                       ["linewright.h", "iostream", "memory", "string"]), ENCODED)
+
+    def test_the_documentations_python(self):
+        modules = next(self.libraries.glob("python*/*/linewright")).parent
+        environment = {**self.environment, "PYTHONPATH": str(modules), "PYTHONDONTWRITEBYTECODE": "1"}
+        self.assertEqual(run(sys.executable, "-c", self.documented("python"), env=environment,
+                             cwd=self.folder), ENCODED)
+        self.assertIn("<svg", (self.folder / "pen.svg").read_text(encoding="utf-8"))
+
+    def test_the_documentations_sql(self):
+        self.assertEqual(run("sqlite3", "-cmd", f".load {self.libraries / 'linewright_sqlite'}", ":memory:",
+                             self.documented("sql"), env=self.environment), ENCODED)
 
     def test_an_unknown_component_is_missing(self):
         project = self.folder / "unknown"
