@@ -67,7 +67,7 @@ def main() -> int:
     benchmarks, program, linewright, document = *sys.argv[1:4], Path(sys.argv[4])
     text = document.read_text(encoding="utf-8")
     before, rest = text.split(BEGIN)
-    after = rest.split(END)[1]
+    after = rest.split(END, 1)[1]
     files = sorted(Path(__file__).with_name("batch").glob("*.csv"))
     tables = "\n".join([f"{datetime.date.today():%-d %B %Y}, {processor()}.", "",
                         *encodes(benchmarks, program), "", *programs.table(linewright, files), ""])

@@ -22,7 +22,9 @@ void StreamSink::Write(std::string_view bytes) {
 }
 
 BlockWriter::BlockWriter(ByteSink& borrowed, Encoding encoding)
-    : sink(borrowed), isLimited(!HasAllCharacters(encoding)), block(new char[kBlock + kSixteen]) {
+    : sink(borrowed),
+      isLimited(!HasAllCharacters(encoding)),
+      block(new char[kBlock + 2 * kSixteen]) {
     if (encoding != Encoding::kUtf8) conversion.emplace(Encoding::kUtf8, encoding);
 }
 
