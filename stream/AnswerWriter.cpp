@@ -35,7 +35,7 @@ const std::array<ByteText, 256>& ByteTexts() {
     return texts;
 }
 
-void AppendFontText(std::string& text, std::string_view fontString) {
+void AppendQuotedFontText(std::string& text, std::string_view fontString) {
     const auto& texts = ByteTexts();
     std::size_t end = text.size();
     text.resize(end + fontString.size() * sizeof(ByteText::characters));
@@ -80,7 +80,7 @@ void AnswerWriter::Write(std::string_view id, const EncodeAnswer& answer,
     text += ",\"hex\":\"";
     inPieces([this](std::string_view piece) { text += ToHex(piece); });
     text += "\",\"text\":\"";
-    inPieces([this](std::string_view piece) { AppendFontText(text, piece); });
+    inPieces([this](std::string_view piece) { AppendQuotedFontText(text, piece); });
     text.append("\",\"hint\":").append(answer.hint.empty() ? "\"\"" : Quoted(answer.hint));
     if (!remarks.note.empty()) text.append(",\"note\":").append(Quoted(remarks.note));
     if (remarks.areWarningsWanted) {
