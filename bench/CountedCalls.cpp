@@ -2,13 +2,17 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
+#include <filesystem>
+#include <sstream>
+#include <stdexcept>
 
 #include "bench/Cases.h"
 #include "bench/ManyRows.h"
 #include "bench/PlugIn.h"
+#include "stream/AnswerLines.h"
 
 // Makes a number of calls for an instruction counter: CASE LEVEL CALLS. Two numbers of calls tell
-// what one of them takes.
+// what one of them takes. The level "stream" makes multiples of kRowCount.
 
 namespace linewright::bench {
 
@@ -26,9 +30,33 @@ void MakeCalls(const Case& benchCase, long count, Encode encode) {
         encode(benchCase.rows[static_cast<std::size_t>(call) % kRowCount]);
 }
 
+/** The answers to lines of requests, as `linewright stream` gives them. */
+std::size_t AnswerRows(const Case& benchCase, long count) {
+    std::string lines;
+    for (const std::string& row : benchCase.rows) {
+        lines.append("{\"type\":\"").append(benchCase.type);
+        lines.append("\",\"data\":\"").append(row).append("\"}\n");
+    }
+    const std::string folder = MakeFolder();
+    Service service({.plugin = LINEWRIGHT_PLUGIN, .roamingFolder = folder, .appFolder = folder});
+    std::ostringstream out;
+    for (long call = 0; call < count; call += kRowCount) {
+        std::istringstream in(lines);
+        if (!AnswerLines(service, in, out, Language::kEnglish))
+            throw std::runtime_error("a row was no request");
+    }
+    service.Stop();
+    std::filesystem::remove_all(folder);
+    return out.str().size();
+}
+
 int Run(const Case& benchCase, std::string_view level, long count) {
     if (level == "many") {
         std::printf("%zu\n", EncodeMany(benchCase, static_cast<std::size_t>(count)));
+        return EXIT_SUCCESS;
+    }
+    if (level == "stream") {
+        std::printf("%zu\n", AnswerRows(benchCase, count));
         return EXIT_SUCCESS;
     }
     PlugIn plugIn;

@@ -14,16 +14,12 @@ namespace fs = std::filesystem;
 
 namespace linewright::bench {
 
-namespace {
-
 std::string MakeFolder() {
     const fs::path folder =
         fs::temp_directory_path() / ("linewright-bench-" + std::to_string(std::random_device()()));
     fs::create_directories(folder);
     return folder.string();
 }
-
-}  // namespace
 
 PlugIn::PlugIn() : folder(MakeFolder()) {
     if (!host.Start({.plugin = LINEWRIGHT_PLUGIN,

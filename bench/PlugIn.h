@@ -12,6 +12,9 @@
 
 namespace linewright::bench {
 
+/** A new folder for a host's files. */
+std::string MakeFolder();
+
 /** The stand-in host with the plug-in loaded, in folders of a scratch of its own. */
 class PlugIn {
   public:

@@ -46,6 +46,6 @@ struct ArticleNumber {
  * are those of EAN and UPC, Interleaved 2 of 5 (14 digits) and the current Code 128 (identifier
  * 01). Any bytes will do.
  */
-ArticleNumber BringToForm(const BarcodeType& type, std::string_view written);
+ArticleNumber BringToForm(const BarcodeType& type, std::string_view data);
 
 }  // namespace linewright
