@@ -158,14 +158,29 @@ std::string SummaryOf(const MergeCounts& counts) {
     return summary.dump(2) + '\n';
 }
 
+namespace {
+
+/** What is written last would take the place of the other one. */
+void RequireDifferent(const std::vector<std::string>& outputs) {
+    for (auto name = outputs.begin(); name != outputs.end(); ++name) {
+        if (!name->empty() && std::find(name + 1, outputs.end(), *name) != outputs.end()) {
+            throw Failure(
+                fmt::format("{}: two outputs cannot have the same name", Readable(*name)));
+        }
+    }
+}
+
+}  // namespace
+
 MergeResult MergeFile(const MergePlace& place, const MergeFiles& files,
                       const MergeOptions& options) {
+    RequireDifferent({files.output, options.rejects, options.summary});
     Run run(place, files, options);
     MergeResult result = run.Take();
     run.Keep(!result.stoppedAt);
     if (!options.summary.empty()) {
-        OutputFile summary(options.summary);
-        summary.Write(SummaryOf(result.counts));
+        Output summary(options.summary, place.out, Encoding::kUtf8);
+        summary.Writer().Append(SummaryOf(result.counts));
         summary.Keep();
     }
     return result;

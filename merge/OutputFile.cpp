@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include "host/runtime/Paths.h"
-#include "merge/Failure.h"
+#include "merge/OutputFailure.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -22,7 +22,7 @@ void OutputFile::Keep() {
 }
 
 void OutputFile::Fail() const {
-    throw Failure(fmt::format("{}: {}", Readable(name), file.Error()));
+    throw OutputFailure(fmt::format("{}: {}", Readable(name), file.Error()));
 }
 
 }  // namespace linewright
