@@ -1,4 +1,4 @@
-/* The header as C11 and, in another file that includes this one, as C++11; and every function named. */
+/* The header as C11 and, copied, as C++11; and every function called. */
 #include <linewright.h>
 
 int main(void) {

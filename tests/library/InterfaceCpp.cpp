@@ -1,1 +1,0 @@
-#include "Interface.c"
