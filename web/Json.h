@@ -1,10 +1,8 @@
 #pragma once
 
-#include <array>
-#include <charconv>
+#include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace linewright::web {
 
@@ -30,8 +28,14 @@ class Json {
     void Value(std::string_view value) {
         Separate();
         text += '"';
-        for (const char byte : value) Escape(byte);
-        text += '"';
+        std::size_t written = 0;
+        for (std::size_t place = 0; place < value.size(); ++place) {
+            if (!IsEscaped(value[place])) continue;
+            text.append(value, written, place - written);
+            Escape(value[place]);
+            written = place + 1;
+        }
+        text.append(value, written).append(1, '"');
     }
     /** What is JSON already: a number, true, null. */
     void Plain(std::string_view value) {
@@ -56,18 +60,13 @@ class Json {
         if (!isFirst) text += ',';
         isFirst = false;
     }
+    static bool IsEscaped(char byte) {
+        return byte == '"' || byte == '\\' || static_cast<unsigned char>(byte) < ' ';
+    }
     void Escape(char byte) {
         constexpr std::string_view kDigits = "0123456789abcdef";
-        if (byte == '"' || byte == '\\') {
-            text += '\\';
-            text += byte;
-        } else if (static_cast<unsigned char>(byte) < ' ') {
-            text += "\\u00";
-            text += kDigits[static_cast<std::size_t>(byte) / 16];
-            text += kDigits[static_cast<std::size_t>(byte) % 16];
-        } else {
-            text += byte;
-        }
+        const auto number = static_cast<std::size_t>(byte);
+        text.append("\\u00").append(1, kDigits[number / 16]).append(1, kDigits[number % 16]);
     }
 
     std::string& text;

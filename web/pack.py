@@ -46,6 +46,7 @@ def write_page(wasm, fonts, scanner, path):
         "style": (WEB / "page/page.css").read_text("utf-8"),
         "data": f"const DATA = {json.dumps(data)};",
         "module": script((WEB / "module/core.js").read_text("utf-8")),
+        "png": (WEB / "page/png.js").read_text("utf-8"),
         "words": (WEB / "page/words.js").read_text("utf-8"),
         "page": (WEB / "page/page.js").read_text("utf-8"),
         "scanner": scanner_script(scanner) if scanner else "",

@@ -1,6 +1,6 @@
 // Debian's chromium without a window, driven through its two pipes.
 import { spawn } from "node:child_process";
-import { mkdirSync, writeFileSync } from "node:fs";
+import { mkdirSync, renameSync, writeFileSync } from "node:fs";
 import path from "node:path";
 import { folder } from "./support.mjs";
 
@@ -60,15 +60,21 @@ export class Browser {
 class Page {
   /** What went wrong in the page: exceptions, and errors in its console. */
   faults = [];
-  /** Names of files that were saved. */
-  saved = new Map();
+  /** Files that were saved, one after another. */
+  saved = [];
   requests = [];
+  names = new Map();
 
   constructor(browser, sessionId) {
     this.browser = browser;
     this.send = (method, params) => browser.send(method, params, sessionId);
     browser.listen(({ method, params, sessionId: from }) => {
-      if (method === "Browser.downloadWillBegin") this.saved.set(params.guid, params.suggestedFilename);
+      if (method === "Browser.downloadWillBegin") this.names.set(params.guid, params.suggestedFilename);
+      if (method === "Browser.downloadProgress" && params.state === "completed") {
+        const file = path.join(this.folder, `${this.saved.length}-${this.names.get(params.guid)}`);
+        renameSync(path.join(this.folder, params.guid), file);
+        this.saved.push(file);
+      }
       if (from !== sessionId) return;
       if (method === "Runtime.exceptionThrown") this.faults.push(params.exceptionDetails.exception?.description ?? params.exceptionDetails.text);
       if (method === "Log.entryAdded" && params.entry.level === "error") this.faults.push(params.entry.text);
@@ -80,7 +86,7 @@ class Page {
   async start(address) {
     this.folder = path.join(folder, `saved-${Math.random()}`);
     mkdirSync(this.folder);
-    await this.browser.send("Browser.setDownloadBehavior", { behavior: "allow", downloadPath: this.folder, eventsEnabled: true });
+    await this.browser.send("Browser.setDownloadBehavior", { behavior: "allowAndName", downloadPath: this.folder, eventsEnabled: true });
     await this.browser.send("Browser.grantPermissions", { permissions: ["clipboardReadWrite", "clipboardSanitizedWrite"] });
     for (const domain of ["Page", "Runtime", "Log", "Network"]) await this.send(`${domain}.enable`);
     await this.go(address);

@@ -3,11 +3,16 @@ import assert from "node:assert/strict";
 import { readdirSync, readFileSync, writeFileSync } from "node:fs";
 import { execFileSync } from "node:child_process";
 import path from "node:path";
-import test from "node:test";
+import test, { beforeEach } from "node:test";
 import { csvField, csvRows, folder, linewright, loadModule, LOCALES, OUT, randomNumbers, ROOT, SAMPLES } from "./support.mjs";
 
 const module = await loadModule();
 const types = module.types();
+
+// Whatever a test that failed left behind.
+beforeEach(() => {
+  module.language = "en";
+});
 
 // ---- vectors
 
@@ -67,7 +72,6 @@ test("rows of tests/vectors that name a type", () => {
       if (row.recognised !== undefined) assert.equal(answer.recognised, row.recognised, row.where);
     }
   }
-  module.language = "en";
   console.log(`  ${rows.length} rows in ${Object.keys(LOCALES).length} languages`);
 });
 
@@ -125,7 +129,6 @@ test("warnings and refusals say in each language what the command says", () => {
       assert.deepEqual(seen, told, `${language}: ${type} ${data}`);
     });
   }
-  module.language = "en";
   console.log(`  ${wanted.length} rows in ${Object.keys(LOCALES).length} languages`);
 });
 

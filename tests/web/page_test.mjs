@@ -46,12 +46,10 @@ async function typeInto(selector, text) {
 }
 
 async function saved(button) {
-  const before = page.saved.size;
+  const before = page.saved.length;
   await page.click(button);
   for (let tries = 0; tries < 300; ++tries) {
-    const name = [...page.saved.values()].at(-1);
-    const file = path.join(page.folder, name ?? "");
-    if (page.saved.size > before && existsSync(file)) return file;
+    if (page.saved.length > before) return page.saved.at(-1);
     await new Promise((done) => setTimeout(done, 50));
   }
   throw new Error(`${button} saved nothing`);

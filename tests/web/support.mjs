@@ -1,5 +1,5 @@
 // What the tests of the module and of the page share.
-import { execFileSync, spawnSync } from "node:child_process";
+import { spawnSync } from "node:child_process";
 import { mkdtempSync, readFileSync, rmSync } from "node:fs";
 import { tmpdir } from "node:os";
 import path from "node:path";
@@ -68,5 +68,3 @@ export const SAMPLES = {
   "classic-i2of5": ["1540014128876"], i2of5: ["15400141288763", "123"], "classic-i2of5-text": ["1540014128876"],
   "i2of5-text": ["15400141288763"], "classic-msi": ["1234567"], msi: ["1234567", "80523"],
 };
-
-export const commandBuild = () => execFileSync(COMMAND, ["--version"], { encoding: "utf8" }).trim();
