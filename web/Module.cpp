@@ -35,6 +35,7 @@ constexpr std::uint32_t kBearerBars = 8;
 constexpr std::uint32_t kMarginMarks = 16;
 constexpr std::uint32_t kText = 32;
 constexpr std::uint32_t kNoText = 64;
+constexpr std::uint32_t kArticleNumber = 128;
 
 constexpr int kMillimetreDigits = 5;
 
@@ -59,7 +60,8 @@ BarcodeWish WishOf(std::uint32_t typeLength, std::uint32_t flags, std::uint32_t 
             .isUtf8 = (flags & kUtf8) != 0,
             .checkCharacter = static_cast<uint8>(check),
             .ratio = ratio,
-            .isStrict = (flags & kStrict) != 0};
+            .isStrict = (flags & kStrict) != 0,
+            .isArticleNumber = (flags & kArticleNumber) != 0};
 }
 
 std::string InMillimetres(double points) {
@@ -80,6 +82,7 @@ void AddOutcome(Json& json, const BarcodeOutcome& outcome, const BarcodeWish& wi
         json.Member("message", WhyRefused(outcome, language));
         json.Member("hint", outcome.hint);
     }
+    if (outcome.note) json.Member("note", Sentence(*outcome.note, language));
     json.Name("warnings");
     json.Open('[');
     for (const Warning& warning : outcome.Warnings()) json.Value(Sentence(warning, language));

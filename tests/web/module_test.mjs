@@ -132,6 +132,24 @@ test("warnings and refusals say in each language what the command says", () => {
   console.log(`  ${wanted.length} rows in ${Object.keys(LOCALES).length} languages`);
 });
 
+test("article numbers are brought to the type's form as the command brings them", () => {
+  const wanted = ["9780306406157", "0-306-40615-2", "0306406153", "036000291452", "4006381333931", "2049-3630", "96385074", "x"]
+    .flatMap((data) => ["ean13", "ean8", "upca", "upce", "i2of5", "code128", "code39"].map((type) => ({ type, data })));
+  const file = ["type,data", ...wanted.map(({ type, data }) => `${type},${data}`)].join("\n");
+  for (const [language, locale] of Object.entries(LOCALES)) {
+    module.language = language;
+    const [names, ...lines] = csvRows(linewright(["batch", "-", "-o", "-", "--gtin", "--locale", locale], `${file}\n`));
+    lines.forEach((line, place) => {
+      const outcome = module.encode({ ...wanted[place], gtin: true });
+      assert.equal(outcome.text ?? "", line[names.indexOf("barcode")], line.join());
+
+      assert.equal(outcome.message ?? "", line[names.indexOf("message")], line.join());
+      assert.equal([outcome.note, ...outcome.warnings].filter(Boolean).join("; "), line[names.indexOf("warning")], line.join());
+    });
+  }
+  module.language = "en";
+});
+
 // ---- drawings
 
 const DRAWINGS = [

@@ -1,4 +1,5 @@
-const UTF8 = 1, STRICT = 2, FITTED = 4, BEARER_BARS = 8, MARGIN_MARKS = 16, TEXT = 32, NO_TEXT = 64;
+const UTF8 = 1, STRICT = 2, FITTED = 4, BEARER_BARS = 8, MARGIN_MARKS = 16, TEXT = 32, NO_TEXT = 64,
+  ARTICLE_NUMBER = 128;
 const LOCALES = { en: "enUS", de: "deDE", fr: "frFR", ja: "jaJP" };
 const POINTS_PER_MM = 72 / 25.4;
 const PREFERENCES = {
@@ -81,8 +82,8 @@ class Linewright {
       drawing.dpi ?? NaN);
   }
 
-  #wish({ type, data, utf8 = typeof data === "string", check = false, ratio = 2, strict = false }) {
-    return [[type, data], (utf8 ? UTF8 : 0) | (strict ? STRICT : 0), check ? 1 : 0, ratio];
+  #wish({ type, data, utf8 = typeof data === "string", check = false, ratio = 2, strict = false, gtin = false }) {
+    return [[type, data], (utf8 ? UTF8 : 0) | (strict ? STRICT : 0) | (gtin ? ARTICLE_NUMBER : 0), check ? 1 : 0, ratio];
   }
 
   #restart() {

@@ -41,6 +41,8 @@ export interface Wish {
   ratio?: number;
   /** Whether a warning is a refusal. */
   strict?: boolean;
+  /** Whether data is an article number (GTIN, ISBN, ISSN), to be brought to the type's form. */
+  gtin?: boolean;
 }
 
 /** How a drawing departs from its type's; lengths in millimetres. */
@@ -84,6 +86,8 @@ export interface Outcome {
   barsSay?: string;
   /** Why it was refused, and the plug-in's hint; not there for what was made. */
   message?: string;
+  /** What was made of an article number that had another form. */
+  note?: string;
   hint?: string;
   warnings: string[];
 }

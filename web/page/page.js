@@ -37,6 +37,7 @@ const numbers = { kind: "number", min: 0, step: "any" };
 const choices = (...names) => ({ kind: "choice", names });
 const OPTIONS = {
   check: { kind: "check", has: (t) => t.check === "on request" },
+  gtin: { kind: "check", has: (t) => /ean|jan|upc|i2of5$|^code128$/.test(t.shortName) },
   ratio: { kind: "choice", names: ["2", "2.5", "3"], has: (t) => t.hasRatio },
   code39CheckMode: { ...choices("none", "mod10", "mod43"), has: (t) => t.shortName.startsWith("classic-code39"), isPreference: true },
   code39UseAsterisk: { kind: "check", has: (t) => t.shortName.startsWith("classic-code39"), isPreference: true },
@@ -55,7 +56,7 @@ const ticked = (name) => OPTIONS[name].has(type) && chosen[name] === true;
 const numberOf = (name) => (OPTIONS[name].has(type) && chosen[name] > 0 ? Number(chosen[name]) : undefined);
 
 function wishOf(data) {
-  return { type: type.name, data, check: ticked("check"), ratio: OPTIONS.ratio.has(type) ? Number(chosen.ratio ?? 2) : 2 };
+  return { type: type.name, data, check: ticked("check"), gtin: ticked("gtin"), ratio: OPTIONS.ratio.has(type) ? Number(chosen.ratio ?? 2) : 2 };
 }
 
 function drawingWish(more = {}) {
@@ -136,6 +137,7 @@ function update() {
   try {
     if (data !== "") drawing = linewright.draw(wishOf(data), drawingWish());
     if (drawing && drawing.message) verdict.append(note("bad", words.refused(drawing.message)));
+    if (drawing?.note) verdict.append(note("good", drawing.note));
     for (const warning of [...(drawing?.warnings ?? []), ...(drawing?.drawingWarnings ?? [])]) verdict.append(note("warn", warning));
   } catch (error) {
     verdict.append(note("bad", error.message));
@@ -277,7 +279,7 @@ function convertColumn() {
     const outcome = linewright.encode(wishOf(data));
     rows.push({
       data, text: outcome.text ?? "",
-      remark: outcome.message !== undefined ? words.refused(outcome.message) : outcome.warnings.join("; "),
+      remark: outcome.message !== undefined ? words.refused(outcome.message) : [outcome.note, ...outcome.warnings].filter(Boolean).join("; "),
       kind: outcome.message !== undefined ? "bad" : outcome.warnings.length > 0 ? "warn" : "",
     });
   }
