@@ -57,7 +57,7 @@ def main() -> int:
     benchmarks, program, document = sys.argv[1], sys.argv[2], Path(sys.argv[3])
     text = document.read_text(encoding="utf-8")
     before, rest = text.split(BEGIN)
-    after = rest.split(END)[1]
+    after = rest.split(END, 1)[1]
 
     lines = [f"{datetime.date.today():%-d %B %Y}, {processor()}.", "",
              "| Symbology | libzint | " + " | ".join(LEVELS.values()) + " |",

@@ -1,7 +1,6 @@
 #include "meaning/PlainMeaning.h"
 
-#include <array>
-
+#include "core/Word.h"
 #include "meaning/Bars.h"
 #include "meaning/PlainBars.h"
 
@@ -11,27 +10,37 @@ namespace {
 
 using namespace meaning;
 
-/** By byte, whether it is none of some characters. */
-constexpr std::array<bool, 256> AllBut(std::string_view characters) {
-    std::array<bool, 256> others{};
-    others.fill(true);
-    for (const char character : characters) others[static_cast<unsigned char>(character)] = false;
-    return others;
+/** Whether each of eight bytes is "A", "D", "F" or "T". */
+constexpr bool AreBars(Word letters) {
+    // Below 0x20 a sum with 0x7F has its highest bit unless it is 0 that is added, and no sum
+    // reaches the next byte.
+    constexpr Word kHighest = EightTimes(0x80);
+    const Word low = letters ^ EightTimes(0x40);
+    const auto differsFrom = [low](char letter) {
+        return (low ^ EightTimes(static_cast<unsigned char>(letter ^ 0x40))) + EightTimes(0x7F);
+    };
+    const Word isNone =
+        differsFrom('A') & differsFrom('D') & differsFrom('F') & differsFrom('T') & kHighest;
+    return (low & EightTimes(0xE0)) == 0 && isNone == 0;
 }
+static_assert(AreBars(MakeWord("ADFTTFDA")) && !AreBars(MakeWord("ADFTTFDB")) &&
+              !AreBars(MakeWord("ADFTTFD\xC1")) && !AreBars(MakeWord("ADFTTFD")));
 
-bool ConsistsOfAllBut(std::string_view text, const std::array<bool, 256>& others) {
-    bool isOther = false;
-    for (const char character : text) isOther |= others[static_cast<unsigned char>(character)];
-    return !isOther;
+/** Whether a rule holds of all words of a text, the last one of which may overlap the one before.
+ */
+template <class Rule>
+bool HoldsOfAll(std::string_view text, Rule rule) {
+    if (text.size() < kWordSize) return false;
+    for (std::size_t place = 0; place + kWordSize < text.size(); place += kWordSize) {
+        if (!rule(Load<Word>(text.data() + place))) return false;
+    }
+    return rule(Load<Word>(text.data() + text.size() - kWordSize));
 }
-
-constexpr auto kNoDigit = AllBut("0123456789");
-constexpr auto kNoBar = AllBut("ADFT");
 
 /** Nobody but the encoder knows the digits in the bars. */
 bool HasIntelligentMailBars(std::string_view fontString, std::string_view data) {
-    return fontString.size() == 65 && ConsistsOfAllBut(fontString, kNoBar) &&
-           ConsistsOfAllBut(data, kNoDigit);
+    return fontString.size() == 65 && HoldsOfAll(fontString, AreBars) &&
+           HoldsOfAll(data, [](Word digits) { return linewright::AreDigits(digits); });
 }
 
 bool SaysItsData(TypeCode code, std::string_view fontString, std::string_view data) {

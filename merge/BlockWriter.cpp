@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "merge/Failure.h"
+#include "merge/OutputFailure.h"
 #include "text/Utf8.h"
 
 namespace linewright {
@@ -18,11 +18,13 @@ bool IsAscii(std::string_view text) {
 
 void StreamSink::Write(std::string_view bytes) {
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!stream.flush()) throw Failure("standard output could not be written to its end");
+    if (!stream.flush()) throw OutputFailure("standard output could not be written to its end");
 }
 
 BlockWriter::BlockWriter(ByteSink& borrowed, Encoding encoding)
-    : sink(borrowed), isLimited(!HasAllCharacters(encoding)), block(new char[kBlock + kSixteen]) {
+    : sink(borrowed),
+      isLimited(!HasAllCharacters(encoding)),
+      block(new char[kBlock + 2 * kSixteen]) {
     if (encoding != Encoding::kUtf8) conversion.emplace(Encoding::kUtf8, encoding);
 }
 

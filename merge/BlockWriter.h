@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstring>
 #include <initializer_list>
 #include <memory>
@@ -13,10 +14,19 @@
 
 namespace linewright {
 
+/** Up to sixteen bytes, which are copied all at once. */
+struct ShortText {
+    std::array<char, kSixteen> bytes{};
+    std::size_t size = 0;
+
+    void Add(char byte) { bytes.at(size++) = byte; }
+    std::string_view View() const { return {bytes.data(), size}; }
+};
+
 /** What stands in front of and behind the barcode of a row of which there is nothing to say. */
 struct PlainResults {
-    std::string front{};
-    std::string behind{};
+    ShortText front{};
+    ShortText behind{};
 };
 
 /** Gathers text in UTF-8 into blocks, which are written in the encoding of a file. */
@@ -27,27 +37,30 @@ class BlockWriter {
 
     void Append(std::string_view text) {
         if (text.size() > kBlock - used) return AppendSlowly(text);
-        std::memcpy(block.get() + used, text.data(), text.size());
-        used += text.size();
+        used += text.copy(block.get() + used, text.size());
     }
     /** Appends a row of which there is nothing to say. Its text and its ending stand in the memory
      *  of a reader, where sixteen bytes more can be read. */
     void AppendRow(std::string_view row, std::string_view barcode, const PlainResults& around,
                    std::string_view ending) {
-        const std::size_t size = row.size() + around.front.size() + barcode.size() +
-                                 around.behind.size() + ending.size();
+        const std::size_t size =
+            row.size() + around.front.size + barcode.size() + around.behind.size + ending.size();
         if (size > kBlock - used) Flush();
-        if (size > kBlock) return AppendPieces({row, around.front, barcode, around.behind, ending});
+        if (size > kBlock) {
+            return AppendPieces({row, around.front.View(), barcode, around.behind.View(), ending});
+        }
         char* to = block.get() + used;
         used += size;
         for (std::size_t copied = 0; copied < row.size(); copied += kSixteen) {
             std::memcpy(to + copied, row.data() + copied, kSixteen);
         }
         to += row.size();
-        for (const char byte : around.front) *to++ = byte;
+        std::memcpy(to, around.front.bytes.data(), kSixteen);
+        to += around.front.size;
         std::memcpy(to, barcode.data(), barcode.size());
         to += barcode.size();
-        for (const char byte : around.behind) *to++ = byte;
+        std::memcpy(to, around.behind.bytes.data(), kSixteen);
+        to += around.behind.size;
         std::memcpy(to, ending.data(), 2);
     }
     void Append(char character) { Append({&character, 1}); }

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <chrono>
 #include <exception>
 #include <filesystem>
@@ -325,16 +326,27 @@ class Run : public AnswerTaker {
     Clock::time_point nextReach = Clock::now();
 };
 
+/** What is written last would take the place of the other one. */
+void RequireDifferent(const std::vector<std::string>& outputs) {
+    for (auto name = outputs.begin(); name != outputs.end(); ++name) {
+        if (!name->empty() && std::find(name + 1, outputs.end(), *name) != outputs.end()) {
+            throw Failure(
+                fmt::format("{}: two outputs cannot have the same name", Readable(*name)));
+        }
+    }
+}
+
 }  // namespace
 
 MergeResult MergeFile(const MergePlace& place, const MergeFiles& files,
                       const MergeOptions& options) {
+    RequireDifferent({files.output, options.rejects, options.summary});
     Run run(place, files, options);
     MergeResult result = run.Take();
     run.Keep();
     if (!options.summary.empty()) {
-        OutputFile summary(options.summary);
-        summary.Write(SummaryOf(result.counts));
+        MergeOutput summary(options.summary, place.out, Encoding::kUtf8, false);
+        summary.Writer().Append(SummaryOf(result.counts));
         summary.Keep();
     }
     run.End();

@@ -6,7 +6,7 @@
 #include <system_error>
 
 #include "host/runtime/Paths.h"
-#include "merge/Failure.h"
+#include "merge/OutputFailure.h"
 #include "text/Readable.h"
 
 namespace linewright {

@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 
 #include "host/runtime/Paths.h"
-#include "merge/Failure.h"
+#include "merge/OutputFailure.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -33,7 +33,7 @@ void OutputFile::Sync() {
 }
 
 void OutputFile::Must(bool isDone) const {
-    if (!isDone) throw Failure(fmt::format("{}: {}", Readable(name), file.Error()));
+    if (!isDone) throw OutputFailure(fmt::format("{}: {}", Readable(name), file.Error()));
 }
 
 }  // namespace linewright

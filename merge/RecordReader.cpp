@@ -129,9 +129,10 @@ bool RecordReader::Scan() {
     std::size_t count = record.fieldCount;
     bool isInside = isQuoted;
     std::uint32_t aboveAscii = 0;
+    std::string_view* const slots = fields.data();
     const auto addField = [&](const char* mark) {
-        if (count < fields.size()) {
-            fields[count] = {fieldBegin, static_cast<std::size_t>(mark - fieldBegin)};
+        if (count <= kMaxColumns) {
+            slots[count] = {fieldBegin, static_cast<std::size_t>(mark - fieldBegin)};
         }
         ++count;
         fieldBegin = mark + 1;

@@ -63,9 +63,10 @@ ResultColumns::ResultColumns(std::vector<Result> results,
     }
     bool isBehind = false;
     for (const Result result : kinds) {
-        std::string& text = isBehind ? plain.behind : plain.front;
-        if (&result != &kinds.front() || isInputKept) text += delimiter;
-        if (result == Result::kStatus) text += '0';
+        ShortText& text = isBehind ? plain.behind : plain.front;
+        if (text.size + 2 > text.bytes.size()) break;  // more results than a plain row has
+        if (&result != &kinds.front() || isInputKept) text.Add(delimiter);
+        if (result == Result::kStatus) text.Add('0');
         isBehind = isBehind || result == Result::kBarcode;
     }
 }

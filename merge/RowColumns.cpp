@@ -22,12 +22,7 @@ std::size_t RequireColumn(const std::vector<std::string>& names, std::string_vie
                               Readable(fmt::format("{}", fmt::join(names, "\", \""))), advice));
 }
 
-constexpr bool IsBlank(char character) {
-    return character == ' ' || character == '\t';
-}
-
-inline std::string_view Trimmed(std::string_view text) {
-    if (text.empty() || (!IsBlank(text.front()) && !IsBlank(text.back()))) return text;
+std::string_view Trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(" \t");
     if (first == std::string_view::npos) return "";
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
@@ -104,18 +99,21 @@ RowColumns::RowColumns(const Record& first, const RowOptions& wanted) : options(
     if (options.titleColumn) {
         title = RequireColumn(names, *options.titleColumn, "--title names the one of titles");
     }
+    width = names.size();
+    isPlain = type && !check && !ratio;
+    plainCheck = options.isCheckWanted ? 1 : 0;
+    plainRatio = options.ratio.value_or(2.0);
 }
 
-RowWish RowColumns::WishOf(const Record& row) {
-    if (row.fieldCount != names.size()) {
-        throw Failure(
-            fmt::format("the row has {} fields, the header {}", row.fieldCount, names.size()));
+RowWish RowColumns::CloselyWishOf(const Record& row) {
+    if (row.fieldCount != width) {
+        throw Failure(fmt::format("the row has {} fields, the header {}", row.fieldCount, width));
     }
     RowWish wish;
     wish.type = type ? Trimmed(CsvValue(row.fields[*type], typeMemory)) : *options.type;
-    wish.checkCharacter = options.isCheckWanted ? 1 : 0;
+    wish.checkCharacter = plainCheck;
     if (check) wish.checkCharacter = CheckOf(CsvValue(row.fields[*check], dataMemory));
-    wish.ratio = options.ratio.value_or(2.0);
+    wish.ratio = plainRatio;
     if (ratio) wish.ratio = RatioOf(CsvValue(row.fields[*ratio], dataMemory));
     wish.data = CsvValue(row.fields[data], dataMemory);
     return wish;

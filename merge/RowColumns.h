@@ -53,7 +53,13 @@ class RowColumns {
     const std::vector<std::string>& Names() const { return names; }
 
     /** What a row asks for. Throws Failure with a sentence for a row that cannot be understood. */
-    RowWish WishOf(const Record& row);
+    RowWish WishOf(const Record& row) {
+        if (!isPlain || row.fieldCount != width) return CloselyWishOf(row);
+        const std::string_view typeField = row.fields[*type];
+        const std::string_view dataField = row.fields[data];
+        if (!IsBare(typeField) || dataField.starts_with('"')) return CloselyWishOf(row);
+        return {typeField, dataField, plainCheck, plainRatio};
+    }
     /** The same as a copy, with the options' strictness. */
     BarcodeWish BarcodeWishOf(const Record& row);
     BarcodeWish BarcodeWishOf(const RowWish& wish) const;
@@ -61,8 +67,22 @@ class RowColumns {
     std::string TitleOf(const Record& row) const;
 
   private:
+    RowWish CloselyWishOf(const Record& row);
+    /** Whether a field stands without quotes, and without what is trimmed. */
+    static bool IsBare(std::string_view field) {
+        const auto isTrimmed = [](char character) {
+            return character == ' ' || character == '\t' || character == '"';
+        };
+        return !field.empty() && !isTrimmed(field.front()) && !isTrimmed(field.back());
+    }
+
     const RowOptions& options;
     std::vector<std::string> names;
+    std::size_t width;
+    /** Whether a row's type has a column, and check and ratio have none. */
+    bool isPlain;
+    std::uint8_t plainCheck;
+    double plainRatio;
     std::optional<std::size_t> type;
     std::size_t data;
     std::optional<std::size_t> check;

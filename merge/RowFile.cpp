@@ -6,7 +6,7 @@
 
 #include "merge/Csv.h"
 #include "merge/DecodingSource.h"
-#include "merge/Failure.h"
+#include "merge/OutputFailure.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -50,6 +50,7 @@ class HeadSource : public ByteSource {
 }  // namespace
 
 void RowFile::FailNamed(const Failure& failure) const {
+    if (dynamic_cast<const OutputFailure*>(&failure) != nullptr) throw;
     throw Failure(fmt::format("{}: {}", Readable(name), failure.what()));
 }
 

@@ -227,6 +227,20 @@ TEST(Batch, TellsRefusedRows) {
     EXPECT_EQ(command.Run(fine).status, 0);
 }
 
+TEST(Batch, WritesEachOutputUnderANameOfItsOwn) {
+    const CommandRunner command;
+    const std::string in = command.Write("in.csv", "type,data\nmsi,x\n");
+    const std::string out = command.Place("out.csv");
+    for (const std::string option : {"--rejects", "--summary"}) {
+        const auto result = command.Run({"batch", in, "-o", out, option, out});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.err, "linewright: " + out + ": two outputs cannot have the same name\n");
+    }
+    EXPECT_EQ(command.Run({"batch", in, "--rejects", "-"}).status, 2);
+    EXPECT_THAT(command.Run({"batch", in, "-o", out, "--rejects", "-"}).out,
+                HasSubstr("msi,x,2,Only the digits 0 to 9\n"));
+}
+
 TEST(Batch, StopsAtSoManyRefusedRows) {
     const CommandRunner command;
     const std::string in =

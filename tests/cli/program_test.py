@@ -95,6 +95,35 @@ class ProgramTest(unittest.TestCase):
             self.assertEqual(process.stdout.read(), b"")
             self.assertEqual(process.wait(30), 0)
 
+    def test_a_batch_writes_what_is_finished_before_it_waits(self):
+        with subprocess.Popen(self.arguments("batch", "-"), stdin=subprocess.PIPE,
+                              stdout=subprocess.PIPE, env=self.environment) as process:
+            for piece, answer in (
+                    (b"type,data\n", b"type,data,barcode,status,message,warning\n"),
+                    (b"msi,1\nmsi,", b"msi,1,EBBBEBB,0,,\n"),
+                    (b"2\r\n\"msi\",\"", b"msi,2,EBBEBBB,0,,\r\n"),
+                    (b"3\"\n", b'"msi","3",EBBEEBB,0,,\n')):
+                process.stdin.write(piece)
+                process.stdin.flush()
+                readable, _, _ = select.select([process.stdout], [], [], 30)
+                self.assertTrue(readable, "no row came")
+                self.assertEqual(os.read(process.stdout.fileno(), 4096), answer)
+            process.stdin.close()
+            self.assertEqual(process.wait(30), 0)
+
+    def test_a_merge_needs_no_more_memory_for_more_rows(self):
+        source = self.folder / "in.csv"
+        peaks = []
+        for rows in (20_000, 200_000):
+            source.write_text("type,data\n" + "msi,1\n" * rows)
+            process = subprocess.Popen(self.arguments("batch", str(source), "-o", "/dev/null"),
+                                       stderr=subprocess.DEVNULL, env=self.environment)
+            _, status, usage = os.wait4(process.pid, 0)
+            process.returncode = os.waitstatus_to_exitcode(status)
+            self.assertEqual(process.returncode, 0)
+            peaks.append(usage.ru_maxrss)
+        self.assertLess(peaks[1], peaks[0] * 1.2)
+
     def test_a_device_is_written_and_not_replaced(self):
         source = self.folder / "in.csv"
         source.write_text("type,data\nclassic-codabar,1\n")
@@ -112,6 +141,15 @@ class ProgramTest(unittest.TestCase):
                                  env=self.environment)
         self.assertEqual(run.returncode, 2)
         self.assertIn(b"standard output", run.stderr)
+        source = self.folder / "in.csv"
+        source.write_text("type,data\n" + "msi,1\n" * 50_000)
+        for words in (("batch", str(source)), ("batch", str(source), "-o", "/dev/full")):
+            with open("/dev/full", "wb") as full:
+                run = subprocess.run(self.arguments(*words), stdout=full, stderr=subprocess.PIPE,
+                                     env=self.environment)
+            self.assertEqual(run.returncode, 2)
+            self.assertRegex(run.stderr, rb"^linewright: (standard output|/dev/full:) could not "
+                                         rb"be written to its end")
 
     def test_it_works_from_where_it_is_installed(self):
         prefix = self.folder / "an installation"
