@@ -133,6 +133,7 @@ void AddBatch(CLI::App& app, Arguments& arguments) {
         ->check(NamesAFile())
         ->type_name("OUT");
     AddResults(command, arguments.batch);
+    AddScale(command, arguments.batch);
     command.add_flag("--verify", arguments.batch.isVerified, "Add what scanners read of each");
     command.footer(
         "Columns read: type, data, check, ratio. Written: barcode, status, message, warning.\n"
@@ -286,6 +287,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
         return std::nullopt;
     }
     result->command = CommandOf(app);
+    result->batch.circumstances = app.config_to_str();
     return result;
 }
 

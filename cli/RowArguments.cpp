@@ -14,9 +14,9 @@ namespace {
 
 /** Adds an option whose text `parse` turns into a value. */
 template <class Value, class Parse>
-void AddParsed(CLI::App& command, const char* name, const char* kind, Value& value, Parse parse,
-               const std::string& help) {
-    command
+CLI::Option* AddParsed(CLI::App& command, const char* name, const char* kind, Value& value,
+                       Parse parse, const std::string& help) {
+    return command
         .add_option(
             name,
             [&value, name, parse](const CLI::results_t& results) {
@@ -88,6 +88,22 @@ std::vector<Result> AddedOf(const std::string& text, const char* option) {
     return added;
 }
 
+/** "2/8". */
+Shard ShardOf(const std::string& text, const char* option) {
+    Shard shard{0, 0};
+    const char* const last = text.data() + text.size();
+    const auto [slash, error] = std::from_chars(text.data(), last, shard.part);
+    const bool isPart = error == std::errc() && slash != last && *slash == '/';
+    const auto end = isPart ? std::from_chars(slash + 1, last, shard.of).ptr : slash;
+    if (!isPart || end != last || shard.part < 1 || shard.part > shard.of ||
+        shard.of > kMostShards) {
+        throw CLI::ValidationError(
+            option,
+            fmt::format("is a part such as 2/8: of at most {}, from the first on", kMostShards));
+    }
+    return shard;
+}
+
 }  // namespace
 
 void AddColumns(CLI::App& command, RowOptions& rows) {
@@ -131,6 +147,25 @@ void AddResults(CLI::App& command, MergeOptions& merge) {
     command.add_option("--stop-at", merge.stopAt, "End the run at the N-th refused row")
         ->type_name("N")
         ->check(CLI::PositiveNumber.description(""));
+}
+
+void AddScale(CLI::App& command, MergeOptions& merge) {
+    constexpr unsigned kMostJobs = 256;
+    command.add_option("--jobs", merge.jobs, "Processes that make barcodes; 1 unless stated")
+        ->type_name("N")
+        ->check(CLI::Range(1U, kMostJobs).description(""));
+    CLI::Option* const shard = AddParsed(command, "--shard", "I/N", merge.shard, ShardOf,
+                                         "Rows of the I-th of N parts alone; the header in part 1");
+    AddParsed(
+        command, "--header", "all", merge.haveAllShardsHeader,
+        [](const std::string& text, const char* option) {
+            if (text == "all") return true;
+            throw CLI::ValidationError(option, "is all");
+        },
+        "The header in each part")
+        ->needs(shard);
+    command.add_flag("--resume", merge.isResumed,
+                     "Go on with a run that was ended, or leave what it needs to");
 }
 
 }  // namespace linewright

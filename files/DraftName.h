@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -18,5 +19,12 @@ inline constexpr std::chrono::hours kStaleAge{1};
 /** A name with 128 random bits in it. */
 std::string NewDraftName();
 bool IsDraftName(std::string_view name);
+
+/** Of a file's draft that stays: none that IsDraftName takes for one. */
+inline std::filesystem::path LastingDraftName(const std::filesystem::path& fileName) {
+    std::filesystem::path draft(".");
+    draft += fileName;
+    return draft += ".linewright-draft";
+}
 
 }  // namespace files

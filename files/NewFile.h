@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -16,6 +17,9 @@ struct Manner {
     /** Whatever file or link has the name is replaced, and nothing of it is taken over; else links
      *  are followed, a read-only file is refused, and the mode stays. */
     bool startsAfresh = false;
+    /** The draft stays whatever becomes of the process, under a name that follows from the file's:
+     *  who writes the file the next time goes on with it. See OwnFile for what may be there. */
+    bool isLasting = false;
 };
 
 /**
@@ -39,6 +43,16 @@ class NewFile {
     ~NewFile();
 
     bool Write(std::string_view bytes);
+
+    /** How much of a lasting draft was there. */
+    std::uint64_t Found() const;
+    /** Leaves the first `size` bytes of a draft, behind which it is written on. */
+    bool Cut(std::uint64_t size);
+    /** Puts what was written so far on the disk itself. */
+    bool Sync();
+    /** Removes a draft, a lasting one too. Nothing is written afterwards. */
+    void Discard();
+
     /** Puts the file into its place, on the disk itself. Nothing is written afterwards. */
     bool Keep();
 

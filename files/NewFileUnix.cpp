@@ -16,6 +16,7 @@
 #include "files/DraftAtRisk.h"
 #include "files/DraftName.h"
 #include "files/NewFile.h"
+#include "files/OpenOwn.h"
 
 namespace fs = std::filesystem;
 
@@ -110,7 +111,9 @@ struct NewFile::State {
     std::optional<DraftAtRisk> atRisk;
     Descriptor file;
 
-    ~State() { Discard(); }
+    ~State() {
+        if (!manner.isLasting) Discard();
+    }
 
     bool Fail(std::string_view what) {
         if (error.empty()) error = what;
@@ -175,6 +178,7 @@ struct NewFile::State {
 
     bool OpenDraft() {
         RemoveStaleDrafts(folder.Get());
+        if (manner.isLasting) return OpenLastingDraft();
         draftName = NewDraftName();
         atRisk.emplace(folder.Get(), draftName);
         file = Descriptor(openat(folder.Get(), draftName.c_str(),
@@ -182,6 +186,7 @@ struct NewFile::State {
                                  S_IRUSR | S_IWUSR));
         if (!file) {
             atRisk.reset();
+            draftName.clear();
             return Fail("cannot be written", errno);
         }
         // Where there are no locks no other process gets one either, and stale drafts stay.
@@ -189,20 +194,36 @@ struct NewFile::State {
         return true;
     }
 
+    bool OpenLastingDraft() {
+        std::string reason;
+        const std::string lasting = LastingDraftName(name).native();
+        file = OpenOwn(folder.Get(), lasting, reason);
+        if (!file) return Fail("its draft " + lasting + ' ' + reason);
+        draftName = lasting;
+        return true;
+    }
+
     bool Write(std::string_view bytes) {
         if (!error.empty()) return false;
-        while (!bytes.empty()) {
-            const ssize_t count = write(file.Get(), bytes.data(), bytes.size());
-            if (count < 0 && errno == EINTR) continue;
-            if (count < 0) return Fail("could not be written to its end", errno);
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        }
-        return true;
+        return WriteAll(file.Get(), bytes) || Fail("could not be written to its end", errno);
+    }
+
+    bool Cut(std::uint64_t size) {
+        if (!error.empty()) return false;
+        const auto end = static_cast<off_t>(size);
+        return (ftruncate(file.Get(), end) == 0 && lseek(file.Get(), end, SEEK_SET) == end) ||
+               Fail("could not be written to its end", errno);
+    }
+
+    bool Sync() {
+        if (!error.empty()) return false;
+        return fsync(file.Get()) == 0 || Fail("could not be written to its end", errno);
     }
 
     bool Keep() {
         if (!error.empty()) return false;
-        if (!atRisk) return file.Close() ? true : Fail("could not be written to its end", errno);
+        if (draftName.empty())
+            return file.Close() ? true : Fail("could not be written to its end", errno);
         if (manner.leavesSame && IsSameAsOld()) {
             Discard();
             return true;
@@ -212,6 +233,7 @@ struct NewFile::State {
         if (renameat(folder.Get(), draftName.c_str(), folder.Get(), name.c_str()) != 0)
             return Fail("cannot be written", errno);
         atRisk.reset();
+        draftName.clear();
         // The file is whole either way; a system that cannot do this says so here.
         fsync(folder.Get());
         return file.Close() ? true : Fail("could not be written to its end", errno);
@@ -237,9 +259,10 @@ struct NewFile::State {
     }
 
     void Discard() {
-        if (!atRisk) return;
+        if (draftName.empty()) return;
         unlinkat(folder.Get(), draftName.c_str(), 0);
         atRisk.reset();
+        draftName.clear();
     }
 };
 
@@ -252,6 +275,24 @@ NewFile::~NewFile() = default;
 
 bool NewFile::Write(std::string_view bytes) {
     return state->Write(bytes);
+}
+
+std::uint64_t NewFile::Found() const {
+    struct stat status {};
+    const bool isKnown = fstat(state->file.Get(), &status) == 0;
+    return isKnown ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
+bool NewFile::Cut(std::uint64_t size) {
+    return state->Cut(size);
+}
+
+bool NewFile::Sync() {
+    return state->Sync();
+}
+
+void NewFile::Discard() {
+    state->Discard();
 }
 
 bool NewFile::Keep() {

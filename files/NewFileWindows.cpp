@@ -5,6 +5,7 @@
 
 #include "files/DraftName.h"
 #include "files/NewFile.h"
+#include "files/OpenOwnWindows.h"
 #include "files/WindowsHandle.h"
 
 namespace fs = std::filesystem;
@@ -14,7 +15,6 @@ namespace files {
 namespace {
 
 constexpr std::size_t kPieceSize = 16384;
-constexpr DWORD kMostAtOnce = 1 << 30;
 constexpr DWORD kNoSharing = 0;
 
 /** Others that look at the file at the same time, or replace it, are done within this time. */
@@ -110,7 +110,9 @@ struct NewFile::State {
     bool isThere = false;
     Handle file;
 
-    ~State() { Discard(); }
+    ~State() {
+        if (!manner.isLasting) Discard();
+    }
 
     bool Fail(std::string_view what) {
         if (error.empty()) error = what;
@@ -156,6 +158,7 @@ struct NewFile::State {
 
     bool OpenDraft() {
         RemoveStaleDrafts(target.parent_path());
+        if (manner.isLasting) return OpenLastingDraft();
         draft = target.parent_path() / NewDraftName();
         file = Handle(CreateFileW(draft.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, kNoSharing,
                                   nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -164,17 +167,30 @@ struct NewFile::State {
         return true;
     }
 
+    bool OpenLastingDraft() {
+        std::string reason;
+        const fs::path lasting = target.parent_path() / LastingDraftName(target.filename());
+        file = OpenOwn(lasting, reason);
+        if (!file) return Fail("its draft " + reason);
+        draft = lasting;
+        return true;
+    }
+
     bool Write(std::string_view bytes) {
         if (!error.empty()) return false;
-        while (!bytes.empty()) {
-            const auto wanted =
-                static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kMostAtOnce));
-            DWORD count = 0;
-            if (!WriteFile(file.Get(), bytes.data(), wanted, &count, nullptr))
-                return Fail("could not be written to its end", GetLastError());
-            bytes.remove_prefix(count);
-        }
-        return true;
+        return WriteAll(file.Get(), bytes) ||
+               Fail("could not be written to its end", GetLastError());
+    }
+
+    bool Cut(std::uint64_t size) {
+        if (!error.empty()) return false;
+        return CutAt(file.Get(), size) || Fail("could not be written to its end", GetLastError());
+    }
+
+    bool Sync() {
+        if (!error.empty()) return false;
+        return FlushFileBuffers(file.Get()) ||
+               Fail("could not be written to its end", GetLastError());
     }
 
     bool Keep() {
@@ -187,7 +203,8 @@ struct NewFile::State {
             Discard();
             return true;
         }
-        if (!FlushFileBuffers(file.Get()) || !GoesWhenClosed(file.Get(), false))
+        if (!FlushFileBuffers(file.Get()) ||
+            (!manner.isLasting && !GoesWhenClosed(file.Get(), false)))
             return Fail("could not be written to its end", GetLastError());
         file.Close();
         return PutInPlace();
@@ -244,6 +261,24 @@ NewFile::~NewFile() = default;
 
 bool NewFile::Write(std::string_view bytes) {
     return state->Write(bytes);
+}
+
+std::uint64_t NewFile::Found() const {
+    LARGE_INTEGER size{};
+    const bool isKnown = GetFileSizeEx(state->file.Get(), &size) != 0;
+    return isKnown ? static_cast<std::uint64_t>(size.QuadPart) : 0;
+}
+
+bool NewFile::Cut(std::uint64_t size) {
+    return state->Cut(size);
+}
+
+bool NewFile::Sync() {
+    return state->Sync();
+}
+
+void NewFile::Discard() {
+    state->Discard();
 }
 
 bool NewFile::Keep() {

@@ -63,7 +63,8 @@ uint32_t ReasonOf(const BarcodeOutcome& outcome) {
     if (outcome.IsMade()) return outcome.Warnings().empty() ? LINEWRIGHT_MADE : LINEWRIGHT_WARNED;
     switch (outcome.refusal->reason) {
         case RefusalReason::kUnknownType: return LINEWRIGHT_UNKNOWN_TYPE;
-        case RefusalReason::kPlugIn: return LINEWRIGHT_BAD_DATA;
+        case RefusalReason::kPlugIn:
+        case RefusalReason::kNumber: return LINEWRIGHT_BAD_DATA;
         case RefusalReason::kStrict: break;
     }
     return LINEWRIGHT_NOT_STRICT;

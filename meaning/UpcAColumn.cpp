@@ -15,6 +15,11 @@ void UpcAColumn::Take(const BarcodeType* type, std::string_view data) {
     if (Modulo10CheckDigit(data.substr(0, kUpcA - 1)) == data.back()) ++numbers.count;
 }
 
+void UpcAColumn::Add(const UpcAColumn& following) {
+    numbers.count += following.numbers.count;
+    numbers.of += following.numbers.of;
+}
+
 std::optional<UpcANumbers> UpcAColumn::Found() const {
     if (2 * numbers.count <= numbers.of) return std::nullopt;
     return numbers;

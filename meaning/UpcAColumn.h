@@ -20,13 +20,18 @@ struct UpcANumbers {
  *  is put behind them. A tenth of any numbers look like it: nothing is to be said of one. */
 class UpcAColumn {
   public:
+    explicit UpcAColumn(UpcANumbers found = {0, 0}) : numbers(found) {}
+
     /** A row; `type` may be nullptr. */
     void Take(const BarcodeType* type, std::string_view data);
+    /** The rows of a column that follows. */
+    void Add(const UpcAColumn& following);
+    const UpcANumbers& Numbers() const { return numbers; }
     /** What is worth a note: where it is more than half of them. */
     std::optional<UpcANumbers> Found() const;
 
   private:
-    UpcANumbers numbers{0, 0};
+    UpcANumbers numbers;
 };
 
 }  // namespace linewright

@@ -79,6 +79,17 @@ bool HasAllCharacters(Encoding encoding) {
     return encoding != Encoding::kWindows1252 && encoding != Encoding::kMacRoman;
 }
 
+std::size_t SizeIn(Encoding encoding, std::string_view utf8) {
+    if (encoding == Encoding::kUtf8) return utf8.size();
+    std::size_t characters = 0;
+    std::size_t pairs = 0;
+    for (const char byte : utf8) {
+        if ((static_cast<unsigned char>(byte) & 0xC0) != 0x80) ++characters;
+        if (static_cast<unsigned char>(byte) >= 0xF0) ++pairs;
+    }
+    return HasAllCharacters(encoding) ? 2 * (characters + pairs) : characters;
+}
+
 bool CanHold(Conversion& conversion, std::string_view utf8) {
     std::string converted;
     return conversion.Convert(utf8, converted) && utf8.empty();

@@ -28,6 +28,9 @@ inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /** Whether all characters of Unicode can be written. */
 bool HasAllCharacters(Encoding encoding);
 
+/** How many bytes text in UTF-8 has in an encoding that has its characters. */
+std::size_t SizeIn(Encoding encoding, std::string_view utf8);
+
 /** Turns text in one encoding into UTF-8, or the other way round, by what the system knows of it.
  */
 class Conversion {

@@ -122,13 +122,7 @@ void Merge::SetFace(const BarcodeType& type) {
 
 void Merge::Refuse(const Record& row, const std::string& status, const std::string& reason,
                    const std::string& warning) {
-    ++counts.refused;
-    const auto known = counts.reasons.find(reason);
-    if (known != counts.reasons.end()) {
-        ++known->second;
-    } else if (counts.reasons.size() < kMostReasons) {
-        counts.reasons.emplace(reason, 1);
-    }
+    counts.CountRefusal(reason);
     const std::string fittedReason = ways.out.Fitted(reason);
     const std::string fittedWarning = ways.out.Fitted(warning);
     ways.results.Clear();

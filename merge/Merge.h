@@ -2,14 +2,15 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "meaning/UpcAColumn.h"
+#include "merge/MergeCounts.h"
 #include "merge/ResultColumns.h"
 #include "merge/RowColumns.h"
+#include "merge/RowWalk.h"
 #include "requests/PlainBarcodes.h"
 #include "words/Words.h"
 
@@ -35,6 +36,15 @@ struct MergeOptions {
     bool areRefusalsFine = false;
     /** So many refused rows end the run. */
     std::optional<std::uint64_t> stopAt;
+    /** How many processes make barcodes. */
+    unsigned jobs = 1;
+    /** The rows of one part of the file; its columns are named in the first part, or in all. */
+    std::optional<Shard> shard;
+    bool haveAllShardsHeader = false;
+    /** Whether a run that was ended goes on, and this one leaves what it needs to go on. Then
+     *  `circumstances` says all that decides about the result but the input. */
+    bool isResumed = false;
+    std::string circumstances;
 };
 
 /** A barcode and what scanners made of it. Texts are UTF-8, "" for a refusal. */
@@ -49,16 +59,6 @@ struct ScannedBarcode {
 /** Makes a barcode and has scanners read it. */
 using MakeScanned = std::function<ScannedBarcode(const BarcodeWish&)>;
 
-/** What became of rows. */
-struct MergeCounts {
-    std::uint64_t rows = 0;
-    std::uint64_t refused = 0;
-    std::uint64_t warned = 0;
-    UpcAColumn upcANumbers{};
-    /** How many rows were refused for which reason, of the first kMostReasons. */
-    std::map<std::string, std::uint64_t> reasons;
-};
-inline constexpr std::size_t kMostReasons = 1000;
 
 /** Makes the barcodes of rows, one after the other, and appends each row with its results. */
 class Merge {
@@ -80,7 +80,9 @@ class Merge {
 
     /** Throws Failure where the row cannot be written in the encoding of the output. */
     void Take(const Record& row);
+    /** Of the rows since they were handed over last. */
     const MergeCounts& Counts() const { return counts; }
+    MergeCounts HandOverCounts() { return std::exchange(counts, {}); }
 
   private:
     bool TakePlainly(const Record& row, const RowWish& wish);

@@ -3,11 +3,16 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <memory>
-#include <nlohmann/json.hpp>
+#include <chrono>
+#include <exception>
+#include <filesystem>
 #include <utility>
 
-#include "merge/OutputFile.h"
+#include "host/runtime/Paths.h"
+#include "merge/Journal.h"
+#include "merge/MergeOutput.h"
+#include "merge/Worker.h"
+#include "merge/Workers.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -17,90 +22,208 @@ namespace {
 /** So many rows pass between two looks at the clock, unless each takes long. */
 constexpr std::uint64_t kRowsBetweenLooks = 1024;
 
-/** A file that is written with the rows, or standard output. */
-class Output {
-  public:
-    Output(const std::string& name, std::ostream& standardOutput, Encoding encoding) {
-        if (name == "-") {
-            sink = std::make_unique<StreamSink>(standardOutput);
-        } else {
-            auto opened = std::make_unique<OutputFile>(name);
-            file = opened.get();
-            sink = std::move(opened);
-        }
-        writer.emplace(*sink, encoding);
-    }
+/** A worker gets so many bytes at a time; few, where each row takes long. */
+constexpr std::size_t kChunk = std::size_t{1} << 17;
+constexpr std::size_t kVerifiedChunk = std::size_t{1} << 11;
 
-    BlockWriter& Writer() { return *writer; }
-    void Keep() {
-        writer->Flush();
-        if (file) file->Keep();
-    }
-
-  private:
-    std::unique_ptr<ByteSink> sink;
-    OutputFile* file = nullptr;
-    std::optional<BlockWriter> writer;
-};
+/** The journal hears of so many bytes of input at a time, and takes one part of the time. */
+constexpr std::uint64_t kBetweenPoints = std::uint64_t{1} << 20;
+constexpr int kPartsOfTime = 10;
 
 /** Rows on their way from a file into others. */
-class Run {
+class Run : public AnswerTaker {
   public:
     Run(const MergePlace& runPlace, const MergeFiles& runFiles, const MergeOptions& runOptions)
         : place(runPlace),
           options(runOptions),
-          file(runFiles.input, place.in, options.rows, [this] { Flush(); }),
+          file(runFiles.input, place.in, options.rows, [this] { BeforeWaiting(); }),
+          walk(file, options.shard),
           encoding(options.to.value_or(file.FileEncoding())),
-          results(ColumnsOf(ResultsOf(options), options.keepsInput)) {
+          results(ColumnsOf(ResultsOf(options), options.keepsInput)),
+          isInputStandard(runFiles.input == "-") {
         if (!options.rejects.empty()) {
             rejectColumns.emplace(ColumnsOf({Result::kLine, Result::kReason}, true));
         }
-        out.emplace(runFiles.output, place.out, encoding);
-        if (!options.rejects.empty()) rejects.emplace(options.rejects, place.out, encoding);
+        // They hold none of the files that are opened after them.
+        if (options.jobs > 1) {
+            workers.emplace(options.jobs, *this,
+                            [this](auto& chunks, auto& answers) { Work(chunks, answers); });
+        }
+        if (options.isResumed) {
+            RequireOther(runFiles);
+            journal.emplace(runFiles.output, runFiles.input, options.circumstances);
+        }
+        out.emplace(runFiles.output, place.out, encoding, options.isResumed);
+        if (!options.rejects.empty()) {
+            rejects.emplace(options.rejects, place.out, encoding, options.isResumed);
+        }
     }
 
     /** What is finished when something goes wrong is written all the same. */
-    MergeResult Take() try { return TakeRows(); } catch (const Failure&) {
+    MergeResult Take() try {
+        if (IsWhole()) return {journal->Last().counts, std::nullopt};
+        Begin();
+        if (workers) {
+            TakeInWorkers();
+        } else {
+            TakeHere();
+        }
+        if (unreadable && !stoppedAt) std::rethrow_exception(unreadable);
+        return {counts, stoppedAt};
+    } catch (const Failure&) {
         Flush();
         throw;
     }
 
-    void Keep(bool isWhole) {
-        if (isWhole) {
-            out->Keep();
-        } else {
+    void Keep() {
+        if (IsWhole()) {
+            out->KeepWhole(journal->Last().output);
+            if (rejects) rejects->KeepWhole(journal->Last().rejects);
+            return;
+        }
+        if (stoppedAt) {
             out->Writer().Flush();
+            if (journal) out->Discard();
+        } else {
+            if (journal) Reach(walk.Position(), true);
+            out->Keep();
         }
         if (rejects) rejects->Keep();
     }
 
+    /** All that the run writes is in its place. */
+    void End() {
+        if (journal) journal->Remove();
+    }
+
   private:
-    MergeResult TakeRows() {
-        Begin(*out, results);
-        if (rejects) Begin(*rejects, *rejectColumns);
-        Merge merge({.service = place.service,
-                     .columns = file.Columns(),
-                     .results = results,
-                     .out = out->Writer(),
-                     .rejectColumns = rejects ? &*rejectColumns : nullptr,
-                     .rejects = rejects ? &rejects->Writer() : nullptr,
-                     .scan = place.scan},
-                    options, place.language);
-        MergeResult result;
+    using Clock = std::chrono::steady_clock;
+
+    bool IsWhole() const { return journal && journal->Last().isWhole; }
+
+    void TakeHere() {
+        Merge merge = MergeInto(out->Writer(), rejects ? &rejects->Writer() : nullptr);
         const std::uint64_t between = place.scan ? 1 : kRowsBetweenLooks;
-        std::uint64_t next = between;
-        while (!result.stoppedAt && file.Next()) {
+        while (!stoppedAt && NextRow()) {
             file.Named([&] { merge.Take(file.Row()); });
-            const MergeCounts& counts = merge.Counts();
-            if (options.stopAt && counts.refused >= *options.stopAt) {
-                result.stoppedAt = file.Row().line;
+            const MergeCounts& newer = merge.Counts();
+            if (options.stopAt && counts.refused + newer.refused >= *options.stopAt) {
+                stoppedAt = file.Row().line;
             }
-            if (counts.rows < next) continue;
-            next = counts.rows + between;
+            if (newer.rows < between) continue;
+            Count(merge.HandOverCounts());
+            if (IsTimeToReach(walk.Position())) Reach(walk.Position(), false);
             if (place.show) place.show(file, counts.rows);
         }
-        result.counts = merge.Counts();
-        return result;
+        Count(merge.HandOverCounts());
+    }
+
+    void TakeInWorkers() try {
+        while (!stoppedAt && NextRow()) {
+            const Record& row = file.Row();
+            if (chunk.text.empty()) chunk.line = row.line;
+            chunk.text.append(row.text).append(row.ending);
+            chunk.end = walk.Position();
+            if (chunk.text.size() < (place.scan ? kVerifiedChunk : kChunk)) continue;
+            GiveChunk();
+            if (place.show) place.show(file, counts.rows);
+        }
+        GiveChunk();
+        workers->TakeAll();
+    } catch (const Failure&) {
+        if (!stoppedAt) throw;
+    }
+
+    /** False at the end, and before what cannot be read. */
+    bool NextRow() {
+        bool isAny = false;
+        try {
+            isAny = walk.Next();
+        } catch (const Failure&) {
+            unreadable = std::current_exception();
+        }
+        if (unwritable) std::rethrow_exception(unwritable);
+        return isAny;
+    }
+
+    /** What goes wrong here is no fault of the input, which is being read. */
+    void BeforeWaiting() try {
+        if (unwritable) return;
+        if (!workers) return Flush();
+        GiveChunk();
+        if (isInputStandard) {
+            workers->TakeUntilInput();
+        } else {
+            workers->TakeAll();
+        }
+    } catch (const Failure&) {
+        unwritable = std::current_exception();
+    }
+
+    void GiveChunk() {
+        if (chunk.text.empty()) return;
+        workers->Give(chunk);
+        chunk.text.clear();
+    }
+
+    /** In a process of its own, which has a copy of all this. */
+    void Work(ChunkPipe& chunks, AnswerPipe& answers) {
+        AnswerSink outSink(answers, FrameKind::kOutput);
+        AnswerSink rejectSink(answers, FrameKind::kRejects);
+        BlockWriter outWriter(outSink, encoding);
+        BlockWriter rejectWriter(rejectSink, encoding);
+        Merge merge = MergeInto(outWriter, rejectColumns ? &rejectWriter : nullptr);
+        RecordReader reader(chunks, options.rows.maxRecord);
+        reader.SetDelimiter(file.Delimiter());
+        const auto answer = [&](std::uint64_t refusedLine) {
+            outWriter.Flush();
+            rejectWriter.Flush();
+            answers.Send(FrameKind::kCounts, JsonOf(merge.HandOverCounts()), refusedLine);
+        };
+        answers.SendFailure(place.language, [&] {
+            try {
+                while (const auto line = chunks.Next()) {
+                    reader.SetLine(*line);
+                    while (reader.Next()) {
+                        file.Named([&] { merge.Take(reader.Current()); });
+                        // The run may end with this row.
+                        if (options.stopAt && merge.Counts().refused > 0)
+                            answer(reader.Current().line);
+                    }
+                    answer(0);
+                    answers.Send(FrameKind::kEnd);
+                }
+            } catch (const Failure&) {
+                answer(0);
+                throw;
+            }
+        });
+    }
+
+    void TakeOutput(std::string_view bytes) override {
+        if (!stoppedAt) out->Bytes().Write(bytes);
+    }
+    void TakeRejects(std::string_view bytes) override {
+        if (!stoppedAt) rejects->Bytes().Write(bytes);
+    }
+    void TakeCounts(const MergeCounts& newer, std::uint64_t refusedLine) override {
+        if (stoppedAt) return;
+        Count(newer);
+        if (options.stopAt && counts.refused >= *options.stopAt) stoppedAt = refusedLine;
+    }
+    void TakeEnd(std::uint64_t end) override {
+        if (!stoppedAt && IsTimeToReach(end)) Reach(end, false);
+    }
+
+    Merge MergeInto(BlockWriter& outWriter, BlockWriter* rejectWriter) {
+        return Merge({.service = place.service,
+                      .columns = file.Columns(),
+                      .results = results,
+                      .out = outWriter,
+                      .rejectColumns = rejectWriter ? &*rejectColumns : nullptr,
+                      .rejects = rejectWriter,
+                      .scan = place.scan},
+                     options, place.language);
     }
 
     ResultColumns ColumnsOf(std::vector<Result> wanted, bool keepsInput) {
@@ -116,13 +239,62 @@ class Run {
         });
     }
 
-    void Begin(Output& output, ResultColumns& columns) {
+    /** A file that is its own output is not there any more when a run goes on. */
+    static void RequireOther(const MergeFiles& files) {
+        std::error_code error;
+        if (std::filesystem::equivalent(host::PathFromUtf8(files.input),
+                                        host::PathFromUtf8(files.output), error)) {
+            throw Failure(fmt::format("{}: --resume needs an output that is not the input",
+                                      Readable(files.output)));
+        }
+    }
+
+    void Begin() {
+        if (journal) {
+            const MergePoint& last = journal->Last();
+            out->GoOnAt(last.output);
+            if (rejects) rejects->GoOnAt(last.rejects);
+            counts = last.counts;
+            reached = last.input;
+            if (last.input > 0) return walk.GoTo(last.input);
+        }
+        BeginOutput(*out, results);
+        if (rejects) BeginOutput(*rejects, *rejectColumns);
+        Flush();
+    }
+
+    void BeginOutput(MergeOutput& output, ResultColumns& columns) {
+        if (options.shard && options.shard->part > 1 && !options.haveAllShardsHeader) return;
         const bool isChanged = encoding != file.FileEncoding();
         const bool isMarked = isChanged ? encoding == Encoding::kUtf16LittleEndian ||
                                               encoding == Encoding::kUtf16BigEndian
                                         : file.HasByteOrderMark();
         if (isMarked) output.Writer().Append(kByteOrderMark);
         if (file.Header()) columns.AppendHeader(output.Writer(), *file.Header());
+    }
+
+    void Count(const MergeCounts& newer) {
+        counts.Add(newer);
+        if (journal) unreached.AddAll(newer);
+    }
+
+    bool IsTimeToReach(std::uint64_t position) const {
+        return journal && position >= reached + kBetweenPoints && Clock::now() >= nextReach;
+    }
+
+    /** The drafts are on the disk before the journal says so. */
+    void Reach(std::uint64_t position, bool isWhole) {
+        const Clock::time_point begin = Clock::now();
+        const std::uint64_t outSize = out->Sync();
+        const std::uint64_t rejectsSize = rejects ? rejects->Sync() : 0;
+        journal->Reach({.input = position,
+                        .output = outSize,
+                        .rejects = rejectsSize,
+                        .counts = std::exchange(unreached, {}),
+                        .isWhole = isWhole});
+        reached = position;
+        const Clock::time_point end = Clock::now();
+        nextReach = end + kPartsOfTime * (end - begin);
     }
 
     void Flush() {
@@ -132,33 +304,27 @@ class Run {
 
     const MergePlace& place;
     const MergeOptions& options;
-    std::optional<Output> rejects;
-    std::optional<Output> out;
+    std::optional<Workers> workers;
+    std::optional<Journal> journal;
+    std::optional<MergeOutput> rejects;
+    std::optional<MergeOutput> out;
+    std::exception_ptr unreadable;
+    std::exception_ptr unwritable;
+    Chunk chunk;
     RowFile file;
+    RowWalk walk;
     Encoding encoding;
     ResultColumns results;
     std::optional<ResultColumns> rejectColumns;
+    bool isInputStandard;
+
+    MergeCounts counts;
+    std::optional<std::uint64_t> stoppedAt;
+    // Up to where the journal is, and what it does not know yet.
+    std::uint64_t reached = 0;
+    MergeCounts unreached;
+    Clock::time_point nextReach = Clock::now();
 };
-
-}  // namespace
-
-std::string SummaryOf(const MergeCounts& counts) {
-    std::vector<std::pair<std::string, std::uint64_t>> reasons(counts.reasons.begin(),
-                                                               counts.reasons.end());
-    std::stable_sort(reasons.begin(), reasons.end(),
-                     [](const auto& a, const auto& b) { return a.second > b.second; });
-    nlohmann::ordered_json summary{{"rows", counts.rows},
-                                   {"encoded", counts.rows - counts.refused},
-                                   {"warnings", counts.warned},
-                                   {"refused", counts.refused},
-                                   {"reasons", nlohmann::ordered_json::array()}};
-    for (const auto& [reason, rows] : reasons) {
-        summary["reasons"].push_back({{"reason", reason}, {"rows", rows}});
-    }
-    return summary.dump(2) + '\n';
-}
-
-namespace {
 
 /** What is written last would take the place of the other one. */
 void RequireDifferent(const std::vector<std::string>& outputs) {
@@ -177,12 +343,13 @@ MergeResult MergeFile(const MergePlace& place, const MergeFiles& files,
     RequireDifferent({files.output, options.rejects, options.summary});
     Run run(place, files, options);
     MergeResult result = run.Take();
-    run.Keep(!result.stoppedAt);
+    run.Keep();
     if (!options.summary.empty()) {
-        Output summary(options.summary, place.out, Encoding::kUtf8);
+        MergeOutput summary(options.summary, place.out, Encoding::kUtf8, false);
         summary.Writer().Append(SummaryOf(result.counts));
         summary.Keep();
     }
+    run.End();
     return result;
 }
 

@@ -42,7 +42,4 @@ struct MergeResult {
 MergeResult MergeFile(const MergePlace& place, const MergeFiles& files,
                       const MergeOptions& options);
 
-/** The counts as JSON: rows, encoded, with warnings, refused, and how many for which reason. */
-std::string SummaryOf(const MergeCounts& counts);
-
 }  // namespace linewright

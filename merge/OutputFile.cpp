@@ -8,21 +8,32 @@
 
 namespace linewright {
 
-OutputFile::OutputFile(const std::string& fileName)
-    : name(fileName), file(host::PathFromUtf8(fileName)) {
-    if (!file.Error().empty()) Fail();
+OutputFile::OutputFile(const std::string& fileName, bool isLasting)
+    : name(fileName),
+      file(host::PathFromUtf8(fileName), {.writesDevices = !isLasting, .isLasting = isLasting}) {
+    Must(file.Error().empty());
 }
 
 void OutputFile::Write(std::string_view bytes) {
-    if (!file.Write(bytes)) Fail();
+    Must(file.Write(bytes));
+    written += bytes.size();
 }
 
 void OutputFile::Keep() {
-    if (!file.Keep()) Fail();
+    Must(file.Keep());
 }
 
-void OutputFile::Fail() const {
-    throw OutputFailure(fmt::format("{}: {}", Readable(name), file.Error()));
+void OutputFile::GoOnAt(std::uint64_t size) {
+    Must(file.Cut(size));
+    written = size;
+}
+
+void OutputFile::Sync() {
+    Must(file.Sync());
+}
+
+void OutputFile::Must(bool isDone) const {
+    if (!isDone) throw OutputFailure(fmt::format("{}: {}", Readable(name), file.Error()));
 }
 
 }  // namespace linewright

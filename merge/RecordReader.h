@@ -53,8 +53,12 @@ class RecordReader {
     }
 
     void SetDelimiter(char separator);
-    /** The line on which the next record begins, from 1; for who begins inside a file. */
-    void SetLine(std::uint64_t line) { nextLine = line; }
+    /** The line on which the next record begins, from 1; for who begins inside a file, or goes on
+     *  with a source that had ended. */
+    void SetLine(std::uint64_t line) {
+        nextLine = line;
+        isAtEnd = false;
+    }
 
     /** False at the end. Throws Failure, which names the line, for a quoted field that is never
      *  closed, a record above the limit, and bytes that are not UTF-8. */

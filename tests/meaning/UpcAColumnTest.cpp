@@ -36,6 +36,14 @@ TEST(UpcAColumn, CountsOnlyThoseForEan13) {
     EXPECT_EQ(Found("no such type", {"036000291452"}), std::nullopt);
 }
 
+TEST(UpcAColumn, AddsUpWithTheRowsThatFollow) {
+    UpcAColumn column({1, 3});
+    EXPECT_EQ(column.Found(), std::nullopt);
+    column.Add(UpcAColumn({4, 5}));
+    EXPECT_EQ(column.Found(), (UpcANumbers{5, 8}));
+    EXPECT_EQ(column.Numbers(), (UpcANumbers{5, 8}));
+}
+
 }  // namespace
 
 }  // namespace linewright
