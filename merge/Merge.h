@@ -59,7 +59,6 @@ struct ScannedBarcode {
 /** Makes a barcode and has scanners read it. */
 using MakeScanned = std::function<ScannedBarcode(const BarcodeWish&)>;
 
-
 /** Makes the barcodes of rows, one after the other, and appends each row with its results. */
 class Merge {
   public:
