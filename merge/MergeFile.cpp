@@ -66,6 +66,7 @@ class Run {
     }
 
     void Keep(bool isWhole) {
+        file.Close();
         if (isWhole) {
             out->Keep();
         } else {
