@@ -76,6 +76,7 @@ class Run : public AnswerTaker {
     }
 
     void Keep() {
+        file.Close();
         if (IsWhole()) {
             out->KeepWhole(journal->Last().output);
             if (rejects) rejects->KeepWhole(journal->Last().rejects);

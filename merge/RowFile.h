@@ -28,6 +28,9 @@ class RowFile {
     /** The next row, blank lines too; false at the end. */
     bool Next();
     const Record& Row() const { return reader->Current(); }
+    /** Lets go of the file, from which nothing is read any more: one that is open cannot be
+     * replaced everywhere. */
+    void Close() { file.reset(); }
 
     /** Runs `work`, and puts the file's name in front of a Failure that it throws. */
     template <class Work>
