@@ -287,7 +287,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
         return std::nullopt;
     }
     result->command = CommandOf(app);
-    result->batch.circumstances = app.config_to_str();
+    result->batch.circumstances = "linewright " LINEWRIGHT_VERSION "\n" + app.config_to_str();
     return result;
 }
 

@@ -75,6 +75,7 @@ ExitStatus Run(const std::vector<std::string>& words, Console& console) {
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
+    if (arguments->batch.isResumed) arguments->batch.circumstances += PreferencesText();
     const ExitStatus exitStatus = RunOne(service, user, *arguments, console);
     ReportLeaks(service.Stop(), console.err);
     return exitStatus;

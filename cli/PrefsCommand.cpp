@@ -35,6 +35,15 @@ void Print(std::ostream& out, std::string_view name, std::string_view text,
 
 }  // namespace
 
+std::string PreferencesText() {
+    ReadPreferences();
+    std::string text;
+    for (const PreferenceField& field : PreferenceFields()) {
+        text += fmt::format("{}={}\n", field.name, field.Text(preferences));
+    }
+    return text;
+}
+
 ExitStatus RunPrefs(Console& console) {
     ReadPreferences();
     console.out << FileName() << "\n\n";

@@ -17,4 +17,7 @@ ExitStatus RunPrefs(Console& console);
  *  Failure, none. */
 ExitStatus RunPrefsSet(const std::vector<std::string>& assignments, Console& console);
 
+/** All preferences with their values, a line each. */
+std::string PreferencesText();
+
 }  // namespace linewright

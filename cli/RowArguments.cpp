@@ -151,9 +151,11 @@ void AddResults(CLI::App& command, MergeOptions& merge) {
 
 void AddScale(CLI::App& command, MergeOptions& merge) {
     constexpr unsigned kMostJobs = 256;
+    // Not among the circumstances of a run: they change nothing of its result.
     command.add_option("--jobs", merge.jobs, "Processes that make barcodes; 1 unless stated")
         ->type_name("N")
-        ->check(CLI::Range(1U, kMostJobs).description(""));
+        ->check(CLI::Range(1U, kMostJobs).description(""))
+        ->configurable(false);
     CLI::Option* const shard = AddParsed(command, "--shard", "I/N", merge.shard, ShardOf,
                                          "Rows of the I-th of N parts alone; the header in part 1");
     AddParsed(
@@ -164,8 +166,10 @@ void AddScale(CLI::App& command, MergeOptions& merge) {
         },
         "The header in each part")
         ->needs(shard);
-    command.add_flag("--resume", merge.isResumed,
-                     "Go on with a run that was ended, or leave what it needs to");
+    command
+        .add_flag("--resume", merge.isResumed,
+                  "Go on with a run that was ended, or leave what it needs to")
+        ->configurable(false);
 }
 
 }  // namespace linewright

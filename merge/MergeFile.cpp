@@ -2,15 +2,13 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <chrono>
 #include <exception>
-#include <filesystem>
 #include <utility>
 
-#include "host/runtime/Paths.h"
 #include "merge/Journal.h"
 #include "merge/MergeOutput.h"
+#include "merge/OutputNames.h"
 #include "merge/Worker.h"
 #include "merge/Workers.h"
 #include "text/Readable.h"
@@ -50,7 +48,6 @@ class Run : public AnswerTaker {
                             [this](auto& chunks, auto& answers) { Work(chunks, answers); });
         }
         if (options.isResumed) {
-            RequireOther(runFiles);
             journal.emplace(runFiles.output, runFiles.input, options.circumstances);
         }
         out.emplace(runFiles.output, place.out, encoding, options.isResumed);
@@ -123,6 +120,8 @@ class Run : public AnswerTaker {
         while (!stoppedAt && NextRow()) {
             const Record& row = file.Row();
             if (chunk.text.empty()) chunk.line = row.line;
+            // At once, or a long row would be copied twice.
+            chunk.text.reserve(chunk.text.size() + row.text.size() + row.ending.size());
             chunk.text.append(row.text).append(row.ending);
             chunk.end = walk.Position();
             if (chunk.text.size() < (place.scan ? kVerifiedChunk : kChunk)) continue;
@@ -240,16 +239,6 @@ class Run : public AnswerTaker {
         });
     }
 
-    /** A file that is its own output is not there any more when a run goes on. */
-    static void RequireOther(const MergeFiles& files) {
-        std::error_code error;
-        if (std::filesystem::equivalent(host::PathFromUtf8(files.input),
-                                        host::PathFromUtf8(files.output), error)) {
-            throw Failure(fmt::format("{}: --resume needs an output that is not the input",
-                                      Readable(files.output)));
-        }
-    }
-
     void Begin() {
         if (journal) {
             const MergePoint& last = journal->Last();
@@ -327,21 +316,11 @@ class Run : public AnswerTaker {
     Clock::time_point nextReach = Clock::now();
 };
 
-/** What is written last would take the place of the other one. */
-void RequireDifferent(const std::vector<std::string>& outputs) {
-    for (auto name = outputs.begin(); name != outputs.end(); ++name) {
-        if (!name->empty() && std::find(name + 1, outputs.end(), *name) != outputs.end()) {
-            throw Failure(
-                fmt::format("{}: two outputs cannot have the same name", Readable(*name)));
-        }
-    }
-}
-
 }  // namespace
 
 MergeResult MergeFile(const MergePlace& place, const MergeFiles& files,
                       const MergeOptions& options) {
-    RequireDifferent({files.output, options.rejects, options.summary});
+    RequireOutputs(files, options);
     Run run(place, files, options);
     MergeResult result = run.Take();
     run.Keep();

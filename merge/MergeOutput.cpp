@@ -18,8 +18,6 @@ MergeOutput::MergeOutput(const std::string& fileName, std::ostream& standardOutp
         auto opened = std::make_unique<OutputFile>(name, isLasting);
         file = opened.get();
         sink = std::move(opened);
-    } else if (isLasting) {
-        throw Failure("--resume writes into files, not to standard output; -o OUT names one");
     } else {
         sink = std::make_unique<StreamSink>(standardOutput);
     }
