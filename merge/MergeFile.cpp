@@ -325,7 +325,9 @@ MergeResult MergeFile(const MergePlace& place, const MergeFiles& files,
     MergeResult result = run.Take();
     run.Keep();
     if (!options.summary.empty()) {
-        MergeOutput summary(options.summary, place.out, Encoding::kUtf8, false);
+        const bool isLasting = options.isResumed && options.summary != "-";
+        MergeOutput summary(options.summary, place.out, Encoding::kUtf8, isLasting);
+        if (isLasting) summary.GoOnAt(0);
         summary.Writer().Append(SummaryOf(result.counts));
         summary.Keep();
     }
