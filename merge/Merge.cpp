@@ -96,7 +96,7 @@ void Merge::TakeClosely(const Record& row, const RowWish& rowWish) {
         return Refuse(row, "", "the encoding of the output has not all characters of the barcode",
                       warning);
     }
-    if (!warning.empty()) ++counts.warned;
+    if (!outcome.Warnings().empty()) ++counts.warned;
     const std::string text = hasText ? ways.out.Fitted(PrintedText(outcome, wish)) : "";
     const std::string fittedWarning = ways.out.Fitted(warning);
     const std::string scan = ways.out.Fitted(made.scan);

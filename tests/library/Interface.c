@@ -8,7 +8,7 @@ int main(void) {
     const linewright_type *types = NULL;
     const linewright_barcode *barcode = NULL;
     const linewright_results *results = NULL;
-    const linewright_text text = linewright_string("1");
+    const linewright_text text = linewright_string("1234567");
     size_t count = 0;
     if (linewright_version()[0] == '\0' || linewright_error()[0] != '\0') return 1;
     if (linewright_encode(text, text, NULL, &barcode) != LINEWRIGHT_NOT_OPEN) return 2;

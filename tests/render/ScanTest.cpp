@@ -181,11 +181,13 @@ void SetPreferences(const Turn& turn) {
     preferences.codabarStop = static_cast<uint8>("DCBA"[turn.Of(3)]);
 }
 
-/** Warnings of other things than a check digit that the random data has and that is replaced. */
+/** Warnings of other things than what random digits have: a check digit that is replaced, and zeros
+ *  in front of short ones. */
 std::ptrdiff_t Others(const Meaning& meaning) {
     return std::count_if(meaning.warnings.begin(), meaning.warnings.end(),
                          [](const Warning& warning) {
-                             return warning.reason != WarningReason::kCheckDigitReplaced;
+                             return warning.reason != WarningReason::kCheckDigitReplaced &&
+                                    warning.reason != WarningReason::kFilledUp;
                          });
 }
 

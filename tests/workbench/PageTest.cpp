@@ -61,7 +61,7 @@ TEST_F(PageTest, TheFontTextIsCopied) {
 TEST_F(PageTest, SaysWhatIsWrongWhileTheDataIs) {
     Start();
     // An alert would stop this here.
-    Enter("EAN-13", "4O");
+    Enter("EAN-13", "400638133393O");
     EXPECT_EQ(Message(), "Only the digits 0 to 9");
     EXPECT_FALSE(Drawn().Drawing().has_value());
     EXPECT_FALSE(Named<QLabel>("badge").isVisible());
