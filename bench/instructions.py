@@ -35,6 +35,6 @@ def per_row(program: str, file: str) -> int:
         folder = Path(name)
         for rows in (FEW, MANY):
             (folder / "in.csv").write_bytes(text_of(file, rows_of(file, rows)).encode())
-            counts.append(_instructions([program, "batch", folder / "in.csv", "-o", "/dev/null",
+            counts.append(of_run([program, "batch", folder / "in.csv", "-o", "/dev/null",
                                          "--config-dir", folder, "--app-dir", folder]))
     return round((counts[1] - counts[0]) / (MANY - FEW))

@@ -35,7 +35,7 @@ class Progress {
     /** "12 %  4800 rows, 2400 rows/s, 15 s left"; how far it is and how long it takes only of a
      *  file whose length is known. */
     static std::string Line(const RowFile& file, std::uint64_t rows, double seconds) {
-        const std::string done =
+        std::string done =
             fmt::format("{} rows, {:.0f} rows/s", rows, static_cast<double>(rows) / seconds);
         const auto length = file.Length();
         if (!length || *length == 0) return done;

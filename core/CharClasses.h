@@ -36,7 +36,7 @@ constexpr bool IsDigit(char c) {
 }
 /** The number that two digits are in the decimal system. */
 constexpr std::size_t PairValue(char first, char second) {
-    return static_cast<std::size_t>(10 * (first - '0') + (second - '0'));
+    return static_cast<std::size_t>(first - '0') * 10 + static_cast<std::size_t>(second - '0');
 }
 inline bool AreDigits(std::string_view text) {
     if (text.size() < kWordSize)

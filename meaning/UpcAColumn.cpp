@@ -1,6 +1,6 @@
 #include "meaning/UpcAColumn.h"
 
-#include "meaning/Intent.h"
+#include "core/Word.h"
 #include "standards/CheckDigits.h"
 
 namespace linewright {
@@ -10,7 +10,8 @@ void UpcAColumn::Take(const BarcodeType* type, std::string_view data) {
     const bool isEan13 =
         type && (type->code == TypeCode::kEan13 || type->code == TypeCode::kJan13 ||
                  type->code == TypeCode::kClassicEan13 || type->code == TypeCode::kClassicJan13);
-    if (!isEan13 || data.size() != kUpcA || !meaning::AreDigits(data)) return;
+    if (!isEan13 || data.size() != kUpcA) return;
+    if (!AreDigits(LoadWord(data)) || !AreDigits(LoadWord(data.substr(kUpcA - kWordSize)))) return;
     ++numbers.of;
     if (Modulo10CheckDigit(data.substr(0, kUpcA - 1)) == data.back()) ++numbers.count;
 }
