@@ -38,7 +38,7 @@ struct MergeCounts {
 
 /** The counts in one line of JSON, and back; throws nlohmann::json::exception for what is none. */
 std::string JsonOf(const MergeCounts& counts);
-MergeCounts CountsOf(const std::string& json);
+MergeCounts CountsOf(const std::string& text);
 
 /** The counts as JSON for people: rows, encoded, with warnings, refused, and how many for which
  *  reason. */

@@ -69,7 +69,7 @@ class RecordReader {
 
   private:
     struct Free {
-        void operator()(char* memory) const;
+        void operator()(char* allocated) const;
     };
 
     void MakeRoom();

@@ -50,7 +50,7 @@ class ResultColumns {
   public:
     /** Throws Failure where the file, with these columns, has a name of a result already. */
     ResultColumns(std::vector<Result> results, const std::vector<std::string>& fileColumns,
-                  const ResultNames& names, bool keepsInput, char delimiter);
+                  const ResultNames& names, bool keepsInput, char separator);
 
     /** What the columns are called, in their order. */
     const std::vector<std::string>& Names() const { return resultNames; }

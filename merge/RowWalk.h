@@ -20,7 +20,7 @@ inline constexpr std::uint64_t kMostShards = 65536;
 class RowWalk {
   public:
     /** The file is borrowed. Throws Failure where it has no length to cut by. */
-    RowWalk(RowFile& borrowed, const std::optional<Shard>& shard);
+    RowWalk(RowFile& borrowed, const std::optional<Shard>& wanted);
 
     /** The next row of the part, blank lines too; false at its end. */
     bool Next();

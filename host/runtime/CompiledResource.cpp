@@ -76,14 +76,14 @@ class Reader {
         toml::table table;
         while (!Accept('}')) {
             std::string name = ReadText();
-            ReadValue([&](auto&& value) { table.insert(std::move(name), std::move(value)); });
+            ReadValue([&](auto value) { table.insert(std::move(name), std::move(value)); });
         }
         return table;
     }
 
     toml::array ReadList() {
         toml::array list;
-        while (!Accept(']')) ReadValue([&](auto&& value) { list.push_back(std::move(value)); });
+        while (!Accept(']')) ReadValue([&](auto value) { list.push_back(std::move(value)); });
         return list;
     }
 

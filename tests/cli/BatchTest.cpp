@@ -251,7 +251,7 @@ TEST(Batch, TellsRefusedRows) {
     EXPECT_THAT(summary, HasSubstr("\"reason\": \"Bad Codabar\",\n      \"rows\": 2"));
 
     std::vector<std::string> fine = run;
-    fine.push_back("--refused-ok");
+    fine.emplace_back("--refused-ok");
     EXPECT_EQ(command.Run(fine).status, 0);
 }
 

@@ -88,7 +88,7 @@ TEST(PlainRequest, IsNothingElse) {
          }) {
         EXPECT_FALSE(IsPlain(line)) << line;
     }
-    EXPECT_FALSE(IsPlain(std::string("{\"type\":\"\",\"data\":\"\"}\0", 23)));
+    EXPECT_FALSE(IsPlain(std::string("{\"type\":\"\",\"data\":\"\"}\0", 22)));
     EXPECT_FALSE(IsPlain("{\"type\":\"\",\"data\":\"\xED\xA0\x80\"}")) << "a surrogate";
     EXPECT_FALSE(IsPlain("{\"type\":\"\",\"data\":\"\xC1\xA1\"}")) << "overlong";
     EXPECT_FALSE(IsPlain("{\"type\":\"\",\"data\":\"\t\"}")) << "a control character";
