@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::int64_t kNowhere = -1;
 constexpr std::uint32_t kMostCheck = 255;
+/** All flags up to the last one. */
+constexpr std::uint32_t kKnownFlags = 2 * LINEWRIGHT_GREY - 1;
 
 }  // namespace
 
@@ -73,6 +75,10 @@ uint32_t ReasonOf(const BarcodeOutcome& outcome) {
 linewright_options CheckedOptions(const linewright_options* options) {
     constexpr linewright_options kUsual = LINEWRIGHT_OPTIONS_INIT;
     const linewright_options checked = Sized(options, kUsual);
+    if ((checked.flags & ~kKnownFlags) != 0) {
+        throw CallFailure{LINEWRIGHT_BAD_ARGUMENT,
+                          "a flag is none that this release of the library knows"};
+    }
     if (checked.check > kMostCheck) {
         throw CallFailure{LINEWRIGHT_BAD_ARGUMENT, "check is not a number from 0 to 255"};
     }

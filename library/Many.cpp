@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "library/Barcode.h"
+#include "requests/PlainBarcodes.h"
 #include "text/FontText.h"
 #include "types/WrittenType.h"
 
@@ -59,6 +60,7 @@ class RowEncoder {
     RowEncoder(Service& runService, const linewright_options& runOptions)
         : service(runService),
           options(runOptions),
+          plain(runService),
           isWarned((runOptions.flags & (LINEWRIGHT_WARN | LINEWRIGHT_STRICT)) != 0),
           isText((runOptions.flags & LINEWRIGHT_FONT_BYTES) == 0) {
         wish.isUtf8 = request.isUtf8 = (options.flags & LINEWRIGHT_BYTES) == 0;
@@ -85,6 +87,11 @@ class RowEncoder {
 
   private:
     void EncodeWithWarnings(std::string_view data, Results& results) {
+        // Nearly all barcodes have nothing to be warned of, which is found faster.
+        if (wish.isUtf8) {
+            const auto made = plain.Make(wish.type, data, wish.checkCharacter, wish.ratio);
+            if (made) return AddMade(made->fontString, LINEWRIGHT_MADE, results);
+        }
         wish.data = data;
         const BarcodeOutcome outcome = MakeBarcode(service, wish);
         const auto reason = static_cast<uint8_t>(ReasonOf(outcome));
@@ -92,7 +99,7 @@ class RowEncoder {
         AddMade(outcome.bytes, reason, results);
     }
 
-    void AddMade(const std::string& bytes, uint8_t reason, Results& results) const {
+    void AddMade(std::string_view bytes, uint8_t reason, Results& results) const {
         if (isText) {
             AppendFontText(results.Texts(), bytes);
         } else {
@@ -103,6 +110,7 @@ class RowEncoder {
 
     Service& service;
     const linewright_options& options;
+    PlainBarcodes plain;
     bool isWarned;
     bool isText;
     bool isTypeSet = false;

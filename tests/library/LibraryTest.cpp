@@ -214,6 +214,10 @@ TEST_F(LibraryTest, KnowsProgramsOfOtherReleases) {
     EXPECT_EQ(Said(Made("code39", "A", &longer.options)->bytes), "CAIIAIACAICAIIA");
     longer.more = 1;
     EXPECT_EQ(Made("code39", "A", &longer.options).status, LINEWRIGHT_BAD_ARGUMENT);
+    const linewright_options known = Options(LINEWRIGHT_GREY);
+    EXPECT_EQ(Made("code39", "A", &known).status, LINEWRIGHT_DONE);
+    const linewright_options newer = Options(2 * LINEWRIGHT_GREY);
+    EXPECT_EQ(Made("code39", "A", &newer).status, LINEWRIGHT_BAD_ARGUMENT);
     linewright_options shorter = LINEWRIGHT_OPTIONS_INIT;
     shorter.size = offsetof(linewright_options, ratio);
     shorter.ratio = 3;
