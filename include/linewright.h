@@ -105,7 +105,7 @@ enum {
     LINEWRIGHT_BYTES = 1,
     /** A warning is a refusal. */
     LINEWRIGHT_STRICT = 2,
-    /** linewright_encode_many looks for warnings too, which takes longer. */
+    /** linewright_encode_many looks for warnings too, which takes longer where there are some. */
     LINEWRIGHT_WARN = 4,
     /** linewright_encode_many hands out the bytes of font strings, not their text. */
     LINEWRIGHT_FONT_BYTES = 8,

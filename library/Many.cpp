@@ -77,6 +77,11 @@ class RowEncoder {
     void SetRatio(double ratio) { wish.ratio = request.ratio = ratio; }
 
     void Encode(std::string_view data, Results& results) {
+        // As nearly all are: made, with nothing to be warned of.
+        if (wish.isUtf8) {
+            const auto made = plain.Make(wish.type, data, wish.checkCharacter, wish.ratio);
+            if (made) return AddMade(made->fontString, LINEWRIGHT_MADE, results);
+        }
         if (isWarned) return EncodeWithWarnings(data, results);
         if (request.typeName.empty()) return results.Add(0, LINEWRIGHT_UNKNOWN_TYPE);
         request.data = data;
@@ -87,11 +92,6 @@ class RowEncoder {
 
   private:
     void EncodeWithWarnings(std::string_view data, Results& results) {
-        // Nearly all barcodes have nothing to be warned of, which is found faster.
-        if (wish.isUtf8) {
-            const auto made = plain.Make(wish.type, data, wish.checkCharacter, wish.ratio);
-            if (made) return AddMade(made->fontString, LINEWRIGHT_MADE, results);
-        }
         wish.data = data;
         const BarcodeOutcome outcome = MakeBarcode(service, wish);
         const auto reason = static_cast<uint8_t>(ReasonOf(outcome));

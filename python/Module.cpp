@@ -142,12 +142,8 @@ py::dict Verify(const std::string& type, const std::string& data, const Options&
 
 /** Texts of Python as a column. */
 struct Column {
-    void Add(py::handle item, std::size_t row) {
+    void Add(py::handle item) {
         Py_ssize_t size = 0;
-        if (!PyUnicode_Check(item.ptr())) {
-            throw py::type_error("row " + std::to_string(row) + " is no str but " +
-                                 std::string(py::str(py::type::handle_of(item))));
-        }
         const char* const text = PyUnicode_AsUTF8AndSize(item.ptr(), &size);
         if (text == nullptr) throw py::error_already_set();
         bytes.append(text, static_cast<std::size_t>(size));
@@ -163,8 +159,7 @@ struct Column {
 py::tuple EncodeMany(const std::string& type, const py::list& data, const Options& options) {
     Column column;
     column.offsets.reserve(data.size() + 1);
-    std::size_t row = 0;
-    for (const py::handle item : data) column.Add(item, row++);
+    for (const py::handle item : data) column.Add(item);
     linewright_rows rows = LINEWRIGHT_ROWS_INIT;
     rows.count = data.size();
     rows.data = column.Given();

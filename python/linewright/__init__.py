@@ -227,6 +227,9 @@ def encode_many(type: str, data: Any, *, check: bool | int = False, ratio: float
     _start()
     items = data.tolist() if hasattr(data, "tolist") else list(data)
     rows = [row for row, item in enumerate(items) if not _is_missing(item)]
+    for row in rows:
+        if not isinstance(items[row], str):
+            raise TypeError(f"row {row} is no str but {items[row].__class__}")
     is_whole = len(rows) == len(items)
     given = items if is_whole else [items[row] for row in rows]
     made = _library.encode_many(type, given,

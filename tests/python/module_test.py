@@ -76,8 +76,8 @@ class ModuleTest(unittest.TestCase):
             linewright.draw("code39", "A", height="tall")
         with self.assertRaisesRegex(RuntimeError, "the bars can be"):
             linewright.draw("ean13", "1", height="1000x")
-        with self.assertRaisesRegex(TypeError, "row 1 is no str"):
-            linewright.encode_many("ean13", ["1", 2])
+        with self.assertRaisesRegex(TypeError, "row 2 is no str"):
+            linewright.encode_many("ean13", ["1", None, 2])
 
     def test_many_of_each_kind(self):
         data = ["400638133393", None, "x", "4006381333937"]
