@@ -7,9 +7,8 @@
  * the call only; what a call hands out is the library's until the program gives it back with the
  * function for it. There is one host a process, behind a lock: any thread may call anything at any
  * time, and calls take turns. No exception comes out. Structs that are handed over begin with their
- * size, as the
- * ..._INIT values have it, and those handed out come as pointers: later releases add fields at the
- * ends of both. */
+ * size, as the ..._INIT values have it, and those handed out come as pointers: later releases add
+ * fields at the ends of both. */
 
 #include <stddef.h>
 #include <stdint.h>

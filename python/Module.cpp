@@ -2,9 +2,9 @@
 #include <pybind11/stl.h>
 
 #include <map>
+#include <memory>
 #include <new>
 #include <stdexcept>
-
 #include <string>
 #include <vector>
 
@@ -91,10 +91,10 @@ py::dict Made(Call call) {
         const py::gil_scoped_release released;
         status = call(&barcode);
     }
+    const std::unique_ptr<const linewright_barcode, decltype(&linewright_free_barcode)> made(
+        barcode, &linewright_free_barcode);
     Check(status);
-    py::dict dict = DictOf(*barcode);
-    linewright_free_barcode(barcode);
-    return dict;
+    return DictOf(*made);
 }
 
 void Open(const std::string& plugin, const std::string& config, const std::string& app,
@@ -170,6 +170,8 @@ py::tuple EncodeMany(const std::string& type, const py::list& data, const Option
         const py::gil_scoped_release released;
         status = linewright_encode_many(&rows, &options.options, &results);
     }
+    const std::unique_ptr<const linewright_results, decltype(&linewright_free_results)> handedOut(
+        results, &linewright_free_results);
     Check(status);
     py::list texts(results->count);
     py::list statuses(results->count);
@@ -190,7 +192,6 @@ py::tuple EncodeMany(const std::string& type, const py::list& data, const Option
         statuses[i] = results->statuses[i];
         reasons[i] = results->reasons[i];
     }
-    linewright_free_results(results);
     return py::make_tuple(texts, statuses, reasons);
 }
 

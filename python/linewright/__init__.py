@@ -216,7 +216,7 @@ def _is_missing(item: Any) -> bool:
 def encode_many(type: str, data: Any, *, check: bool | int = False, ratio: float = 2.0,
                 strict: bool = False, warn: bool = True) -> Many:
     """The font texts of a sequence of str, a pandas.Series or a numpy array. None and NaN stay
-    missing. Without `warn` it is faster, and a row with warnings is MADE. Other threads run meanwhile.
+    missing. Without `warn` a row with warnings is MADE. Other threads run meanwhile.
 
     >>> made = encode_many("ean13", ["400638133393", "40O638133393"])
     >>> made.texts
