@@ -53,10 +53,9 @@ class RandomElements {
     }
 
     std::string IdentifierOf(const Gs1Identifiers& row) {
-        const int first = std::stoi(std::string(row.first));
-        const int last = std::stoi(std::string(row.last));
-        std::string identifier = std::to_string(
-            first + static_cast<int>(Below(static_cast<std::size_t>(last - first + 1))));
+        const std::size_t first = std::stoul(std::string(row.first));
+        const std::size_t last = std::stoul(std::string(row.last));
+        std::string identifier = std::to_string(first + Below(last - first + 1));
         identifier.insert(0, row.first.size() - identifier.size(), '0');
         if (identifier.back() > row.highestDigit) identifier.back() = row.highestDigit;
         return identifier;
