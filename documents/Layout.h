@@ -25,9 +25,14 @@ struct LabelSheet {
     /** From a label's side to the same side of the next one. */
     double columnPitch;
     double rowPitch;
+    /** Records stand below one another as in a list: lines beside the barcode, and hairlines. */
+    bool isList = false;
 
     int LabelsOfPage() const { return columns * rows; }
 };
+
+/** Stands between columns on one line; where all that stands beside it is empty it goes too. */
+inline constexpr std::string_view kBetweenColumns = " \xC2\xB7 ";
 
 /** Common sheets, by their measures. The first one is taken where nobody says otherwise. */
 extern const std::vector<LabelSheet> kLabelSheets;
@@ -36,6 +41,11 @@ extern const std::vector<LabelSheet> kLabelSheets;
 const LabelSheet* FindLabelSheet(std::string_view name);
 
 enum class Alignment { kLeft, kCentre, kRight };
+
+/** How much of the free room stands on the left. */
+constexpr double ShareOf(Alignment alignment) {
+    return alignment == Alignment::kLeft ? 0 : alignment == Alignment::kCentre ? 0.5 : 1;
+}
 
 /** What stands on a line of a label. */
 struct LabelLine {
@@ -73,8 +83,11 @@ struct Layout {
     std::string textFamily = "DejaVu Sans";
 };
 
-/** What a file has for a layout that says nothing of lines: the title in bold, the barcode with what
- *  people read of it, and the other columns. "" for a title that is none. */
+/** What a sheet looks like where nothing more is said. */
+Layout LayoutOn(const LabelSheet& sheet);
+
+/** What a file has for a layout that says nothing of lines: the title in bold, the barcode with
+ * what people read of it, and the other columns. "" for a title that is none. */
 std::vector<LabelLine> UsualLines(const std::string& titleColumn,
                                   const std::vector<std::string>& otherColumns);
 

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "documents/Layout.h"
 
@@ -14,11 +15,12 @@ class LayoutFailure : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/** Reads a layout from the content of a TOML file, whose name is for messages; see docs/cli.md for
- *  its keys. Throws LayoutFailure. */
-Layout ReadLayout(const std::string& content, const std::string& fileName);
+/** A layout that is longer is refused. */
+inline constexpr std::size_t kMostLayoutBytes = std::size_t{1} << 20;
 
-/** Fails, with what is wrong in a sentence, on labels that overlap or leave their page. */
-void CheckSheet(const LabelSheet& sheet, double padding);
+/** Reads a layout from the content of a TOML file (docs/cli.md has its keys) for records with such
+ *  columns. The file's name is for messages. Throws LayoutFailure. */
+Layout ReadLayout(const std::string& content, const std::string& fileName,
+                  const std::vector<std::string>& columns);
 
 }  // namespace linewright
