@@ -133,6 +133,7 @@ void AddBatch(CLI::App& app, Arguments& arguments) {
         ->check(NamesAFile())
         ->type_name("OUT");
     AddResults(command, arguments.batch);
+    AddRefusals(command, arguments.batch);
     AddScale(command, arguments.batch);
     command.add_flag("--verify", arguments.batch.isVerified, "Add what scanners read of each");
     command.footer(
@@ -196,6 +197,25 @@ void AddProof(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright proof labels.csv -o proof.pdf");
 }
 
+void AddDocument(CLI::App& app, Arguments& arguments) {
+    CLI::App& command = *app.add_subcommand(
+        "document", "Set the rows of a CSV file as labels with live barcodes (Linux)");
+    AddRows(command, arguments);
+    command
+        .add_option("-o,--output", arguments.batchFiles.output,
+                    "Document to write: .pdf, .idml, .odt or .fodt")
+        ->check(NamesAFile())
+        ->type_name("F")
+        ->required();
+    command.add_option("--layout", arguments.draw.layout, "TOML file, or a sheet such as a4-3x8")
+        ->type_name("L");
+    command.add_option("--title", arguments.batch.rows.titleColumn, "Column of titles")
+        ->type_name("NAME");
+    AddXDimension(command, arguments.draw.drawing);
+    AddRefusals(command, arguments.batch);
+    command.footer("Example:  linewright document labels.csv -o labels.pdf --layout a4-2x7");
+}
+
 void AddFonts(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("fonts", "List or install the barcode fonts");
     command.require_subcommand(1);
@@ -243,6 +263,7 @@ Arguments::Command CommandOf(const CLI::App& app) {
         {"dialog", Command::kDialog},        {"draw", Command::kDraw},
         {"verify", Command::kVerify},        {"proof", Command::kProof},
         {"fonts list", Command::kFontsList}, {"fonts install", Command::kFontsInstall},
+        {"document", Command::kDocument},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
     const auto parts = chosen.get_subcommands();
@@ -270,6 +291,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddDraw(app, *result);
     AddVerify(app, *result);
     AddProof(app, *result);
+    AddDocument(app, *result);
     AddFonts(app, *result);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(

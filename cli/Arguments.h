@@ -26,6 +26,7 @@ struct Arguments {
         kDraw,
         kVerify,
         kProof,
+        kDocument,
         kFontsList,
         kFontsInstall,
     };

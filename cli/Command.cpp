@@ -42,6 +42,9 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kProof:
             return OpenDrawingModule().proof(service, arguments.batchFiles, arguments.batch.rows,
                                              arguments.draw, console);
+        case Arguments::Command::kDocument:
+            return OpenDrawingModule().document(service, arguments.batchFiles, arguments.batch,
+                                                arguments.draw, console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson
                        ? RunFontsListJson(arguments.draw.drawing.xDimension, console)

@@ -11,6 +11,7 @@ struct DrawingModule {
     decltype(RunDraw)* draw;
     decltype(RunVerify)* verify;
     decltype(RunProof)* proof;
+    decltype(RunDocument)* document;
     decltype(BarcodeScanner)* scanner;
 };
 

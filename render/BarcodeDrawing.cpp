@@ -132,6 +132,14 @@ double BarcodeDrawing::FontSize() const {
     return face == nullptr ? 0 : module * face->modulesPerEm;
 }
 
+BarcodeDrawing::TextPlace BarcodeDrawing::PlaceOfText() const {
+    if (face == nullptr) {
+        return {textX, textY, textSize * module, kAscent * textSize * module};
+    }
+    if (glyphs.empty()) return {};
+    return {glyphs.front().x, glyphs.front().y, FontSize(), face->LineHeight() * module};
+}
+
 void BarcodeDrawing::FindModule(const BarcodeType& type, const DrawingOptions& options) {
     const Dimensions& row = type.dimensions;
     const double x = options.xDimension.value_or(row.xDimension);
