@@ -3,6 +3,6 @@
 /** The library's entry. */
 extern "C" EXPORTED_DECL const linewright::DrawingModule* GetDrawingModule() {
     using namespace linewright;
-    static constexpr DrawingModule kModule{RunDraw, RunVerify, RunProof, BarcodeScanner};
+    static constexpr DrawingModule kModule{RunDraw, RunVerify, RunProof, BarcodeScanner, RunCheck};
     return &kModule;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/CheckCommand.h"
 #include "cli/DrawCommand.h"
 #include "cli/ScannedBarcode.h"
 
@@ -12,6 +13,7 @@ struct DrawingModule {
     decltype(RunVerify)* verify;
     decltype(RunProof)* proof;
     decltype(BarcodeScanner)* scanner;
+    decltype(RunCheck)* check;
 };
 
 /** Opens the library beside the plug-in, for as long as the program runs. Throws Failure where
