@@ -109,11 +109,8 @@ void AddStream(CLI::App& app) {
         "| linewright stream");
 }
 
-/** What all commands have that work on the rows of a file. */
-void AddRows(CLI::App& command, Arguments& arguments) {
-    RowOptions& rows = arguments.batch.rows;
-    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
-        ->required();
+/** How the rows of a file are read, and what is wanted of them. */
+void AddRowWishes(CLI::App& command, RowOptions& rows) {
     AddColumns(command, rows);
     command.add_flag("--check", rows.isCheckWanted, "Add the check character in all rows");
     AddRatio(command, [&rows](const CLI::results_t& results) {
@@ -122,6 +119,12 @@ void AddRows(CLI::App& command, Arguments& arguments) {
     });
     command.add_flag("--strict", rows.isStrict, "Refuse rows that there is a warning about");
     AddGtin(command, rows.isArticleNumber);
+}
+
+void AddRows(CLI::App& command, Arguments& arguments) {
+    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
+        ->required();
+    AddRowWishes(command, arguments.batch.rows);
 }
 
 void AddBatch(CLI::App& app, Arguments& arguments) {
@@ -216,6 +219,27 @@ void AddDocument(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright document labels.csv -o labels.pdf --layout a4-2x7");
 }
 
+void AddCheck(CLI::App& app, Arguments& arguments) {
+    CheckOptions& check = arguments.check;
+    CLI::App& command = *app.add_subcommand(
+        "check", "Read the barcodes of a finished PDF, PNG or TIFF back (Linux)");
+    command.add_option("DOCUMENT", check.document, "PDF, PNG or TIFF file")->required();
+    command.add_option("--data", check.data, "CSV file that says what the document holds")
+        ->type_name("IN");
+    command.add_option("--page", check.page, "Look at one page alone")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber.description(""));
+    command.add_option("--dpi", check.dotsPerInch, "Resolution of a picture that states none")
+        ->type_name("N")
+        ->check(CLI::Range(20, 20000).description(""));
+    command.add_flag("--json", check.isJson, "Print a JSON object");
+    command.add_option("-o,--output", check.output, "PDF file with the pages and what was found")
+        ->check(NamesAFile())
+        ->type_name("F");
+    AddRowWishes(command, arguments.batch.rows);
+    command.footer("Example:  linewright check labels.pdf --data labels.csv -o report.pdf");
+}
+
 void AddFonts(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("fonts", "List or install the barcode fonts");
     command.require_subcommand(1);
@@ -257,12 +281,19 @@ std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error) {
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
-        {"types", Command::kTypes},          {"encode", Command::kEncode},
-        {"stream", Command::kStream},        {"batch", Command::kBatch},
-        {"prefs", Command::kPrefs},          {"prefs set", Command::kPrefsSet},
-        {"dialog", Command::kDialog},        {"draw", Command::kDraw},
-        {"verify", Command::kVerify},        {"proof", Command::kProof},
-        {"fonts list", Command::kFontsList}, {"fonts install", Command::kFontsInstall},
+        {"types", Command::kTypes},
+        {"encode", Command::kEncode},
+        {"stream", Command::kStream},
+        {"batch", Command::kBatch},
+        {"prefs", Command::kPrefs},
+        {"prefs set", Command::kPrefsSet},
+        {"dialog", Command::kDialog},
+        {"draw", Command::kDraw},
+        {"verify", Command::kVerify},
+        {"proof", Command::kProof},
+        {"check", Command::kCheck},
+        {"fonts list", Command::kFontsList},
+        {"fonts install", Command::kFontsInstall},
         {"document", Command::kDocument},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
@@ -292,6 +323,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddVerify(app, *result);
     AddProof(app, *result);
     AddDocument(app, *result);
+    AddCheck(app, *result);
     AddFonts(app, *result);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(

@@ -45,6 +45,9 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kDocument:
             return OpenDrawingModule().document(service, arguments.batchFiles, arguments.batch,
                                                 arguments.draw, console);
+        case Arguments::Command::kCheck:
+            return OpenDrawingModule().check(service, arguments.check, arguments.batch.rows,
+                                             console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson
                        ? RunFontsListJson(arguments.draw.drawing.xDimension, console)
@@ -75,6 +78,7 @@ ExitStatus Run(const std::vector<std::string>& words, Console& console) {
     if (arguments->fonts.empty()) arguments->fonts = host::Utf8FromPath(FontFolder());
     arguments->draw.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
+    arguments->check.fonts = arguments->fonts;
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);

@@ -3,7 +3,7 @@
 /** The library's entry. */
 extern "C" EXPORTED_DECL const linewright::DrawingModule* GetDrawingModule() {
     using namespace linewright;
-    static constexpr DrawingModule kModule{RunDraw, RunVerify, RunProof, RunDocument,
-                                           BarcodeScanner};
+    static constexpr DrawingModule kModule{RunDraw,     RunVerify, RunProof,
+                                           RunDocument, RunCheck,  BarcodeScanner};
     return &kModule;
 }

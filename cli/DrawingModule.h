@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/CheckCommand.h"
 #include "cli/DrawCommand.h"
 #include "cli/ScannedBarcode.h"
 
@@ -12,6 +13,7 @@ struct DrawingModule {
     decltype(RunVerify)* verify;
     decltype(RunProof)* proof;
     decltype(RunDocument)* document;
+    decltype(RunCheck)* check;
     decltype(BarcodeScanner)* scanner;
 };
 
