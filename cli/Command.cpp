@@ -9,9 +9,9 @@
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
 #include "cli/DrawingAdvice.h"
-#include "cli/DrawingModule.h"
 #include "cli/FontsCommand.h"
 #include "cli/Installation.h"
+#include "cli/Modules.h"
 #include "cli/PrefsCommand.h"
 #include "cli/TypesCommand.h"
 #include "host/runtime/Paths.h"
@@ -36,11 +36,11 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kPrefs: return RunPrefs(console);
         case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
         case Arguments::Command::kDraw:
-            return OpenDrawingModule().draw(service, arguments.draw, console);
+            return Opened<DrawingModule>().draw(service, arguments.draw, console);
         case Arguments::Command::kVerify:
-            return OpenDrawingModule().verify(service, arguments.draw, console);
+            return Opened<DrawingModule>().verify(service, arguments.draw, console);
         case Arguments::Command::kProof:
-            return OpenDrawingModule().proof(service, arguments.batchFiles, arguments.batch.rows,
+            return Opened<PdfModule>().proof(service, arguments.batchFiles, arguments.batch.rows,
                                              arguments.draw, console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson
