@@ -9,9 +9,9 @@
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
 #include "cli/DrawingAdvice.h"
-#include "cli/DrawingModule.h"
 #include "cli/FontsCommand.h"
 #include "cli/Installation.h"
+#include "cli/Modules.h"
 #include "cli/PrefsCommand.h"
 #include "cli/TypesCommand.h"
 #include "host/runtime/Paths.h"
@@ -36,18 +36,18 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kPrefs: return RunPrefs(console);
         case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
         case Arguments::Command::kDraw:
-            return OpenDrawingModule().draw(service, arguments.draw, console);
+            return Opened<DrawingModule>().draw(service, arguments.draw, console);
         case Arguments::Command::kVerify:
-            return OpenDrawingModule().verify(service, arguments.draw, console);
+            return Opened<DrawingModule>().verify(service, arguments.draw, console);
         case Arguments::Command::kProof:
-            return OpenDrawingModule().proof(service, arguments.batchFiles, arguments.batch.rows,
+            return Opened<PdfModule>().proof(service, arguments.batchFiles, arguments.batch.rows,
                                              arguments.draw, console);
         case Arguments::Command::kDocument:
-            return OpenDrawingModule().document(service, arguments.batchFiles, arguments.batch,
-                                                arguments.draw, console);
+            return Opened<DocumentModule>().document(service, arguments.batchFiles, arguments.batch,
+                                                     arguments.draw, console);
         case Arguments::Command::kCheck:
-            return OpenDrawingModule().check(service, arguments.check, arguments.batch.rows,
-                                             console);
+            return Opened<CheckModule>().check(service, arguments.check, arguments.batch.rows,
+                                               console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson
                        ? RunFontsListJson(arguments.draw.drawing.xDimension, console)

@@ -10,7 +10,7 @@
 
 namespace linewright {
 
-// What draws barcodes and reads them back; see cli/DrawingModule.h for how to get there.
+// What draws barcodes and reads them back; see cli/Modules.h for how to get there.
 
 struct DrawOptions {
     EncodeOptions encode;
