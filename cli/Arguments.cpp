@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 
+#include "cli/Description.h"
 #include "cli/DialogArguments.h"
 #include "cli/DrawingArguments.h"
 #include "cli/RowArguments.h"
@@ -311,6 +312,11 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     app.formatter(std::make_shared<HelpFormatter>());
     app.get_formatter()->column_width(kNameColumn);
     app.set_version_flag("--version", "linewright " LINEWRIGHT_VERSION, "Print the version");
+    app.add_flag_callback(
+           "--describe",
+           [&app] { throw CLI::CallForVersion(DescriptionOf(app, LINEWRIGHT_VERSION), 0); })
+        ->group("")
+        ->configurable(false);
     app.require_subcommand(1);
     AddHostOptions(app, result->host, result->fonts);
     AddTypes(app, *result);
