@@ -14,9 +14,9 @@ function(linewright_resources target description)
         set(manifestPlace 1)
     endif()
     set(manifest ${PROJECT_BINARY_DIR}/program.manifest)
-    configure_file(${PROJECT_SOURCE_DIR}/windows/program.manifest.in ${manifest} @ONLY)
+    configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/program.manifest.in ${manifest} @ONLY)
     set(resources ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
-    configure_file(${PROJECT_SOURCE_DIR}/windows/resources.rc.in ${resources}.in @ONLY)
+    configure_file(${PROJECT_SOURCE_DIR}/packaging/windows/resources.rc.in ${resources}.in @ONLY)
     file(GENERATE OUTPUT ${resources} INPUT ${resources}.in TARGET ${target})
     set_source_files_properties(
         ${resources} PROPERTIES OBJECT_DEPENDS "${manifest};${PROJECT_SOURCE_DIR}/icons/linewright.ico"
