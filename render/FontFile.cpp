@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cmath>
+#include <mutex>
 #include <string>
 
 #include "render/CairoPage.h"
@@ -53,6 +54,17 @@ FT_Library FreeTypeLibrary() {
     return library;
 }
 
+/** Opening and closing a face changes the library, which threads share. */
+std::mutex& LibraryMutex() {
+    static std::mutex mutex;
+    return mutex;
+}
+
+void CloseFace(FT_Face file) {
+    const std::lock_guard lock(LibraryMutex());
+    FT_Done_Face(file);
+}
+
 struct FontFile::Face {
     Face() = default;
     Face(const Face&) = delete;
@@ -61,7 +73,7 @@ struct FontFile::Face {
         if (cairoFace != nullptr) {
             cairo_font_face_destroy(cairoFace);
         } else if (file != nullptr) {
-            FT_Done_Face(file);
+            CloseFace(file);
         }
     }
 
@@ -78,6 +90,7 @@ struct FontFile::Face {
 
 FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing)
     : face(std::make_unique<Face>()) {
+    const std::lock_guard lock(LibraryMutex());
     if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &face->file) != 0) {
         throw DrawingFailure(missing);
     }
@@ -91,7 +104,7 @@ cairo_font_face_t* FontFile::Face::CairoFace() {
     // Cairo's caches may keep the face for longer than we do; the file goes with it.
     static constexpr cairo_user_data_key_t kFile{};
     const cairo_status_t status = cairo_font_face_set_user_data(
-        made, &kFile, file, [](void* done) { FT_Done_Face(static_cast<FT_Face>(done)); });
+        made, &kFile, file, [](void* done) { CloseFace(static_cast<FT_Face>(done)); });
     if (status != CAIRO_STATUS_SUCCESS) {
         cairo_font_face_destroy(made);
         CheckCairo(status);
