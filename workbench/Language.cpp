@@ -7,13 +7,9 @@
 
 namespace linewright {
 
-namespace {
-
 QLocale QtLocale(const QString& locale) {
     return QLocale(QString(locale).insert(2, QLatin1Char('_')));
 }
-
-}  // namespace
 
 QString Say(const Phrase& phrase, const QString& locale) {
     const char* text = phrase.enUS;
@@ -25,6 +21,16 @@ QString Say(const Phrase& phrase, const QString& locale) {
 
 QString NumberText(double number, int decimals, const QString& locale) {
     return QtLocale(locale).toString(number, 'f', decimals);
+}
+
+QString AsSentence(const QString& text, const QString& locale) {
+    if (text.isEmpty()) return text;
+    const QLocale known = QtLocale(locale);
+    QString sentence = known.toUpper(text.left(1)) + text.mid(1);
+    static const QString ends = QString::fromUtf8(".!?…。！？");
+    if (ends.contains(sentence.back())) return sentence;
+    return sentence +
+           (known.language() == QLocale::Japanese ? QString::fromUtf8("。") : QStringLiteral("."));
 }
 
 QString LanguageName(const QString& locale) {

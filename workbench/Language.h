@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 
 namespace linewright {
@@ -15,6 +16,12 @@ struct Phrase {
 
 /** The phrase in a locale such as "deDE"; in English where there is no translation. */
 QString Say(const Phrase& phrase, const QString& locale);
+
+/** The locale as Qt knows it. */
+QLocale QtLocale(const QString& locale);
+
+/** A sentence that the rooms below leave bare: with a capital letter in front and a full stop. */
+QString AsSentence(const QString& text, const QString& locale);
 
 /** A number as it is written in a locale. */
 QString NumberText(double number, int decimals, const QString& locale);
