@@ -3,6 +3,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <algorithm>
 
@@ -10,6 +11,7 @@
 #include "host/runtime/Host.h"
 #include "host/runtime/Menus.h"
 #include "workbench/BarcodePage.h"
+#include "workbench/ListPage.h"
 #include "workbench/MenuPhrases.h"
 #include "workbench/Text.h"
 
@@ -63,6 +65,9 @@ void MainWindow::MakePages(Service& service, const QString& fonts) {
     AddPage(new BarcodePage(service, settings, fonts.toStdString(),
                             [this](const QString& cells) { OfferCells(cells); }),
             phrases::kBarcodePage);
+    AddPage(new ListPage(service, settings, fonts.toStdString(),
+                         (QFileInfo(settings.fileName()).path() + "/Presets").toStdString()),
+            phrases::kListPage);
 }
 
 void MainWindow::AddPage(Page* page, const Phrase& title) {
