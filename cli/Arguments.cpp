@@ -163,6 +163,7 @@ void AddDraw(CLI::App& app, Arguments& arguments) {
     command.callback([&draw, data] { draw.hasData = data->count() > 0; });
     AddColumns(command, draw.rows);
     AddFile(command, draw);
+    AddPreset(command, draw);
     AddDrawing(command, draw.drawing);
     AddSurroundings(command, draw.drawing);
     AddText(command, draw.drawing);
@@ -178,6 +179,7 @@ void AddVerify(CLI::App& app, Arguments& arguments) {
     CLI::App& command =
         *app.add_subcommand("verify", "Say what scanners read of a barcode (Linux)");
     AddBarcode(command, draw.encode);
+    AddPreset(command, draw);
     AddDrawing(command, draw.drawing);
     AddResolution(command, draw);
     command.footer("Example:  linewright verify code128 \"(10)AB-123(21)7\"");
@@ -194,6 +196,7 @@ void AddProof(CLI::App& app, Arguments& arguments) {
     command.add_option("--title", arguments.batch.rows.titleColumn, "Column of titles")
         ->type_name("NAME");
     command.add_flag("--letter", arguments.draw.isLetter, "Letter paper in place of A4");
+    AddPreset(command, arguments.draw);
     AddDrawing(command, arguments.draw.drawing);
     AddText(command, arguments.draw.drawing);
     command.add_flag("--verify", arguments.draw.isVerified,

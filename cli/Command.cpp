@@ -16,6 +16,7 @@
 #include "cli/TypesCommand.h"
 #include "host/runtime/Paths.h"
 #include "merge/Failure.h"
+#include "presets/Preset.h"
 #include "stream/AnswerLines.h"
 #include "text/Readable.h"
 
@@ -79,6 +80,8 @@ ExitStatus Run(const std::vector<std::string>& words, Console& console) {
     arguments->draw.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
     arguments->check.fonts = arguments->fonts;
+    DrawOptions& draw = arguments->draw;
+    if (!draw.preset.empty()) draw.drawing = Combined(ReadPreset(draw.preset), draw.drawing);
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
@@ -99,6 +102,8 @@ int RunCommand(const std::vector<std::string>& arguments, Console& console) noex
         return SayTrouble(Sentence(failure, console.language), console);
     } catch (const DrawingFailure& failure) {
         return SayTrouble(AdvisedSentence(failure, console.language), console);
+    } catch (const PresetFailure& failure) {
+        return SayTrouble(Sentence(failure, console.language), console);
     } catch (const std::bad_alloc&) {
         return SayTrouble("there is not enough memory", console);
     } catch (const std::length_error&) {

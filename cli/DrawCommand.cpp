@@ -7,10 +7,10 @@
 #include "cli/DrawnFile.h"
 #include "cli/Modules.h"
 #include "cli/ScannedBarcode.h"
-#include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
 #include "merge/Failure.h"
 #include "merge/OutputFile.h"
+#include "scanners/VerdictWords.h"
 #include "text/Readable.h"
 
 namespace linewright {

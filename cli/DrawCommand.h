@@ -15,6 +15,8 @@ namespace linewright {
 struct DrawOptions {
     EncodeOptions encode;
     DrawingWish drawing;
+    /** The file of a preset that `drawing` stands upon; "" for none. */
+    std::string preset;
     /** The folder that holds the fonts' files, UTF-8. */
     std::string fonts;
     /** Its ending says what is written; "-" is standard output. */

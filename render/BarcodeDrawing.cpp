@@ -86,11 +86,12 @@ void CheckKind(const BarcodeType& type, const DrawingOptions& options) {
     if (type.face == nullptr && (options.height || options.barWidthReduction != 0)) {
         throw DrawingFailure(Reason::kNoBars);
     }
-    if (options.hasBearerBars && type.symbology != Symbology::kInterleaved2of5) {
+    if (options.hasBearerBars && !type.MayHaveBearerBars()) {
         throw DrawingFailure(Reason::kNoBearer);
     }
-    const bool isEan = type.trait == Trait::kLargeFirstDigit || type.code == TypeCode::kEan8;
-    if (options.hasMarginMarks && !isEan) throw DrawingFailure(Reason::kNoMarginMarks);
+    if (options.hasMarginMarks && !type.MayHaveMarginMarks()) {
+        throw DrawingFailure(Reason::kNoMarginMarks);
+    }
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ std::shared_ptr<cairo_font_face_t> CairoFace(FT_Face file) {
         cairo_ft_font_face_create_for_ft_face(file, FT_LOAD_NO_HINTING), cairo_font_face_destroy);
     static constexpr cairo_user_data_key_t kFile{};
     CheckCairo(cairo_font_face_set_user_data(
-        made.get(), &kFile, file, [](void* done) { FT_Done_Face(static_cast<FT_Face>(done)); }));
+        made.get(), &kFile, file, [](void* done) { CloseFace(static_cast<FT_Face>(done)); }));
     CheckFreeType(FT_Reference_Face(file));
     return made;
 }

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cmath>
+#include <mutex>
 #include <string>
 
 #include "render/FontFileFace.h"
@@ -51,8 +52,19 @@ FT_Library FreeTypeLibrary() {
     return library;
 }
 
+/** Opening and closing a face changes the library, which threads share. */
+std::mutex& LibraryMutex() {
+    static std::mutex mutex;
+    return mutex;
+}
+
+void CloseFace(FT_Face file) {
+    const std::lock_guard lock(LibraryMutex());
+    FT_Done_Face(file);
+}
+
 FontFile::Face::~Face() {
-    if (file != nullptr) FT_Done_Face(file);
+    if (file != nullptr) CloseFace(file);
 }
 
 void FontFile::Face::Load(unsigned int glyph) const {
@@ -61,6 +73,7 @@ void FontFile::Face::Load(unsigned int glyph) const {
 
 FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing)
     : face(std::make_unique<Face>()) {
+    const std::lock_guard lock(LibraryMutex());
     if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &face->file) != 0) {
         throw DrawingFailure(missing);
     }

@@ -8,6 +8,9 @@
 
 namespace linewright {
 
+/** Gives a reference to a face back, which a thread may do while another one opens a file. */
+void CloseFace(FT_Face file);
+
 /** What the libraries that read fonts have of a file. */
 struct FontFile::Face {
     Face() = default;
