@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kMediaType = "application/vnd.oasis.opendocument.text";
 constexpr const char* kVersion = "1.3";
 constexpr const char* kHairline = "0.25pt solid #999999";
-/** A line that is a little too long for its cell is not broken. */
+/** A barcode that is a little too long for its cell is not broken. */
 constexpr double kOverhang = 3;
 
 std::string Points(double length) {
@@ -186,11 +186,12 @@ pugi::xml_node OpenDocumentParts::AddCell(pugi::xml_node row, const CellSides& s
 
 void OpenDocumentParts::AddParagraph(pugi::xml_node cell, const ParagraphStyle& style, double gap,
                                      double left, double right, const std::string& text) {
-    const std::string name = StyleOf("paragraph", style.id, "style:paragraph-properties",
-                                     {{"fo:margin-left", Points(left)},
-                                      {"fo:margin-right", Points(right - kOverhang)},
-                                      {"fo:margin-top", Points(gap)},
-                                      {"fo:margin-bottom", "0pt"}});
+    const std::string name =
+        StyleOf("paragraph", style.id, "style:paragraph-properties",
+                {{"fo:margin-left", Points(left)},
+                 {"fo:margin-right", Points(style.isBarcode ? -kOverhang : right)},
+                 {"fo:margin-top", Points(gap)},
+                 {"fo:margin-bottom", "0pt"}});
     AddSpacedText(AddElement(cell, "text:p", {{"text:style-name", name}}), text);
 }
 

@@ -130,7 +130,7 @@ TEST_F(DocumentTest, SaysWhichTextWasCut) {
     const DrawnBarcode drawn = document.Add({.type = "ean13", .data = kPen}, {name});
     ASSERT_EQ(drawn.warnings.size(), 1U);
     EXPECT_EQ(drawn.warnings.front().kind, DrawingWarning::Kind::kTextCut);
-    EXPECT_EQ(drawn.warnings.front().parameters.at(0), name);
+    EXPECT_THAT(drawn.warnings.front().parameters.at(0), testing::EndsWith("mmm…"));
     EXPECT_THAT(document.Finish(), testing::HasSubstr("mmm…<"));
 }
 
