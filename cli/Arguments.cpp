@@ -27,6 +27,10 @@ class HelpFormatter : public CLI::Formatter {
                            std::vector<const CLI::Option*> options) const override {
         return CLI::Formatter::make_group(group, isPositional, options).substr(1);
     }
+    std::string make_subcommands(const CLI::App* app, CLI::AppFormatMode mode) const override {
+        const std::string list = CLI::Formatter::make_subcommands(app, mode);
+        return list.empty() ? "" : list.substr(1);
+    }
     std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
         return CLI::detail::find_and_replace(CLI::Formatter::make_option_name(option, isPositional),
                                              "{false}", "");
@@ -207,6 +211,13 @@ void AddFonts(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright fonts install");
 }
 
+void AddResources(CLI::App& app) {
+    CLI::App& command = *app.add_subcommand(
+        "resources", "Describe the plug-in for the resource files of another host");
+    command.add_flag("--json")->description("Print a JSON object")->required();
+    command.footer("Example:  linewright resources --json");
+}
+
 /** The command that the words name, or as much of it as they do. */
 const CLI::App& Chosen(const CLI::App& app) {
     const auto parts = app.get_subcommands();
@@ -243,7 +254,7 @@ Arguments::Command CommandOf(const CLI::App& app) {
         {"dialog", Command::kDialog},        {"draw", Command::kDraw},
         {"verify", Command::kVerify},        {"proof", Command::kProof},
         {"fonts list", Command::kFontsList}, {"fonts install", Command::kFontsInstall},
-    };
+        {"resources", Command::kResources}};
     const CLI::App& chosen = *app.get_subcommands().front();
     const auto parts = chosen.get_subcommands();
     const std::string part = parts.empty() ? "" : ' ' + parts.front()->get_name();
@@ -271,6 +282,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddVerify(app, *result);
     AddProof(app, *result);
     AddFonts(app, *result);
+    AddResources(app);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
         "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");

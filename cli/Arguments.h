@@ -28,6 +28,7 @@ struct Arguments {
         kProof,
         kFontsList,
         kFontsInstall,
+        kResources,
     };
 
     Command command = Command::kTypes;

@@ -18,6 +18,7 @@
 #include "merge/Failure.h"
 #include "stream/AnswerLines.h"
 #include "text/Readable.h"
+#include "views/ResourceDescription.h"
 
 namespace linewright {
 
@@ -47,6 +48,11 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
                        ? RunFontsListJson(arguments.draw.drawing.xDimension, console)
                        : RunFontsList(arguments.fonts, console);
         case Arguments::Command::kFontsInstall: return RunFontsInstall(arguments.fonts, console);
+        case Arguments::Command::kResources:
+            console.out << DescribeResources(host::PathFromUtf8(arguments.host.plugin),
+                                             LINEWRIGHT_VERSION)
+                        << '\n';
+            return kDone;
         case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }
     return kTrouble;

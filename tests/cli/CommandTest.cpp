@@ -17,8 +17,8 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 const std::vector<std::vector<std::string>> kCommands{
-    {},         {"types"}, {"encode"}, {"stream"}, {"batch"}, {"prefs"}, {"prefs", "set"},
-    {"dialog"}, {"draw"},  {"verify"}, {"proof"},  {"fonts"}};
+    {},         {"types"}, {"encode"}, {"stream"}, {"batch"}, {"prefs"},    {"prefs", "set"},
+    {"dialog"}, {"draw"},  {"verify"}, {"proof"},  {"fonts"}, {"resources"}};
 
 TEST(Help, FitsAScreenAndHasAnExample) {
     const CommandRunner command;
@@ -68,6 +68,7 @@ TEST(Usage, MistakesEndWithTwo) {
         {"encod"},
         {"types", "more"},
         {"types", "--jsn"},
+        {"resources"},
         {"encode"},
         {"encode", "ean13"},
         {"encode", "ean13", "1", "2"},
