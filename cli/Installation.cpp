@@ -6,18 +6,18 @@ namespace linewright {
 
 namespace {
 
-std::filesystem::path FromProgram(const char* place) {
+std::filesystem::path FromProgram(std::string_view place) {
     return (ProgramFolder() / place).lexically_normal();
 }
 
 }  // namespace
 
-std::filesystem::path PlugInFile() {
-    return FromProgram(LINEWRIGHT_PLUGIN_FILE);
+std::filesystem::path ModuleFile(const std::string& name) {
+    return FromProgram(LINEWRIGHT_LIBRARY_FOLDER "/" + name + LINEWRIGHT_MODULE_SUFFIX);
 }
 
-std::filesystem::path DrawingModuleFile() {
-    return FromProgram(LINEWRIGHT_DRAWING_FILE);
+std::filesystem::path PlugInFile() {
+    return ModuleFile("Linewright");
 }
 
 std::filesystem::path FontFolder() {

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "merge/Failure.h"
+#include "merge/EncodingFailure.h"
 
 namespace linewright {
 
@@ -57,7 +57,7 @@ void DecodingSource::CountLines(std::string_view text) {
 }
 
 void DecodingSource::FailAt(std::string_view bytes) const {
-    throw Failure(fmt::format("line {}: byte {} of the file, 0x{:02X}, is no character of {}", line,
+    throw EncodingFailure(fmt::format("line {}: byte {} of the file, 0x{:02X}, is no character of {}", line,
                               position + 1, static_cast<unsigned char>(bytes.front()),
                               NameOf(encoding)));
 }

@@ -9,7 +9,7 @@
 #include <new>
 
 #include "merge/Csv.h"
-#include "merge/Failure.h"
+#include "merge/EncodingFailure.h"
 #include "text/Utf8.h"
 
 namespace linewright {
@@ -195,7 +195,7 @@ void RecordReader::RequireUtf8() const {
     if (!invalid) return;
     const std::string_view before = record.text.substr(0, *invalid);
     const std::size_t lineStart = before.find_last_of("\r\n") + 1;
-    throw Failure(fmt::format(
+    throw EncodingFailure(fmt::format(
         "line {}: byte {}, 0x{:02X}, is not UTF-8; --encoding says what the file is in, such as "
         "--encoding windows-1252",
         record.line + CountLineEnds(before), *invalid - lineStart + 1,

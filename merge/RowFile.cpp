@@ -6,6 +6,7 @@
 
 #include "merge/Csv.h"
 #include "merge/DecodingSource.h"
+#include "merge/EncodingFailure.h"
 #include "merge/OutputFailure.h"
 #include "text/Readable.h"
 
@@ -51,7 +52,9 @@ class HeadSource : public ByteSource {
 
 void RowFile::FailNamed(const Failure& failure) const {
     if (dynamic_cast<const OutputFailure*>(&failure) != nullptr) throw;
-    throw Failure(fmt::format("{}: {}", Readable(name), failure.what()));
+    const std::string named = fmt::format("{}: {}", Readable(name), failure.what());
+    if (dynamic_cast<const EncodingFailure*>(&failure) != nullptr) throw EncodingFailure(named);
+    throw Failure(named);
 }
 
 RowFile::RowFile(const std::string& fileName, std::istream& standardInput,

@@ -86,11 +86,12 @@ void CheckKind(const BarcodeType& type, const DrawingOptions& options) {
     if (type.face == nullptr && (options.height || options.barWidthReduction != 0)) {
         throw DrawingFailure(Reason::kNoBars);
     }
-    if (options.hasBearerBars && type.symbology != Symbology::kInterleaved2of5) {
+    if (options.hasBearerBars && !type.MayHaveBearerBars()) {
         throw DrawingFailure(Reason::kNoBearer);
     }
-    const bool isEan = type.trait == Trait::kLargeFirstDigit || type.code == TypeCode::kEan8;
-    if (options.hasMarginMarks && !isEan) throw DrawingFailure(Reason::kNoMarginMarks);
+    if (options.hasMarginMarks && !type.MayHaveMarginMarks()) {
+        throw DrawingFailure(Reason::kNoMarginMarks);
+    }
 }
 
 }  // namespace
@@ -130,6 +131,14 @@ BarcodeDrawing BarcodeDrawing::Make(Fonts& fonts, const BarcodeType& type,
 
 double BarcodeDrawing::FontSize() const {
     return face == nullptr ? 0 : module * face->modulesPerEm;
+}
+
+BarcodeDrawing::TextPlace BarcodeDrawing::PlaceOfText() const {
+    if (face == nullptr) {
+        return {textX, textY, textSize * module, kAscent * textSize * module};
+    }
+    if (glyphs.empty()) return {};
+    return {glyphs.front().x, glyphs.front().y, FontSize(), face->LineHeight() * module};
 }
 
 void BarcodeDrawing::FindModule(const BarcodeType& type, const DrawingOptions& options) {

@@ -1,5 +1,7 @@
 #include "requests/DrawnBarcode.h"
 
+#include <utility>
+
 #include "requests/PrintedText.h"
 
 namespace linewright {
@@ -9,12 +11,16 @@ namespace {
 DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeOutcome& outcome,
                          const BarcodeWish& barcode) {
     const BarcodeType& type = *outcome.type;
-    DrawingOptions options{.xDimension = wish.xDimension,
+    std::optional<double> xDimension = wish.xDimension;
+    if (!xDimension && wish.magnification) {
+        xDimension = type.dimensions.xDimension * *wish.magnification / 100;
+    }
+    DrawingOptions options{.xDimension = xDimension,
                            .dotsPerInch = wish.dotsPerInch,
                            .isFitted = wish.isFitted,
                            .hasBearerBars = wish.hasBearerBars,
                            .hasMarginMarks = wish.hasMarginMarks};
-    const double x = wish.xDimension.value_or(type.dimensions.xDimension);
+    const double x = xDimension.value_or(type.dimensions.xDimension);
     if (wish.height) options.height = wish.height->Points(x);
     if (wish.quietZone) options.quietZone = wish.quietZone->Points(x);
     if (wish.barWidthReduction) {
@@ -29,7 +35,12 @@ DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeOutcome& outcome,
 
 DrawnBarcode DrawBarcode(Service& service, Fonts& fonts, const BarcodeWish& wish,
                          const DrawingWish& drawing) {
-    DrawnBarcode drawn{MakeBarcodeLeniently(service, wish)};
+    return DrawOutcome(fonts, MakeBarcodeLeniently(service, wish), wish, drawing);
+}
+
+DrawnBarcode DrawOutcome(Fonts& fonts, BarcodeOutcome outcome, const BarcodeWish& wish,
+                         const DrawingWish& drawing) {
+    DrawnBarcode drawn{std::move(outcome)};
     if (!drawn.outcome.IsMade()) return drawn;
     std::vector<Warning>& warnings = drawn.outcome.meaning.warnings;
     if (drawn.outcome.type->symbology == Symbology::kText) {

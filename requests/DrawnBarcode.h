@@ -23,4 +23,9 @@ struct DrawnBarcode {
 DrawnBarcode DrawBarcode(Service& service, Fonts& fonts, const BarcodeWish& wish,
                          const DrawingWish& drawing);
 
+/** The second half of it: draws what was made leniently. On any thread, with fonts of its own.
+ *  Throws DrawingFailure. */
+DrawnBarcode DrawOutcome(Fonts& fonts, BarcodeOutcome outcome, const BarcodeWish& wish,
+                         const DrawingWish& drawing);
+
 }  // namespace linewright

@@ -21,6 +21,7 @@
 #include "text/FontText.h"
 #include "types/BarcodeTypes.h"
 #include "words/Words.h"
+#include "workbench/PagePhrases.h"
 #include "workbench/Text.h"
 
 namespace linewright {
@@ -48,18 +49,47 @@ std::string FileContent(const BarcodeDrawing& drawing, const QString& file) {
 }  // namespace
 
 BarcodePage::BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
-                         const QString& locale)
+                         std::function<void(const QString&)> cellsPasted)
     : service(plugIn),
       settings(userSettings),
       fonts(host::PathFromUtf8(fontFolder)),
-      language(locale),
+      offerCells(std::move(cellsPasted)),
       types(plugIn.Types()) {
     MakeFields();
     MakeActions();
     Arrange();
     Restore();
     Connect();
+}
+
+void BarcodePage::Speak(const QString& locale) {
+    language = locale;
+    types = service.Types();
+    {
+        const QSignalBlocker silence(typeBox);
+        for (std::size_t i = 0; i < types.size(); ++i)
+            typeBox->setItemText(static_cast<int>(i), FromUtf8(types[i].displayText));
+    }
+    const auto say = [this](QLabel* label, const Phrase& phrase) {
+        label->setText(Words(phrase));
+        label->buddy()->setAccessibleName(SpokenText(label->text()));
+    };
+    say(typeLabel, phrases::kPageType);
+    say(dataLabel, phrases::kPageData);
+    say(ratioLabel, phrases::kPageRatio);
+    say(zoomLabel, phrases::kPageZoom);
+    checkDigitBox->setText(Words(phrases::kPageCheckDigit));
+    for (std::size_t i = 0; i < kRatios.size(); ++i)
+        ratioBox->setItemText(static_cast<int>(i),
+                              NumberText(kRatios[i], 1, language) + QLatin1String(" : 1"));
+    area->setAccessibleName(Words(phrases::kPageDrawing));
+    copyButton->setText(Words(phrases::kPageCopy));
+    exportButton->setText(Words(phrases::kPageExport));
     ChangeType();
+}
+
+QList<QAction*> BarcodePage::Actions(MenuPlace /*menu*/) const {
+    return {};
 }
 
 void BarcodePage::MakeFields() {
@@ -70,12 +100,11 @@ void BarcodePage::MakeFields() {
     dataBox = new QLineEdit(this);
     dataBox->setObjectName(QStringLiteral("data"));
     dataBox->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    checkDigitBox = new QCheckBox(Words(Phrase::kPageCheckDigit), this);
+    checkDigitBox = new QCheckBox(this);
     checkDigitBox->setObjectName(QStringLiteral("checkDigit"));
     ratioBox = new QComboBox(this);
     ratioBox->setObjectName(QStringLiteral("ratio"));
-    for (const double ratio : kRatios)
-        ratioBox->addItem(NumberText(ratio, 1, language) + QLatin1String(" : 1"));
+    for ([[maybe_unused]] const double ratio : kRatios) ratioBox->addItem(QString());
     message = new QLabel(this);
     message->setObjectName(QStringLiteral("message"));
     message->setWordWrap(true);
@@ -96,46 +125,48 @@ void BarcodePage::MakeActions() {
     zoomSlider->setObjectName(QStringLiteral("zoom"));
     zoomSlider->setRange(1, kLargestZoom);
     zoomSlider->setPageStep(1);
-    copyButton = new QPushButton(Words(Phrase::kPageCopy), this);
+    copyButton = new QPushButton(this);
     copyButton->setObjectName(QStringLiteral("copy"));
-    exportButton = new QPushButton(Words(Phrase::kPageExport), this);
+    exportButton = new QPushButton(this);
     exportButton->setObjectName(QStringLiteral("export"));
 }
 
 void BarcodePage::Arrange() {
     constexpr int kMargin = 16;
     constexpr int kSpacing = 12;
-    const auto labelFor = [this](Phrase phrase, QWidget* named) {
-        auto* const label = new QLabel(Words(phrase), this);
+    const auto labelFor = [this](QWidget* named) {
+        auto* const label = new QLabel(this);
         label->setBuddy(named);
-        named->setAccessibleName(SpokenText(label->text()));
         return label;
     };
+    typeLabel = labelFor(typeBox);
+    dataLabel = labelFor(dataBox);
+    ratioLabel = labelFor(ratioBox);
+    zoomLabel = labelFor(zoomSlider);
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(kSpacing);
     grid->setColumnStretch(1, 1);
-    grid->addWidget(labelFor(Phrase::kPageType, typeBox), 0, 0);
+    grid->addWidget(typeLabel, 0, 0);
     grid->addWidget(typeBox, 0, 1);
-    grid->addWidget(labelFor(Phrase::kPageRatio, ratioBox), 0, 2);
+    grid->addWidget(ratioLabel, 0, 2);
     grid->addWidget(ratioBox, 0, 3);
-    grid->addWidget(labelFor(Phrase::kPageData, dataBox), 1, 0);
+    grid->addWidget(dataLabel, 1, 0);
     grid->addWidget(dataBox, 1, 1);
     grid->addWidget(checkDigitBox, 1, 2, 1, 2);
     grid->addWidget(message, 2, 1, 1, 3);
 
-    auto* const area = new QScrollArea(this);
+    area = new QScrollArea(this);
     area->setObjectName(QStringLiteral("area"));
     area->setWidget(view);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::StrongFocus);
-    area->setAccessibleName(SpokenText(Words(Phrase::kPageDrawing)));
 
     auto* const state = new QHBoxLayout;
     state->setSpacing(kSpacing);
     state->addWidget(badge);
     state->addWidget(fontLabel);
     state->addStretch();
-    state->addWidget(labelFor(Phrase::kPageZoom, zoomSlider));
+    state->addWidget(zoomLabel);
     state->addWidget(zoomSlider);
     auto* const buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -267,18 +298,18 @@ void BarcodePage::ShowBadge(const DrawnBarcode& drawn) {
     const char* colour = "#666666";
     switch (verification.verdict) {
         case Verdict::kScans:
-            badge->setText(Words(Phrase::kScans));
+            badge->setText(Words(phrases::kScans));
             colour = "#1B7F3B";
             break;
         case Verdict::kScansAs:
-            badge->setText(Words(Phrase::kScansAs).arg(FromUtf8(verification.WhatWasRead())));
+            badge->setText(Words(phrases::kScansAs).arg(FromUtf8(verification.WhatWasRead())));
             colour = "#9A5B00";
             break;
         case Verdict::kDoesNotScan:
-            badge->setText(Words(Phrase::kDoesNotScan));
+            badge->setText(Words(phrases::kDoesNotScan));
             colour = "#B01E1E";
             break;
-        case Verdict::kNoScanner: badge->setText(Words(Phrase::kNoScanner)); break;
+        case Verdict::kNoScanner: badge->setText(Words(phrases::kNoScanner)); break;
     }
     badge->setStyleSheet(
         QStringLiteral("background: %1; color: white; padding: 3px 8px; border-radius: 3px;")
@@ -312,7 +343,8 @@ void BarcodePage::AskForExport() {
     if (dialog.exec() != QDialog::Accepted) return;
     const QString file = dialog.selectedFiles().constFirst();
     if (!Export(file))
-        QMessageBox::critical(this, window()->windowTitle(), Words(Phrase::kCannotWrite).arg(file));
+        QMessageBox::critical(this, window()->windowTitle(),
+                              Words(phrases::kCannotWrite).arg(file));
 }
 
 }  // namespace linewright

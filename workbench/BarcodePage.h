@@ -6,9 +6,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSettings>
 #include <QSlider>
 #include <QWidget>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,6 +18,7 @@
 #include "requests/Service.h"
 #include "workbench/BarcodeView.h"
 #include "workbench/Language.h"
+#include "workbench/Page.h"
 
 namespace linewright {
 
@@ -23,15 +26,18 @@ struct DrawnBarcode;
 
 /** The page of the window: data goes in, a barcode is drawn while it is typed, and can be taken
  *  along as text for its font or as a file. */
-class BarcodePage final : public QWidget {
+class BarcodePage final : public Page {
   public:
     /** Service and settings outlive it; the settings keep type and data. `fontFolder` is the
-     *  folder of the barcode fonts, UTF-8. */
+     *  folder of the barcode fonts, UTF-8; `cellsPasted` hears of several cells of
+     *  a spreadsheet. */
     BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
-                const QString& locale);
+                std::function<void(const QString&)> cellsPasted);
 
-    /** Makes the barcode anew, since the preferences may be others. */
-    void Refresh();
+    void Speak(const QString& locale) override;
+
+    void Refresh() override;
+    QList<QAction*> Actions(MenuPlace menu) const override;
     /** Writes the drawing; the ending of the name says how. False when that does not work. */
     bool Export(const QString& name) const;
 
@@ -48,11 +54,12 @@ class BarcodePage final : public QWidget {
     void ShowMessage(const QString& text, bool isRefusal);
     void ShowBadge(const DrawnBarcode& drawn);
     void AskForExport();
-    QString Words(Phrase phrase) const { return Say(phrase, language); }
+    QString Words(const Phrase& phrase) const { return Say(phrase, language); }
 
     Service& service;
     QSettings& settings;
     Fonts fonts;
+    std::function<void(const QString&)> offerCells;
     QString language;
     std::vector<TypeDescription> types;
 
@@ -61,6 +68,11 @@ class BarcodePage final : public QWidget {
     QCheckBox* checkDigitBox;
     QComboBox* ratioBox;
     QLabel* message;
+    QLabel* typeLabel;
+    QLabel* dataLabel;
+    QLabel* ratioLabel;
+    QLabel* zoomLabel;
+    QScrollArea* area;
     BarcodeView* view;
     QLabel* fontLabel;
     QLabel* badge;

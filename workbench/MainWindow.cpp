@@ -1,15 +1,18 @@
 #include "workbench/MainWindow.h"
 
-#include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QMenuBar>
+#include <algorithm>
 
 #include "LocaleSetting.h"
 #include "host/runtime/Host.h"
 #include "host/runtime/Menus.h"
-#include "workbench/Language.h"
+#include "workbench/BarcodePage.h"
+#include "workbench/ListPage.h"
+#include "workbench/MenuPhrases.h"
 #include "workbench/Text.h"
 
 namespace linewright {
@@ -17,6 +20,7 @@ namespace linewright {
 namespace {
 
 constexpr auto kGeometryKey = "window/geometry";
+constexpr auto kPageKey = "window/page";
 
 /** The host's pseudo-locale, for tests; nobody picks it. */
 constexpr QLatin1String kPseudoLocale("qps");
@@ -29,30 +33,68 @@ QString RunningLocale() {
 
 MainWindow::MainWindow(QSettings& userSettings, std::function<void(const QString&)> languageChosen)
     : settings(userSettings), chooseLanguage(std::move(languageChosen)) {
-    constexpr QSize kFirstSize(760, 520);
+    constexpr QSize kFirstSize(900, 600);
     setWindowTitle(QStringLiteral("Linewright"));
     resize(kFirstSize);
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
+    tabs = new QTabWidget(this);
+    tabs->setObjectName(QStringLiteral("pages"));
+    tabs->setDocumentMode(true);
+    setCentralWidget(tabs);
+    connect(tabs, &QTabWidget::currentChanged, this, [this] { ShowPageActions(); });
 }
 
 void MainWindow::ShowPlugIn(Service& service, const QString& fonts) {
-    const QString locale = RunningLocale();
-    AddFileMenu(locale);
-    AddPlugInMenus();
-    AddLanguageMenu(locale);
-    page = new BarcodePage(service, settings, fonts.toStdString(), locale);
-    setCentralWidget(page);
-    page->setFocus();
+    locale = RunningLocale();
+    const bool isFirst = pages.empty();
+    if (isFirst) MakePages(service, fonts);
+    SpeakPages();
+    MakeMenus();
+    tabs->setEnabled(true);
+    if (!isFirst) return;
+    tabs->setCurrentIndex(settings.value(kPageKey, 0).toInt());
+    CurrentPage()->setFocus();
 }
 
 void MainWindow::HidePlugIn() {
     for (QMenu* const menu : menuBar()->findChildren<QMenu*>()) delete menu;
-    page = nullptr;
-    delete takeCentralWidget();
+    tabs->setEnabled(false);
+}
+
+void MainWindow::MakePages(Service& service, const QString& fonts) {
+    AddPage(new BarcodePage(service, settings, fonts.toStdString(),
+                            [this](const QString& cells) { OfferCells(cells); }),
+            phrases::kBarcodePage);
+    AddPage(new ListPage(service, settings, fonts.toStdString(),
+                         (QFileInfo(settings.fileName()).path() + "/Presets").toStdString()),
+            phrases::kListPage);
+}
+
+void MainWindow::AddPage(Page* page, const Phrase& title) {
+    pages.emplace_back(page, title);
+    tabs->addTab(page, QString());
+}
+
+Page* MainWindow::CurrentPage() const {
+    return static_cast<Page*>(tabs->currentWidget());
+}
+
+void MainWindow::OfferCells(const QString& cells) {
+    const auto taker = std::find_if(pages.begin(), pages.end(),
+                                    [&](const auto& page) { return page.first->TakeCells(cells); });
+    if (taker != pages.end()) tabs->setCurrentWidget(taker->first);
+}
+
+void MainWindow::SpeakPages() {
+    for (const auto& [page, title] : pages) {
+        tabs->setTabText(tabs->indexOf(page), Say(title, locale));
+        page->Speak(locale);
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     settings.setValue(kGeometryKey, saveGeometry());
+    settings.setValue(kPageKey, tabs->currentIndex());
     event->accept();
     QApplication::quit();
 }
@@ -60,12 +102,26 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     // Back from a dialog that may have changed the preferences.
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && page) page->Refresh();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !tabs->isEnabled())
+        return;
+    for (const auto& [page, title] : pages) page->Refresh();
 }
 
-void MainWindow::AddFileMenu(const QString& locale) {
-    QMenu* const menu = menuBar()->addMenu(Say(Phrase::kFileMenu, locale));
-    QAction* const quit = menu->addAction(Say(Phrase::kQuit, locale), this, [this] { close(); });
+void MainWindow::MakeMenus() {
+    AddPageMenu(MenuPlace::kFile, phrases::kFileMenu);
+    AddPageMenu(MenuPlace::kEdit, phrases::kEditMenu);
+    AddPageMenu(MenuPlace::kView, phrases::kViewMenu);
+    AddPlugInMenus();
+    AddLanguageMenu();
+    ShowPageActions();
+}
+
+void MainWindow::AddPageMenu(MenuPlace place, const Phrase& title) {
+    QMenu* const menu = menuBar()->addMenu(Say(title, locale));
+    for (const auto& [page, caption] : pages) menu->addActions(page->Actions(place));
+    if (place != MenuPlace::kFile) return;
+    menu->addSeparator();
+    QAction* const quit = menu->addAction(Say(phrases::kQuit, locale), this, [this] { close(); });
     quit->setShortcut(QKeySequence::Quit);
     quit->setMenuRole(QAction::QuitRole);
 }
@@ -81,8 +137,8 @@ void MainWindow::AddPlugInMenus() {
     }
 }
 
-void MainWindow::AddLanguageMenu(const QString& locale) {
-    QMenu* const menu = menuBar()->addMenu(Say(Phrase::kLanguageMenu, locale));
+void MainWindow::AddLanguageMenu() {
+    QMenu* const menu = menuBar()->addMenu(Say(phrases::kLanguageMenu, locale));
     auto* const group = new QActionGroup(menu);
     for (int32 i = 0; i < host::CountLocales(); ++i) {
         const QString name = QString::fromUtf8(host::GetLocaleName(i));
@@ -98,6 +154,15 @@ void MainWindow::AddLanguageMenu(const QString& locale) {
         group, &QActionGroup::triggered, this,
         [this](QAction* action) { chooseLanguage(action->data().toString()); },
         Qt::QueuedConnection);
+}
+
+void MainWindow::ShowPageActions() {
+    const Page* const shown = CurrentPage();
+    for (const auto& [page, title] : pages) {
+        for (const MenuPlace place : {MenuPlace::kFile, MenuPlace::kEdit, MenuPlace::kView}) {
+            for (QAction* const action : page->Actions(place)) action->setVisible(page == shown);
+        }
+    }
 }
 
 }  // namespace linewright

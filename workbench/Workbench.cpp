@@ -7,6 +7,7 @@
 
 #include "words/Words.h"
 #include "workbench/Language.h"
+#include "workbench/MenuPhrases.h"
 
 namespace linewright {
 
@@ -65,7 +66,7 @@ void Workbench::SwitchLanguage(const QString& locale) {
         settings.setValue(kLanguageKey, locale);
     } else {
         QMessageBox::critical(&window, window.windowTitle(),
-                              Say(Phrase::kNoPlugIn, locale) + QLatin1String(":\n") + Error());
+                              Say(phrases::kNoPlugIn, locale) + QLatin1String(":\n") + Error());
     }
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 class PageTest : public WorkbenchTest {
   protected:
-    BarcodePage& Page() { return dynamic_cast<BarcodePage&>(*workbench->Window().centralWidget()); }
+    BarcodePage& Page() { return *workbench->Window().findChild<BarcodePage*>(); }
     template <class View>
     View& Named(const char* name) {
         auto* const view = Page().findChild<View*>(QLatin1String(name));

@@ -1,4 +1,4 @@
-#include "cli/VerdictWords.h"
+#include "scanners/VerdictWords.h"
 
 namespace linewright {
 
