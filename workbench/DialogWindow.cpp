@@ -1,9 +1,9 @@
 #include "workbench/DialogWindow.h"
 
 #include <QCloseEvent>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <algorithm>
 
 #include "workbench/Text.h"
@@ -16,18 +16,25 @@ using host::WidgetPlace;
 
 namespace {
 
-// In pixels
-constexpr int kMargin = 16;
-constexpr int kGroupSpacing = 16;
-constexpr int kColumnSpacing = 12;
-constexpr int kRowSpacing = 8;
-
-bool TakesRoom(const ShownWidget& widget) {
-    return widget.GetKind() == WidgetKind::kDescription;
+QRect RectOf(const LayoutBox& box) {
+    return {box.left, box.top, box.width, box.height};
 }
 
-bool FillsItsColumn(const ShownWidget& widget) {
-    return widget.GetKind() != WidgetKind::kCheckBox && widget.GetKind() != WidgetKind::kLabel;
+/** What a view needs at least. */
+LayoutSize NeededBy(const QWidget& view) {
+    const QSize size = view.sizeHint().expandedTo(view.minimumSize());
+    return {size.width(), size.height()};
+}
+
+LayoutGroup MeasuresOf(const QGroupBox* frame) {
+    if (!frame) return {};
+    const QMargins margins = frame->contentsMargins();
+    return {.isFramed = true,
+            .left = margins.left(),
+            .top = margins.top(),
+            .right = margins.right(),
+            .bottom = margins.bottom(),
+            .minimumWidth = frame->minimumSizeHint().width()};
 }
 
 }  // namespace
@@ -37,10 +44,12 @@ DialogWindow::DialogWindow(host::ShownDialog& shown, QSettings& userSettings, QW
     setObjectName(QStringLiteral("dialog%1").arg(resource));
     setWindowTitle(TextFromHost(shown.GetTitle()));
     setModal(shown.GetType() == IDialog::kMovableModal);
+    MakeFrames();
     MakeControls();
     NameControls();
-    Arrange();
     OrderTabs();
+    Fit();
+    resize(minimumSize());
     shown.SetListener(this);
     restoreGeometry(settings.value(PlaceKey()).toByteArray());
 }
@@ -89,11 +98,26 @@ Control* DialogWindow::ControlOf(const ShownWidget* widget) const {
     return found == controls.end() ? nullptr : found->second.get();
 }
 
+void DialogWindow::MakeFrames() {
+    for (int32 group = 0; group < dialog->CountGroups(); ++group) {
+        const QString title = TextFromHost(dialog->GetGroupTitle(group));
+        frames.push_back(title.isEmpty() ? nullptr : new QGroupBox(title, this));
+        if (frames.back()) frames.back()->installEventFilter(this);
+    }
+}
+
+QWidget* DialogWindow::ParentFor(const ShownWidget& widget) {
+    const int32 group = widget.GetPlace().group;
+    QWidget* const frame =
+        group == WidgetPlace::kButtonRow ? nullptr : frames[static_cast<std::size_t>(group)];
+    return frame ? frame : this;
+}
+
 void DialogWindow::MakeControls() {
     for (int32 i = 0; i < dialog->CountWidgets(); ++i) {
         ShownWidget* const shown = dialog->GetWidget(i);
         if (!shown->IsVisible()) continue;
-        controls.emplace_back(shown, MakeControl(*shown, this));
+        controls.emplace_back(shown, MakeControl(*shown, ParentFor(*shown)));
         controls.back().second->View()->setObjectName(
             QStringLiteral("widget%1").arg(shown->GetID(), 0, 16));
     }
@@ -113,69 +137,56 @@ void DialogWindow::NameControls() {
     }
 }
 
-void DialogWindow::Arrange() {
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    column->setSpacing(kGroupSpacing);
-    for (int32 group = 0; group < dialog->CountGroups(); ++group)
-        column->addLayout(ArrangeGroup(group));
-    column->addLayout(ArrangeButtons());
-    AlignColumns();
-    const bool isSizable = std::any_of(controls.begin(), controls.end(),
-                                       [](const auto& pair) { return TakesRoom(*pair.first); });
-    column->setSizeConstraint(isSizable ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
-    setSizeGripEnabled(isSizable);
-}
-
-QLayout* DialogWindow::ArrangeGroup(int32 group) {
-    auto* const grid = new QGridLayout;
-    grids.push_back(grid);
-    grid->setColumnStretch(1, 1);
-    grid->setHorizontalSpacing(kColumnSpacing);
-    grid->setVerticalSpacing(kRowSpacing);
-    for (const auto& [shown, control] : controls) {
-        const WidgetPlace place = shown->GetPlace();
-        if (place.group != group) continue;
-        const Qt::Alignment alignment =
-            FillsItsColumn(*shown) ? Qt::Alignment() : Qt::AlignLeft | Qt::AlignVCenter;
-        grid->addWidget(control->View(), place.row, place.column, 1, place.spansRow ? 2 : 1,
-                        alignment);
-        if (TakesRoom(*shown)) grid->setRowStretch(place.row, 1);
-    }
-    const QString title = TextFromHost(dialog->GetGroupTitle(group));
-    if (title.isEmpty()) return grid;
-    auto* const frame = new QGroupBox(title, this);
-    frame->setLayout(grid);
-    grid->setContentsMargins(kColumnSpacing, kRowSpacing, kColumnSpacing, kColumnSpacing);
-    auto* const framed = new QVBoxLayout;
-    framed->addWidget(frame);
-    return framed;
-}
-
-QLayout* DialogWindow::ArrangeButtons() {
-    auto* const row = new QHBoxLayout;
-    row->setSpacing(kRowSpacing);
-    bool isStretched = false;
-    for (const auto& [shown, control] : controls) {
-        if (shown->GetPlace().group != WidgetPlace::kButtonRow) continue;
-        // Buttons for more stand on the left, the one that does it and those behind on the right.
-        const bool isFirstOnTheRight = !isStretched && shown == dialog->GetDefaultButton();
-        if (isFirstOnTheRight) row->addStretch();
-        isStretched = isStretched || isFirstOnTheRight;
-        row->addWidget(control->View());
-    }
-    return row;
-}
-
-/** Labels of all groups have one width, so that what they name begins at one line. */
-void DialogWindow::AlignColumns() {
-    int width = 0;
+DialogLayout DialogWindow::LayOutFor(QSize size) const {
+    std::vector<LayoutGroup> groups;
+    groups.reserve(frames.size());
+    for (const QGroupBox* const frame : frames) groups.push_back(MeasuresOf(frame));
+    std::vector<LayoutWidget> widgets;
+    widgets.reserve(controls.size());
     for (const auto& [shown, control] : controls)
-        if (shown->GetKind() == WidgetKind::kLabel && !shown->GetPlace().spansRow)
-            width = std::max(width, control->View()->sizeHint().width());
-    for (QGridLayout* const grid : grids)
-        if (grid->itemAtPosition(0, 1) && !grid->itemAtPosition(0, 1)->isEmpty())
-            grid->setColumnMinimumWidth(0, width);
+        widgets.push_back({shown->GetKind(), shown->GetPlace(), NeededBy(*control->View()),
+                           shown == dialog->GetDefaultButton()});
+    return LayOut(groups, widgets, {size.width(), size.height()});
+}
+
+void DialogWindow::Fit() {
+    if (!dialog) return;
+    const LayoutSize needed = LayOutFor({}).size;
+    const bool isSizable = std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
+        return TakesHeight(pair.first->GetKind());
+    });
+    setMinimumSize(needed.width, needed.height);
+    if (!isSizable) setMaximumSize(minimumSize());
+    setSizeGripEnabled(isSizable);
+    Arrange();
+}
+
+void DialogWindow::Arrange() {
+    if (!dialog) return;
+    const DialogLayout layout = LayOutFor(size());
+    for (std::size_t i = 0; i < frames.size(); ++i)
+        if (frames[i]) frames[i]->setGeometry(RectOf(layout.groups[i]));
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        QWidget* const view = controls[i].second->View();
+        const QWidget* const parent = view->parentWidget();
+        const QPoint origin = parent == this ? QPoint() : parent->pos();
+        view->setGeometry(RectOf(layout.widgets[i]).translated(-origin));
+    }
+}
+
+bool DialogWindow::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) Fit();
+    return QDialog::event(event);
+}
+
+bool DialogWindow::eventFilter(QObject* frame, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) Fit();
+    return QDialog::eventFilter(frame, event);
+}
+
+void DialogWindow::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    Arrange();
 }
 
 void DialogWindow::OrderTabs() {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QDialog>
-#include <QGridLayout>
+#include <QGroupBox>
 #include <QSettings>
 #include <memory>
 #include <utility>
 #include <vector>
 
-#include "host/runtime/ShownDialog.h"
+#include "views/DialogLayout.h"
 #include "workbench/Control.h"
 
 namespace linewright {
@@ -30,26 +30,33 @@ class DialogWindow final : public QDialog, private host::DialogListener {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    // A widget that needs another size asks whatever it stands in.
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* frame, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void WidgetChanged(host::ShownWidget& widget) override;
     void DialogClosed() override;
 
     Control* ControlOf(const host::ShownWidget* widget) const;
+    void MakeFrames();
+    /** The frame of its group, or the window itself. */
+    QWidget* ParentFor(const host::ShownWidget& widget);
     void MakeControls();
     void NameControls();
-    void Arrange();
-    QLayout* ArrangeGroup(int32 group);
-    QLayout* ArrangeButtons();
-    void AlignColumns();
     void OrderTabs();
+    DialogLayout LayOutFor(QSize size) const;
+    /** Gives the window the size that its widgets need, and all of them their places. */
+    void Fit();
+    void Arrange();
     QString PlaceKey() const;
 
     host::ShownDialog* dialog;  // nullptr once the host has closed it
     QSettings& settings;
     RsrcID resource;
     std::vector<std::pair<host::ShownWidget*, std::unique_ptr<Control>>> controls;
-    std::vector<QGridLayout*> grids;
+    std::vector<QGroupBox*> frames;  // by group; nullptr for one without a frame
 };
 
 }  // namespace linewright

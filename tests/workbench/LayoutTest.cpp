@@ -191,6 +191,8 @@ TEST_P(LayoutTest, TheUtilityDialog) {
     TypeData(dialog, "400638133393");
     QTest::keyClick(&At<QLineEdit>(dialog, kData), Qt::Key_Return);
     SavePicture(dialog, "utility");
+    for (const WidgetID id : {kData, kRatio, kResult})
+        EXPECT_EQ(dialog.FindView(id)->geometry().right(), types.geometry().right());
 }
 
 TEST_P(LayoutTest, ThePreferences) {
