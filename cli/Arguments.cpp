@@ -213,8 +213,7 @@ void AddCheck(CLI::App& app, Arguments& arguments) {
         ->type_name("N")
         ->check(CLI::Range(20, 20000).description(""));
     command.add_flag("--json", check.isJson, "Print a JSON object");
-    command
-        .add_option("-o,--output", check.output, "PDF file with the pages and what was found")
+    command.add_option("-o,--output", check.output, "PDF file with the pages and what was found")
         ->check(NamesAFile())
         ->type_name("F");
     AddRowWishes(command, arguments.batch.rows);
@@ -262,13 +261,19 @@ std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error) {
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
-        {"types", Command::kTypes},          {"encode", Command::kEncode},
-        {"stream", Command::kStream},        {"batch", Command::kBatch},
-        {"prefs", Command::kPrefs},          {"prefs set", Command::kPrefsSet},
-        {"dialog", Command::kDialog},        {"draw", Command::kDraw},
-        {"verify", Command::kVerify},        {"proof", Command::kProof},
+        {"types", Command::kTypes},
+        {"encode", Command::kEncode},
+        {"stream", Command::kStream},
+        {"batch", Command::kBatch},
+        {"prefs", Command::kPrefs},
+        {"prefs set", Command::kPrefsSet},
+        {"dialog", Command::kDialog},
+        {"draw", Command::kDraw},
+        {"verify", Command::kVerify},
+        {"proof", Command::kProof},
         {"check", Command::kCheck},
-        {"fonts list", Command::kFontsList}, {"fonts install", Command::kFontsInstall},
+        {"fonts list", Command::kFontsList},
+        {"fonts install", Command::kFontsInstall},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
     const auto parts = chosen.get_subcommands();
