@@ -250,6 +250,11 @@ Nominal MatchMsi(Widths widths, std::string& digits) {
         bits += isOne ? '1' : '0';
         nominal.insert(nominal.end(), {isOne ? 2 : 1, isOne ? 1 : 2});
     }
+    // What stands in the quiet zone can look like one more pair.
+    while (bits.size() > 6 && (bits.size() % 4 != 2 || bits.back() != '0')) {
+        bits.pop_back();
+        nominal.resize(nominal.size() - 2);
+    }
     if (bits.size() < 6 || bits.size() % 4 != 2 || bits.front() != '1' || bits.back() != '0') {
         return std::nullopt;
     }
