@@ -49,9 +49,13 @@ class Build:
         cache = (folder / "CMakeCache.txt").read_text(encoding="utf-8")
         self.root = Path(re.search(r"^CMAKE_HOME_DIRECTORY:INTERNAL=(.*)$", cache, re.MULTILINE)[1]).resolve()
         text = (folder / "build.ninja").read_text(encoding="utf-8").replace("$\n", "")
-        self.inputs = {output: inputs.split(" || ")[0].replace("| ", "").split()
-                       for outputs, inputs in re.findall(r"^build ([^:\n]+): \S+(.*)$", text, re.MULTILINE)
-                       for output in outputs.replace("| ", "").split()}
+        self.inputs: dict[str, list[str]] = {}
+        self.archives = set()
+        for outputs, rule, inputs in re.findall(r"^build ([^:\n]+): (\S+)(.*)$", text, re.MULTILINE):
+            for output in outputs.replace("| ", "").split():
+                self.inputs[output] = inputs.split(" || ")[0].replace("| ", "").split()
+                if "STATIC_LIBRARY" in rule:  # and no import library
+                    self.archives.add(output)
         self.headers: dict[str, set[Path]] = {}
         for block in run("ninja", "-C", folder, "-t", "deps").split("\n\n"):
             lines = block.splitlines()
@@ -67,7 +71,7 @@ class Build:
         """The objects of a file, those of its static libraries too."""
         if file in self.headers:
             return {file}
-        return {each for name in self.inputs[file] if name.endswith((".o", ".obj", ".a")) and not name.endswith(".dll.a")
+        return {each for name in self.inputs[file] if name in self.headers or name in self.archives
                 for each in self.objects(name)}
 
     def compiled_from(self, file: str) -> set[Path]:
@@ -138,8 +142,10 @@ def version(source: str) -> str:
 
 
 def table_of(title: str, rows: dict[str, set[str]]) -> str:
-    lines = "".join(f"| {source} {version(source)} | {licence(source)} | {', '.join(f'`{each}`' for each in sorted(files))} |\n"
-                    for source, files in sorted(rows.items()))
+    lines = ""
+    for source, files in sorted(rows.items()):
+        names = ", ".join(f"`{name}`" for name in sorted(files))
+        lines += f"| {source} {version(source)} | {licence(source)} | {names} |\n"
     return f"| {title} | Licence | Files |\n|---|---|---|\n{lines}"
 
 
