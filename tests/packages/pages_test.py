@@ -79,7 +79,8 @@ class PagesTest(unittest.TestCase):
             page = gzip.decompress((PAGES / f"{name}.1.gz").read_bytes()).decode()
             text = re.sub(r"\\f.|\\&", "", page).replace("\\-", "-")
             if words:
-                part, = re.findall(rf"^\.SS {' '.join((name, *words))}\n(.*?)(?=^\.S|\Z)", text, re.MULTILINE | re.DOTALL)
+                part, = re.findall(rf"^\.SS {' '.join((name, *words))}\n(.*?)(?=^\.S|\Z)", text,
+                                   re.MULTILINE | re.DOTALL)
             else:
                 part = re.search(r"^\.SH OPTIONS\n(.*?)(?=^\.SH|\Z)", text, re.MULTILINE | re.DOTALL)[1]
             written = {option for row in re.findall(r"^\.TP\n(-.*)", part, re.MULTILINE)
