@@ -27,6 +27,7 @@ void PrintVerification(const Verification& verification, std::ostream& out) {
                             : "reads nothing";
         out << fmt::format("  {:9}  {}\n", reading.scanner, found);
     }
+    if (verification.readings.size() == 1) out << "  one scanner looked\n";
 }
 
 /** At the pixels a module that a person's picture will have, or a usual number. */

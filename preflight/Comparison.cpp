@@ -43,10 +43,19 @@ std::string LineText(std::uint64_t line) {
     return std::to_string(line);
 }
 
+/** What a reader says of a row's symbol: of Intelligent Mail, whose digits are in the bars in a way
+ *  of their own, the bars. */
+const std::string& TextIn(const ExpectedSymbol& row) {
+    const bool areBars = row.type->symbology == Symbology::kIntelligentMail;
+    return areBars ? row.meaning.barsSay : row.meaning.carried;
+}
+
 bool Says(const FoundSymbol& symbol, const ExpectedSymbol& row) {
-    if (symbol.symbology != row.type->symbology || !IsMeant(symbol.reading, row.meaning)) {
-        return false;
+    if (symbol.symbology != row.type->symbology) return false;
+    if (symbol.symbology == Symbology::kIntelligentMail) {
+        return symbol.reading.data == TextIn(row);
     }
+    if (!IsMeant(symbol.reading, row.meaning)) return false;
     const bool isUpcE =
         row.type->code == TypeCode::kUpcE || row.type->code == TypeCode::kClassicUpcE;
     return row.type->symbology != Symbology::kEanUpc ||
@@ -68,7 +77,7 @@ class Comparer {
     Comparer(std::vector<FoundSymbol>& foundSymbols, std::vector<ExpectedSymbol>& expectedSymbols)
         : symbols(foundSymbols), rows(expectedSymbols) {
         for (std::size_t row = 0; row < rows.size(); ++row) {
-            rowsOf[rows[row].meaning.carried].push_back(row);
+            rowsOf[TextIn(rows[row])].push_back(row);
         }
     }
 
@@ -112,7 +121,7 @@ class Comparer {
             for (ExpectedSymbol& row : rows) {
                 if (row.isFound || row.page.value_or(symbol.page) != symbol.page) continue;
                 const bool isSame = row.type->symbology == symbol.symbology;
-                const double likeness = Likeness(row.meaning.carried, symbol.reading.data);
+                const double likeness = Likeness(TextIn(row), symbol.reading.data);
                 if (likeness < most || (!isSame && likeness < 1)) continue;
                 most = likeness;
                 nearest = &row;
@@ -124,7 +133,7 @@ class Comparer {
             nearest->isFound = true;
             symbol.line = nearest->line;
             const bool isOtherSymbology = nearest->type->symbology != symbol.symbology ||
-                                          nearest->meaning.carried == symbol.reading.data;
+                                          TextIn(*nearest) == symbol.reading.data;
             symbol.faults.push_back(
                 {isOtherSymbology && nearest->meaning.addOn == symbol.reading.addOn
                      ? Fault::Kind::kOtherSymbology

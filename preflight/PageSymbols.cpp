@@ -163,11 +163,26 @@ class PageReader {
         }
     }
 
+    /** The bars of a symbol and of its add-on, which is not half as wide. */
+    static Area WithAddOn(const FoundSymbol& symbol) {
+        Area area = symbol.area;
+        if (symbol.reading.addOn.empty()) return area;
+        const bool isUpright = symbol.degrees % 180 != 0;
+        const double reach = 0.7 * (isUpright ? area.Height() : area.Width());
+        switch (symbol.degrees) {
+            case 0: area.right += reach; break;
+            case 90: area.bottom += reach; break;
+            case 180: area.left -= reach; break;
+            default: area.top -= reach; break;
+        }
+        return area;
+    }
+
     /** The symbol that takes up most of an area, or lies in it. */
     FoundSymbol* SymbolAt(const Area& area) {
         const auto sizeOf = [](const Area& each) { return each.Width() * each.Height(); };
         for (FoundSymbol& symbol : symbols) {
-            const Area common = Common(symbol.area, area);
+            const Area common = Common(WithAddOn(symbol), area);
             if (!common.IsEmpty() &&
                 sizeOf(common) >= 0.4 * std::min(sizeOf(area), sizeOf(symbol.area))) {
                 return &symbol;

@@ -128,7 +128,7 @@ class PdfDocument : public Document {
         const double height = std::ceil(size.height);
         const double side = std::max({kDrawnSide, width, height});
         const std::string points = fmt::format("{:.0f}", side);
-        const std::string svg = Run({"pdftocairo", "-svg", "-cropbox", "-expand", "-paperw",
+        const std::string svg = Run({"pdftocairo", "-svg", "-expand", "-paperw",
                                      points, "-paperh", points},
                                     number, {name, "-"});
         if (svg.empty()) return std::nullopt;

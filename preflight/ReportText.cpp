@@ -34,13 +34,13 @@ std::string PaintWords(const FoundSymbol& symbol) {
 std::string GradeWords(const GradeParts& parts) {
     std::string words = fmt::format("contrast {:.0f} %", 100 * parts.symbolContrast);
     if (parts.decodability) {
-        words = fmt::format(
-            "grade {:.1f}: {}, edge contrast {:.0f} %, modulation {:.0f} %, defects {:.0f} %, "
-            "decodability {:.0f} %",
+        return fmt::format(
+            "grade {:.1f} estimated from the document: {}, edges {:.0f} %, modulation {:.0f} %, "
+            "defects {:.0f} %, decodability {:.0f} %",
             parts.grade, words, 100 * parts.edgeContrast, 100 * parts.modulation,
             100 * parts.defects, 100 * *parts.decodability);
     }
-    return words + ", estimated from the document";
+    return words + " estimated from the document";
 }
 
 }  // namespace

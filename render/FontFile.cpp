@@ -74,7 +74,7 @@ void FontFile::Face::Load(unsigned int glyph) const {
 FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing)
     : face(std::make_unique<Face>()) {
     const std::lock_guard lock(LibraryMutex());
-    if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &face->file) != 0) {
+    if (OpenFace(path, face->file) != 0) {
         throw DrawingFailure(missing);
     }
 }

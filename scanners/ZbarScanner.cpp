@@ -71,7 +71,7 @@ Scanner ScannerFor(const std::vector<ScannerTask>& tasks, int rowDistance) {
 /** Has the scanner look at a picture, which outlives what it finds. */
 Image ScannedImage(const Scanner& scanner, const GreyRaster& picture) {
     Image image(zbar::zbar_image_create(), zbar::zbar_image_destroy);
-    constexpr unsigned long kGrey = 'Y' | '8' << 8 | '0' << 16 | '0' << 24;
+    constexpr auto kGrey = static_cast<unsigned long>('Y' | '8' << 8 | '0' << 16 | '0' << 24);
     zbar::zbar_image_set_format(image.get(), kGrey);
     zbar::zbar_image_set_size(image.get(), static_cast<unsigned>(picture.width),
                               static_cast<unsigned>(picture.height));

@@ -4,7 +4,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QResizeEvent>
+#include <QScreen>
 #include <algorithm>
+#include <utility>
 
 #include "workbench/Text.h"
 
@@ -39,11 +41,27 @@ LayoutGroup MeasuresOf(const QGroupBox* frame) {
 
 }  // namespace
 
-DialogWindow::DialogWindow(host::ShownDialog& shown, QSettings& userSettings, QWidget* parent)
-    : QDialog(parent), dialog(&shown), settings(userSettings), resource(shown.GetResourceID()) {
+DialogWindow::DialogWindow(host::ShownDialog& shown, QSettings& userSettings,
+                           std::function<void(const QString&)> cellsPasted, QWidget* parent)
+    : QDialog(parent),
+      dialog(&shown),
+      settings(userSettings),
+      resource(shown.GetResourceID()),
+      hooks{.used = [this] { SetStale(true); },
+            .pressed =
+                [this](const ShownWidget& button) {
+                    // What it does is to make the result anew.
+                    if (dialog != nullptr && &button == dialog->GetDefaultButton()) SetStale(false);
+                },
+            .said = [this](const QString& sentence) { notice->setText(sentence); },
+            .cellsPasted = std::move(cellsPasted)} {
     setObjectName(QStringLiteral("dialog%1").arg(resource));
     setWindowTitle(TextFromHost(shown.GetTitle()));
     setModal(shown.GetType() == IDialog::kMovableModal);
+    notice = new QLabel(this);
+    notice->setObjectName(QStringLiteral("notice"));
+    notice->setTextFormat(Qt::PlainText);
+    notice->hide();
     MakeFrames();
     MakeControls();
     NameControls();
@@ -52,6 +70,7 @@ DialogWindow::DialogWindow(host::ShownDialog& shown, QSettings& userSettings, QW
     resize(minimumSize());
     shown.SetListener(this);
     restoreGeometry(settings.value(PlaceKey()).toByteArray());
+    KeepOnScreen();
 }
 
 DialogWindow::~DialogWindow() {
@@ -117,7 +136,8 @@ void DialogWindow::MakeControls() {
     for (int32 i = 0; i < dialog->CountWidgets(); ++i) {
         ShownWidget* const shown = dialog->GetWidget(i);
         if (!shown->IsVisible()) continue;
-        controls.emplace_back(shown, MakeControl(*shown, ParentFor(*shown)));
+        controls.emplace_back(shown,
+                              MakeControl(*shown, ParentFor(*shown), hooks, RunningLocale()));
         controls.back().second->View()->setObjectName(
             QStringLiteral("widget%1").arg(shown->GetID(), 0, 16));
     }
@@ -134,6 +154,8 @@ void DialogWindow::NameControls() {
         if (!labelled) continue;
         static_cast<QLabel*>(control->View())->setBuddy(labelled->View());
         labelled->View()->setAccessibleName(SpokenText(caption));
+        if (QWidget* const inner = labelled->View()->focusProxy())
+            inner->setAccessibleName(SpokenText(caption));
     }
 }
 
@@ -149,13 +171,21 @@ DialogLayout DialogWindow::LayOutFor(QSize size) const {
     return LayOut(groups, widgets, {size.width(), size.height()});
 }
 
+/** Where something can be typed, what is said of it has a line below all else. */
+int DialogWindow::NoticeHeight() const {
+    const bool hasBoxes = std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
+        return pair.first->GetKind() == WidgetKind::kEditBox;
+    });
+    return hasBoxes ? 3 * notice->fontMetrics().height() / 2 : 0;
+}
+
 void DialogWindow::Fit() {
     if (!dialog) return;
     const LayoutSize needed = LayOutFor({}).size;
     const bool isSizable = std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
         return TakesHeight(pair.first->GetKind());
     });
-    setMinimumSize(needed.width, needed.height);
+    setMinimumSize(needed.width, needed.height + NoticeHeight());
     if (!isSizable) setMaximumSize(minimumSize());
     setSizeGripEnabled(isSizable);
     Arrange();
@@ -163,7 +193,11 @@ void DialogWindow::Fit() {
 
 void DialogWindow::Arrange() {
     if (!dialog) return;
-    const DialogLayout layout = LayOutFor(size());
+    const int noticeHeight = NoticeHeight();
+    const DialogLayout layout = LayOutFor(size() - QSize(0, noticeHeight));
+    notice->setVisible(noticeHeight > 0);
+    notice->setGeometry(noticeHeight / 2, height() - noticeHeight, width() - noticeHeight,
+                        noticeHeight);
     for (std::size_t i = 0; i < frames.size(); ++i)
         if (frames[i]) frames[i]->setGeometry(RectOf(layout.groups[i]));
     for (std::size_t i = 0; i < controls.size(); ++i) {
@@ -195,10 +229,67 @@ void DialogWindow::OrderTabs() {
         if (last) setTabOrder(last, control->View());
         last = control->View();
     }
-    const auto first = std::find_if(controls.begin(), controls.end(), [](const auto& pair) {
-        return pair.second->View()->focusPolicy() != Qt::NoFocus;
-    });
-    if (first != controls.end()) first->second->View()->setFocus();
+    FocusFirst();
+}
+
+void DialogWindow::FocusFirst() {
+    const auto find = [this](auto test) {
+        const auto found = std::find_if(controls.begin(), controls.end(), test);
+        return found == controls.end() ? nullptr : found->second->View();
+    };
+    QWidget* first =
+        find([](const auto& pair) { return pair.first->GetKind() == WidgetKind::kEditBox; });
+    if (first == nullptr) {
+        first = find(
+            [](const auto& pair) { return pair.second->View()->focusPolicy() != Qt::NoFocus; });
+    }
+    if (first != nullptr) first->setFocus();
+}
+
+void DialogWindow::SetStale(bool isStale) {
+    for (const auto& [shown, control] : controls) control->SetStale(isStale);
+}
+
+/** A window that was placed on a larger screen comes back to this one, and a new one fits it. */
+void DialogWindow::KeepOnScreen() {
+    constexpr QSize kUsualSize(660, 620);
+    const QRect room = screen()->availableGeometry();
+    const bool isPlaced = settings.contains(PlaceKey());
+    if (isSizeGripEnabled()) resize((isPlaced ? size() : kUsualSize).boundedTo(room.size()));
+    if (isPlaced && !room.contains(geometry())) {
+        move(std::clamp(x(), room.left(), std::max(room.left(), room.right() - width())),
+             std::clamp(y(), room.top(), std::max(room.top(), room.bottom() - height())));
+    }
+}
+
+QVariantMap DialogWindow::Content() const {
+    QVariantMap content;
+    for (const auto& [shown, control] : controls) {
+        const QString id = QString::number(shown->GetID());
+        switch (shown->GetKind()) {
+            case WidgetKind::kEditBox: content[id] = TextFromHost(shown->GetText()); break;
+            case WidgetKind::kCheckBox: content[id] = shown->GetState() != 0; break;
+            case WidgetKind::kPopUp: content[id] = shown->GetSelected(); break;
+            case WidgetKind::kResultBox: content[id] = control->FreshResult(); break;
+            default: break;
+        }
+    }
+    return content;
+}
+
+void DialogWindow::SetContent(const QVariantMap& content) {
+    // In tab order: a type brings its options along.
+    for (const auto& [shown, control] : controls) {
+        const QVariant value = content.value(QString::number(shown->GetID()));
+        if (!value.isValid()) continue;
+        switch (shown->GetKind()) {
+            case WidgetKind::kEditBox: shown->Type(TextForHost(value.toString())); break;
+            case WidgetKind::kCheckBox: shown->Tick(value.toBool()); break;
+            case WidgetKind::kPopUp: shown->Choose(value.toInt()); break;
+            case WidgetKind::kResultBox: control->ShowResult(value.toString()); break;
+            default: break;
+        }
+    }
 }
 
 QString DialogWindow::PlaceKey() const {

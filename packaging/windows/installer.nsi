@@ -62,9 +62,14 @@ VIAddVersionKey "LegalCopyright" "Linewright"
   System::Call 'gdi32::AddFontResourceW(w "${FONT_FOLDER}\${FILE}")'
 !macroend
 
-!macro RemoveFont FILE FAMILY
+; In three steps: the second is the one whose errors count.
+!macro ReleaseFont FILE FAMILY
   System::Call 'gdi32::RemoveFontResourceW(w "${FONT_FOLDER}\${FILE}")'
+!macroend
+!macro DeleteFont FILE FAMILY
   Delete "${FONT_FOLDER}\${FILE}"
+!macroend
+!macro ForgetFont FILE FAMILY
   DeleteRegValue HKCU "${FONTS}" "${FAMILY} (TrueType)"
 !macroend
 
@@ -116,12 +121,15 @@ SectionEnd
 ; Takes away what was installed and nothing that anybody else put there.
 Section "Uninstall"
   SetOutPath "$TEMP"
+  !insertmacro EachFont ReleaseFont
   ClearErrors
   !insertmacro RemoveFiles
-  !insertmacro EachFont RemoveFont
+  !insertmacro EachFont DeleteFont
   ${If} ${Errors}
     !insertmacro Stop "${IN_USE}"
   ${EndIf}
+  !insertmacro EachFont ForgetFont
+  RMDir "${FONT_FOLDER}"
   !insertmacro AnnounceFonts
   !insertmacro ChangePath remove
   Delete "${SHORTCUT}"

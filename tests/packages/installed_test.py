@@ -63,6 +63,8 @@ class PackageTest(unittest.TestCase):
         before = bare.files()
         install("linewright", "fonts-linewright", tools=("libstdc++6",))
         self.assertEqual(bare.run("linewright", "encode", "ean13", "400638133393"), ENCODED)
+        lost = subprocess.run(["chroot", bare.folder, "linewright", "types"], capture_output=True, text=True)
+        self.assertEqual((lost.returncode, lost.stderr), (2, "linewright: the system does not say where this program lies\n"))
         refused = bare.attempt("linewright", "draw", "ean13", "400638133393", "-o", "pen.pdf")
         self.assertEqual(refused.returncode, 2)
         self.assertIn("Drawing.so", refused.stderr)
