@@ -93,8 +93,8 @@ class Comparer {
                 row.isFound = true;
                 symbol.line = row.line;
                 if (!isOnPage) {
-                    symbol.faults.push_back({Fault::Kind::kWrongPage,
-                                             {std::to_string(*row.page), LineText(row.line)}});
+                    symbol.faults.push_back(
+                        {Fault::Kind::kWrongPage, {std::to_string(*row.page), LineText(row.line)}});
                 }
                 break;
             }
@@ -104,7 +104,7 @@ class Comparer {
     /** What was found once too often. */
     void FindDoubles() {
         for (FoundSymbol& symbol : symbols) {
-            if (symbol.line || !symbol.reading.isFound) continue;
+            if (symbol.line || symbol.isDoubtful || !symbol.reading.isFound) continue;
             const auto saying = RowsSaying(symbol);
             if (saying.empty()) continue;
             symbol.line = rows[saying.front()].line;
@@ -194,8 +194,8 @@ Expectations ExpectationsOf(Service& service, const std::string& name, std::istr
             continue;
         }
         if (wanted.titleColumn) {
-            row.page = file.Named(
-                [&] { return PageIn(file.Columns().TitleOf(record), record.line); });
+            row.page =
+                file.Named([&] { return PageIn(file.Columns().TitleOf(record), record.line); });
         }
         if (row.type->symbology != Symbology::kText) expected.symbols.push_back(std::move(row));
     }
@@ -213,9 +213,9 @@ std::vector<Fault> Compare(std::vector<FoundSymbol>& symbols, Expectations& expe
     for (const ExpectedSymbol& row : expected.symbols) {
         // Of one page alone nobody can say what the others hold.
         if (row.isFound || (page && row.page != page)) continue;
-        faults.push_back({Fault::Kind::kMissing,
-                          {LineText(row.line), std::string(row.type->shortName),
-                           Comparer::WhatItMeans(row)}});
+        faults.push_back(
+            {Fault::Kind::kMissing,
+             {LineText(row.line), std::string(row.type->shortName), Comparer::WhatItMeans(row)}});
     }
     faults.insert(faults.end(), expected.refused.begin(), expected.refused.end());
     return faults;

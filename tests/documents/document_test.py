@@ -27,9 +27,9 @@ ROWS = 1000 if IS_LONG else 100
 
 RESOLUTION = 400
 MILLIMETRE = RESOLUTION / 25.4
-# The sheet a4-3x8: 24 labels of 70 mm x 37 mm in the middle of a page.
-SHEET, COLUMNS, OF_PAGE = "a4-3x8", 3, 24
-LEFT, TOP, WIDTH, HEIGHT = 0, 0.5, 70, 37
+# Where the labels of a sheet are, in mm.
+SHEET, COLUMNS, OF_PAGE = "a4-2x7", 2, 14
+LEFT, TOP, WIDTH, HEIGHT, PITCH = 4.65, 15.15, 99.1, 38.1, 101.6
 
 LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
 DIGITS = "0123456789"
@@ -51,7 +51,7 @@ def some(rng, letters, *lengths):
 
 
 def data_for(rng, short_name):
-    """Random data that the type takes and a label of 67 mm has room for."""
+    """Random data that the type takes and a label of 96 mm has room for."""
     if short_name == "classic-code128a":
         return some(rng, LETTERS + DIGITS + "\x01\x02\x1b\x1f\x0b", 5, 8)
     if short_name == "classic-code128b":
@@ -69,7 +69,7 @@ def data_for(rng, short_name):
 
 
 def local(tag):
-    return tag.rsplit("}", 1)[1]
+    return tag.rsplit("}", 1)[-1]
 
 
 def text_of(paragraph):
@@ -232,7 +232,7 @@ class DocumentTest(unittest.TestCase):
         table = io.StringIO()
         for number, row in enumerate(self.rows):
             place = number % OF_PAGE
-            box = (LEFT + place % COLUMNS * WIDTH, TOP + place // COLUMNS * HEIGHT, WIDTH, HEIGHT)
+            box = (LEFT + place % COLUMNS * PITCH, TOP + place // COLUMNS * HEIGHT, WIDTH, HEIGHT)
             type_name = self.type_names()[row["type"]]
             cells = [type_name, row["data"].encode().hex(), row["barcode"], files[number // OF_PAGE],
                      *(round(length * MILLIMETRE) for length in box)]
