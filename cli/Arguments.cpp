@@ -255,6 +255,13 @@ void AddFonts(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright fonts install");
 }
 
+void AddResources(CLI::App& app) {
+    CLI::App& command = *app.add_subcommand(
+        "resources", "Describe the plug-in for the resource files of another host");
+    command.add_flag("--json")->description("Print a JSON object")->required();
+    command.footer("Example:  linewright resources --json");
+}
+
 /** The command that the words name, or as much of it as they do. */
 const CLI::App& Chosen(const CLI::App& app) {
     const auto parts = app.get_subcommands();
@@ -299,6 +306,7 @@ Arguments::Command CommandOf(const CLI::App& app) {
         {"fonts list", Command::kFontsList},
         {"fonts install", Command::kFontsInstall},
         {"document", Command::kDocument},
+        {"resources", Command::kResources},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
     const auto parts = chosen.get_subcommands();
@@ -334,6 +342,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddDocument(app, *result);
     AddCheck(app, *result);
     AddFonts(app, *result);
+    AddResources(app);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
         "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");

@@ -31,6 +31,7 @@ struct Arguments {
         kCheck,
         kFontsList,
         kFontsInstall,
+        kResources,
     };
 
     Command command = Command::kTypes;

@@ -19,6 +19,7 @@
 #include "presets/Preset.h"
 #include "stream/AnswerLines.h"
 #include "text/Readable.h"
+#include "views/ResourceDescription.h"
 
 namespace linewright {
 
@@ -54,6 +55,11 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
                        ? RunFontsListJson(arguments.draw.drawing.xDimension, console)
                        : RunFontsList(arguments.fonts, console);
         case Arguments::Command::kFontsInstall: return RunFontsInstall(arguments.fonts, console);
+        case Arguments::Command::kResources:
+            console.out << DescribeResources(host::PathFromUtf8(arguments.host.plugin),
+                                             LINEWRIGHT_VERSION)
+                        << '\n';
+            return kDone;
         case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }
     return kTrouble;

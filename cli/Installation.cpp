@@ -1,13 +1,17 @@
 #include "cli/Installation.h"
 
 #include "cli/Platform.h"
+#include "merge/Failure.h"
 
 namespace linewright {
 
 namespace {
 
 std::filesystem::path FromProgram(std::string_view place) {
-    return (ProgramFolder() / place).lexically_normal();
+    const std::filesystem::path folder = ProgramFolder();
+    // Else it would be sought below the current folder, which anybody may have filled.
+    if (folder.empty()) throw Failure("the system does not say where this program lies");
+    return (folder / place).lexically_normal();
 }
 
 }  // namespace

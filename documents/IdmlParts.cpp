@@ -27,12 +27,8 @@ pugi::xml_node Root(pugi::xml_document& document, const char* name) {
 pugi::xml_node AddTyped(pugi::xml_node parent, const char* name, const char* type,
                         const std::string& value) {
     pugi::xml_node element = AddText(parent, name, value);
-    element.append_attribute("type").set_value(type);
+    AddAttribute(element, "type", type);
     return element;
-}
-
-void AddCopies(pugi::xml_node parent, const pugi::xml_document& part) {
-    for (const pugi::xml_node& child : part.children()) parent.append_copy(child);
 }
 
 std::string ContainerXml() {
@@ -139,8 +135,8 @@ void IdmlParts::EndPage() {
 }
 
 void IdmlParts::AddPath(pugi::xml_node item, const LabelBox& box) const {
-    item.append_attribute("ItemLayer").set_value(kLayer);
-    item.append_attribute("ItemTransform").set_value(Transform(box.left, box.top).c_str());
+    AddAttribute(item, "ItemLayer", kLayer);
+    AddAttribute(item, "ItemTransform", Transform(box.left, box.top));
     pugi::xml_node properties = AddElement(item, "Properties");
     pugi::xml_node points = AddElement(AddElement(AddElement(properties, "PathGeometry"),
                                                   "GeometryPathType", {{"PathOpen", "false"}}),
@@ -172,8 +168,7 @@ void IdmlParts::AddFrame(const LabelBox& box, double firstBaseline,
                {{"TextColumnCount", "1"},
                 {"FirstBaselineOffset", "FixedHeight"},
                 {"MinimumFirstBaselineOffset", Number(firstBaseline)},
-                {"VerticalJustification", "TopAlign"},
-                {"AutoSizingType", "Off"}});
+                {"VerticalJustification", "TopAlign"}});
 
     pugi::xml_document file;
     pugi::xml_node text = AddElement(Root(file, "idPkg:Story"), "Story",
@@ -236,7 +231,6 @@ void IdmlParts::AddStyle(const ParagraphStyle& style) {
                     {"AppliedLanguage", "$ID/[No Language]"},
                     {"Hyphenation", "false"},
                     {"NoBreak", "true"},
-                    {"KerningMethod", "$ID/None"},
                     {"Ligatures", "false"},
                     {"Tracking", "0"},
                     {"SpaceBefore", "0"},
@@ -285,11 +279,9 @@ std::string IdmlParts::Package(const std::string& title) {
     };
     pugi::xml_document map;
     Declare(map);
-    pugi::xml_node instruction = map.append_child(pugi::node_pi);
-    instruction.set_name("aid");
-    instruction.set_value(
-        "style=\"50\" type=\"document\" readerVersion=\"6.0\" featureSet=\"257\" "
-        "product=\"7.0(1)\"");
+    AddInstruction(map, "aid",
+                   "style=\"50\" type=\"document\" readerVersion=\"6.0\" featureSet=\"257\" "
+                   "product=\"7.0(1)\"");
     pugi::xml_node document = AddElement(map, "Document",
                                          {{"xmlns:idPkg", kNamespace},
                                           {"DOMVersion", kVersion},

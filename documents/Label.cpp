@@ -24,10 +24,6 @@ LabelBox InnerBox(const Layout& layout) {
             layout.sheet.labelHeight - 2 * padding};
 }
 
-bool HasTextBeside(const Layout& layout) {
-    return layout.isBeside && layout.lines.size() > 1;
-}
-
 /** What the symbol and the text above and below or beside it take. */
 struct Measures {
     double symbolWidth = 0;
@@ -138,14 +134,17 @@ class Composer {
     std::string Fitted(const std::string& text, std::size_t line, double width) {
         const LabelLine& style = layout.lines[line];
         const auto face = fonts.Text({layout.textFamily, style.isBold});
-        const std::string fitted = face->Fitted(text, style.size, width);
+        const double room = width * kCertain;
+        std::string fitted = face->Fitted(text, style.size, room);
         if (fitted != text) {
-            const double excess = face->Set(text.substr(0, kMeasured), style.size).width - width;
-            warnings.push_back({DrawingWarning::Kind::kTextCut, {text, Millimetres(excess)}});
+            const double excess = face->Set(text.substr(0, kMeasured), style.size).width - room;
+            warnings.push_back({DrawingWarning::Kind::kTextCut, {fitted, Millimetres(excess)}});
         }
         return fitted;
     }
 
+    /** Programs do not measure text alike; what is wider would be broken by some. */
+    static constexpr double kCertain = 0.985;
     /** As many bytes of a text say how wide it is. */
     static constexpr std::size_t kMeasured = 20000;
 
@@ -159,6 +158,10 @@ class Composer {
 };
 
 }  // namespace
+
+bool HasTextBeside(const Layout& layout) {
+    return layout.isBeside && layout.lines.size() > 1;
+}
 
 LabelBox TextColumn(const Layout& layout) {
     LabelBox column = InnerBox(layout);

@@ -45,7 +45,9 @@ struct Label {
     std::vector<LabelText> texts;
 };
 
-/** The side of the label on which a layout's lines stand that are not the barcode. */
+/** Whether lines stand beside the barcode. */
+bool HasTextBeside(const Layout& layout);
+/** Where on a label a layout's lines stand that are not the barcode. */
 LabelBox TextColumn(const Layout& layout);
 
 /** A label and what was cut on it. */

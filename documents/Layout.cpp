@@ -74,9 +74,9 @@ Layout LayoutOn(const LabelSheet& sheet) {
 std::vector<LabelLine> UsualLines(const std::string& titleColumn,
                                   const std::vector<std::string>& otherColumns) {
     using Content = LabelLine::Content;
-    constexpr double kTitleSize = 9;
-    constexpr double kReadableSize = 8;
-    constexpr double kOtherSize = 7;
+    constexpr double kTitleSize = 8.5;
+    constexpr double kReadableSize = 7.5;
+    constexpr double kOtherSize = 6.5;
     std::vector<LabelLine> lines;
     if (!titleColumn.empty()) {
         lines.push_back({.text = '{' + titleColumn + '}', .size = kTitleSize, .isBold = true});

@@ -72,7 +72,7 @@ struct LabelLine {
 struct Layout {
     LabelSheet sheet = kLabelSheets.front();
     /** White on all sides of a label that nothing is set in, in points. */
-    double padding = 2 * kMillimetre;
+    double padding = 1.5 * kMillimetre;
     /** One of them is the barcode. */
     std::vector<LabelLine> lines{};
     /** The other lines stand to the right of the barcode, not above and below it. */

@@ -29,7 +29,7 @@ class OpenDocument : public DocumentWriter {
         : frame(documentFrame), isFlat(isFlatFile) {
         const LabelSheet& sheet = frame.layout.sheet;
         const double textLeft = TextColumn(frame.layout).left;
-        if (frame.layout.isBeside) {
+        if (HasTextBeside(frame.layout)) {
             cells = {{0, textLeft, true, false},
                      {textLeft, sheet.labelWidth - textLeft, false, true}};
         } else {

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kMediaType = "application/vnd.oasis.opendocument.text";
 constexpr const char* kVersion = "1.3";
 constexpr const char* kHairline = "0.25pt solid #999999";
-/** A line that is a little too long for its cell is not broken. */
+/** A barcode that is a little too long for its cell is not broken. */
 constexpr double kOverhang = 3;
 
 std::string Points(double length) {
@@ -46,7 +46,7 @@ void AddMeta(pugi::xml_node root, const std::string& title) {
 /** Appends a part's elements under a name. */
 void AddPart(pugi::xml_node root, const char* name, const pugi::xml_document& part) {
     pugi::xml_node parent = AddElement(root, name);
-    for (const pugi::xml_node& child : part.children()) parent.append_copy(child);
+    AddCopies(parent, part);
 }
 
 /** Text in which spaces stand as they are (ISO/IEC 26300-3, 6.1.2): readers drop those at the ends
@@ -55,14 +55,14 @@ void AddSpacedText(pugi::xml_node paragraph, const std::string& text) {
     std::string run;
     const auto flush = [&] {
         if (run.empty()) return;
-        paragraph.append_child(pugi::node_pcdata).set_value(run.c_str());
+        AppendText(paragraph, run);
         run.clear();
     };
     for (std::size_t place = 0; place < text.size(); ++place) {
         const bool isEnd = place == 0 || place + 1 == text.size();
         if (text[place] == ' ' && (isEnd || text[place - 1] == ' ')) {
             flush();
-            paragraph.append_child("text:s");
+            AddElement(paragraph, "text:s");
         } else {
             run += text[place];
         }
@@ -87,7 +87,7 @@ std::string OpenDocumentParts::StyleOf(const char* family, const std::string& pa
     if (!parent.empty()) {
         const char* const name = std::string_view(family) == "table" ? "style:master-page-name"
                                                                      : "style:parent-style-name";
-        style.append_attribute(name).set_value(parent.c_str());
+        AddAttribute(style, name, parent);
     }
     AddElement(style, properties, said);
     return known->second;
@@ -133,11 +133,11 @@ void OpenDocumentParts::AddStyle(const ParagraphStyle& style) {
     // For each kind of writing, as a program may take a character for any of them.
     const auto add = [&](const char* fontName, const char* fontSize, const char* fontWeight,
                          const char* language, const char* country) {
-        text.append_attribute(fontName).set_value(style.family.c_str());
-        text.append_attribute(fontSize).set_value(size.c_str());
-        text.append_attribute(fontWeight).set_value(weight);
-        text.append_attribute(language).set_value("zxx");
-        text.append_attribute(country).set_value("none");
+        AddAttribute(text, fontName, style.family);
+        AddAttribute(text, fontSize, size);
+        AddAttribute(text, fontWeight, weight);
+        AddAttribute(text, language, "zxx");
+        AddAttribute(text, country, "none");
     };
     add("style:font-name", "fo:font-size", "fo:font-weight", "fo:language", "fo:country");
     add("style:font-name-asian", "style:font-size-asian", "style:font-weight-asian",
@@ -151,7 +151,7 @@ pugi::xml_node OpenDocumentParts::AddTable(double width) {
                                       {{"style:width", Points(width)},
                                        {"table:align", "left"},
                                        {"fo:margin-left", "0pt"},
-                                       {"table:border-model", "collapsing"},
+                                       {"table:border-model", "separating"},
                                        {"fo:break-before", hasTable ? "page" : "auto"}});
     hasTable = true;
     return AddElement(body, "table:table", {{"table:style-name", style}});
@@ -186,11 +186,12 @@ pugi::xml_node OpenDocumentParts::AddCell(pugi::xml_node row, const CellSides& s
 
 void OpenDocumentParts::AddParagraph(pugi::xml_node cell, const ParagraphStyle& style, double gap,
                                      double left, double right, const std::string& text) {
-    const std::string name = StyleOf("paragraph", style.id, "style:paragraph-properties",
-                                     {{"fo:margin-left", Points(left)},
-                                      {"fo:margin-right", Points(right - kOverhang)},
-                                      {"fo:margin-top", Points(gap)},
-                                      {"fo:margin-bottom", "0pt"}});
+    const std::string name =
+        StyleOf("paragraph", style.id, "style:paragraph-properties",
+                {{"fo:margin-left", Points(left)},
+                 {"fo:margin-right", Points(style.isBarcode ? -kOverhang : right)},
+                 {"fo:margin-top", Points(gap)},
+                 {"fo:margin-bottom", "0pt"}});
     AddSpacedText(AddElement(cell, "text:p", {{"text:style-name", name}}), text);
 }
 
@@ -203,13 +204,12 @@ void OpenDocumentParts::AddLastParagraph() {
 std::string OpenDocumentParts::FlatFile(const std::string& title) const {
     pugi::xml_document file;
     pugi::xml_node root = Root(file, "office:document");
-    root.append_attribute("office:mimetype").set_value(kMediaType);
+    AddAttribute(root, "office:mimetype", kMediaType);
     AddMeta(root, title);
     AddPart(root, "office:font-face-decls", fontFaces);
     AddPart(root, "office:styles", styles);
     AddPart(root, "office:automatic-styles", pageStyles);
-    pugi::xml_node automatic = root.child("office:automatic-styles");
-    for (const pugi::xml_node& style : automaticStyles.children()) automatic.append_copy(style);
+    AddCopies(root.child("office:automatic-styles"), automaticStyles);
     AddElement(AddElement(root, "office:master-styles"), "style:master-page",
                {{"style:name", "Sheet"}, {"style:page-layout-name", "Sheet"}});
     AddPart(AddElement(root, "office:body"), "office:text", body);

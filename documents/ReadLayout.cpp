@@ -166,6 +166,7 @@ class LayoutFile {
         const std::string wanted = Text(node, "sheet");
         if (const LabelSheet* const sheet = FindLabelSheet(wanted)) return *sheet;
         std::vector<std::string_view> names;
+        names.reserve(kLabelSheets.size());
         for (const LabelSheet& sheet : kLabelSheets) names.push_back(sheet.name);
         Fail(node, fmt::format("there is no sheet \"{}\"; nearest: \"{}\"", wanted,
                                Nearest(wanted, names, 1).front()));
@@ -224,6 +225,7 @@ class LayoutFile {
             Fail(node, fmt::format("a label has at most {} lines", kMostLines));
         }
         std::vector<LabelLine> lines;
+        lines.reserve(array->size());
         bool hasBarcode = false;
         for (const toml::node& element : *array) {
             lines.push_back(Line(element));

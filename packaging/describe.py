@@ -52,9 +52,11 @@ def _run(*words: str) -> str:
 
 def _command(row: dict, above: str = "") -> Command:
     name = f"{above}{row['name']}"
+    options = [Option(**option) for option in row["options"]]
     return Command(
-        name, row["description"], [Option(**option) for option in row["options"]],
-        [Argument(**argument) for argument in row["arguments"]],
+        name, row["description"], [option for option in options if option.names[0].startswith("-")],
+        [Argument(option.names[0], option.description, option.isRequired) for option in options
+         if not option.names[0].startswith("-")],
         [_command(part, f"{name} ") for part in row["commands"]], row["footer"])
 
 

@@ -13,7 +13,7 @@ namespace {
 
 /** In mm. Lower bars are none that a scanner is held to. */
 constexpr double kLowest = 1.2;
-/** Sides within this are one, and a side that leans more is none. */
+/** Sides within this are one. */
 constexpr double kSame = 0.004;
 /** Bars of paler ink are none. */
 constexpr double kPalest = 0.8;
@@ -35,17 +35,11 @@ SideMap SidesOf(const VectorPage& page, bool isTurned) {
     SideMap sides;
     for (const PaintedShape& shape : page.shapes) {
         if (shape.isUnknown || shape.reflectance > kPalest) continue;
-        for (const Segment& segment : shape.outline) {
-            Point from = segment.from;
-            Point to = segment.to;
-            if (isTurned) {
-                std::swap(from.x, from.y);
-                std::swap(to.x, to.y);
-            }
-            if (std::fabs(from.x - to.x) > kSame || std::fabs(from.y - to.y) < kLowest) continue;
-            const auto [top, bottom] = std::minmax(from.y, to.y);
-            sides[{std::lround(top * 5), std::lround(bottom * 5)}].push_back(
-                (from.x + to.x) / 2);
+        for (const Area& rectangle : shape.rectangles) {
+            const Area bar = isTurned ? rectangle.Turned() : rectangle;
+            if (bar.Height() < kLowest || bar.Height() < bar.Width()) continue;
+            auto& own = sides[{std::lround(bar.top * 5), std::lround(bar.bottom * 5)}];
+            own.insert(own.end(), {bar.left, bar.right});
         }
     }
     return sides;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <numeric>
 
 namespace linewright {
 
@@ -16,17 +17,34 @@ constexpr double kReach = 3;
  *  them. */
 constexpr int kLeastChange = 100;
 constexpr int kTimes = 6;
+/** What of the paper's own grain is put down to grain. */
+constexpr int kGrain = 2;
 constexpr int kFewestCells = 6;
 constexpr int kShortest = 4;
 /** More boxes than any page of barcodes has; the largest are looked at. */
 constexpr std::size_t kMostBoxes = 4000;
 
-/** Which cells may be parts of bars, row by row. */
+/** How much changes in cells, row by row: along their rows, of the columns' sums, and across them,
+ *  of the rows' sums, which makes little of grain. */
 struct CellMap {
     int side = 1;
     int columns = 0;
     int rows = 0;
-    std::vector<std::uint8_t> isBar;
+    std::vector<int> along;
+    std::vector<int> across;
+
+    std::size_t PlaceOf(int row, int column) const {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) +
+               static_cast<std::size_t>(column);
+    }
+    /** Across cells of bare paper, of which a page has the most. */
+    int Grain() const {
+        std::vector<int> sorted = across;
+        if (sorted.empty()) return 0;
+        const auto middle = sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2);
+        std::nth_element(sorted.begin(), middle, sorted.end());
+        return *middle;
+    }
 };
 
 CellMap CellsOf(const GreyRaster& picture, double pixelsPerMillimetre) {
@@ -34,30 +52,47 @@ CellMap CellsOf(const GreyRaster& picture, double pixelsPerMillimetre) {
     cells.side = std::max(3, static_cast<int>(std::lround(kCell * pixelsPerMillimetre)));
     cells.columns = picture.width / cells.side;
     cells.rows = picture.height / cells.side;
-    cells.isBar.assign(static_cast<std::size_t>(cells.columns) *
-                           static_cast<std::size_t>(cells.rows),
-                       0);
     for (int row = 0; row < cells.rows; ++row) {
-        for (int column = 0; column < cells.columns; ++column) {
-            const int left = column * cells.side;
-            const int top = row * cells.side;
-            const int right = std::min(left + cells.side, picture.width - 1);
-            int along = 0;
-            int across = 0;
-            for (int y = top; y < top + cells.side; ++y) {
-                const std::uint8_t* const here = picture.Row(y);
-                const std::uint8_t* const below = picture.Row(std::min(y + 1, picture.height - 1));
-                for (int x = left; x < right; ++x) {
-                    along += std::abs(here[x + 1] - here[x]);
-                    across += std::abs(below[x] - here[x]);
-                }
+        std::vector<int> columnSums(static_cast<std::size_t>(picture.width));
+        std::vector<int> changes(static_cast<std::size_t>(cells.columns));
+        std::vector<int> lastSums;
+        for (int y = row * cells.side; y < (row + 1) * cells.side; ++y) {
+            const std::uint8_t* const pixels = picture.Row(y);
+            for (std::size_t x = 0; x < columnSums.size(); ++x) columnSums[x] += pixels[x];
+            std::vector<int> sums(changes.size());
+            for (std::size_t column = 0; column < sums.size(); ++column) {
+                const std::uint8_t* const begin =
+                    pixels + column * static_cast<std::size_t>(cells.side);
+                sums[column] = std::accumulate(begin, begin + cells.side, 0);
+                if (!lastSums.empty()) changes[column] += std::abs(sums[column] - lastSums[column]);
             }
-            const bool isBar = along >= kLeastChange * cells.side && along >= kTimes * across;
-            cells.isBar[static_cast<std::size_t>(row) * static_cast<std::size_t>(cells.columns) +
-                        static_cast<std::size_t>(column)] = isBar;
+            lastSums = std::move(sums);
         }
+        for (int column = 0; column < cells.columns; ++column) {
+            int along = 0;
+            const int right = std::min((column + 1) * cells.side, picture.width - 1);
+            for (int x = column * cells.side; x < right; ++x) {
+                const auto place = static_cast<std::size_t>(x);
+                along += std::abs(columnSums[place + 1] - columnSums[place]);
+            }
+            cells.along.push_back(along);
+        }
+        cells.across.insert(cells.across.end(), changes.begin(), changes.end());
     }
     return cells;
+}
+
+/** Which cells may be parts of bars. */
+std::vector<bool> BarCells(const CellMap& cells) {
+    const int grain = kGrain * cells.Grain();
+    std::vector<bool> areBars;
+    areBars.reserve(cells.along.size());
+    for (std::size_t place = 0; place < cells.along.size(); ++place) {
+        const int along = cells.along[place] - grain;
+        const int across = std::max(0, cells.across[place] - grain);
+        areBars.push_back(along >= kLeastChange * cells.side && along >= kTimes * across);
+    }
+    return areBars;
 }
 
 /** Cells of a row that belong together, and the group of such that they are in. */
@@ -78,15 +113,12 @@ std::size_t GroupOf(std::vector<Run>& runs, std::size_t place) {
 }
 
 std::vector<Run> RunsOf(const CellMap& cells, int reach) {
+    const std::vector<bool> areBars = BarCells(cells);
     std::vector<Run> runs;
     for (int row = 0; row < cells.rows; ++row) {
         const std::size_t firstOfRow = runs.size();
         for (int column = 0; column < cells.columns; ++column) {
-            if (cells.isBar[static_cast<std::size_t>(row) *
-                                static_cast<std::size_t>(cells.columns) +
-                            static_cast<std::size_t>(column)] == 0) {
-                continue;
-            }
+            if (!areBars[cells.PlaceOf(row, column)]) continue;
             if (runs.size() > firstOfRow && column - runs.back().last <= reach) {
                 runs.back().last = column;
                 ++runs.back().cells;
@@ -103,8 +135,8 @@ void Join(std::vector<Run>& runs) {
     std::size_t above = 0;
     for (std::size_t here = 0; here < runs.size(); ++here) {
         while (above < here &&
-               (runs[above].row < runs[here].row - 1 || (runs[above].row == runs[here].row - 1 &&
-                                                         runs[above].last < runs[here].first))) {
+               (runs[above].row < runs[here].row - 1 ||
+                (runs[above].row == runs[here].row - 1 && runs[above].last < runs[here].first))) {
             ++above;
         }
         for (std::size_t other = above; other < here && runs[other].row == runs[here].row - 1 &&
@@ -121,8 +153,7 @@ void Join(std::vector<Run>& runs) {
 std::vector<PixelBox> FindCandidates(const GreyRaster& picture, double pixelsPerMillimetre) {
     if (picture.width < 8 || picture.height < 8) return {};
     const CellMap cells = CellsOf(picture, pixelsPerMillimetre);
-    const int reach =
-        std::max(1, static_cast<int>(kReach * pixelsPerMillimetre / cells.side));
+    const int reach = std::max(1, static_cast<int>(kReach * pixelsPerMillimetre / cells.side));
     std::vector<Run> runs = RunsOf(cells, reach);
     Join(runs);
     struct Group {

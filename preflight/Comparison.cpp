@@ -43,10 +43,19 @@ std::string LineText(std::uint64_t line) {
     return std::to_string(line);
 }
 
+/** What a reader says of a row's symbol: of Intelligent Mail, whose digits are in the bars in a way
+ *  of their own, the bars. */
+const std::string& TextIn(const ExpectedSymbol& row) {
+    const bool areBars = row.type->symbology == Symbology::kIntelligentMail;
+    return areBars ? row.meaning.barsSay : row.meaning.carried;
+}
+
 bool Says(const FoundSymbol& symbol, const ExpectedSymbol& row) {
-    if (symbol.symbology != row.type->symbology || !IsMeant(symbol.reading, row.meaning)) {
-        return false;
+    if (symbol.symbology != row.type->symbology) return false;
+    if (symbol.symbology == Symbology::kIntelligentMail) {
+        return symbol.reading.data == TextIn(row);
     }
+    if (!IsMeant(symbol.reading, row.meaning)) return false;
     const bool isUpcE =
         row.type->code == TypeCode::kUpcE || row.type->code == TypeCode::kClassicUpcE;
     return row.type->symbology != Symbology::kEanUpc ||
@@ -68,7 +77,7 @@ class Comparer {
     Comparer(std::vector<FoundSymbol>& foundSymbols, std::vector<ExpectedSymbol>& expectedSymbols)
         : symbols(foundSymbols), rows(expectedSymbols) {
         for (std::size_t row = 0; row < rows.size(); ++row) {
-            rowsOf[rows[row].meaning.carried].push_back(row);
+            rowsOf[TextIn(rows[row])].push_back(row);
         }
     }
 
@@ -84,8 +93,8 @@ class Comparer {
                 row.isFound = true;
                 symbol.line = row.line;
                 if (!isOnPage) {
-                    symbol.faults.push_back({Fault::Kind::kWrongPage,
-                                             {std::to_string(*row.page), LineText(row.line)}});
+                    symbol.faults.push_back(
+                        {Fault::Kind::kWrongPage, {std::to_string(*row.page), LineText(row.line)}});
                 }
                 break;
             }
@@ -95,7 +104,7 @@ class Comparer {
     /** What was found once too often. */
     void FindDoubles() {
         for (FoundSymbol& symbol : symbols) {
-            if (symbol.line || !symbol.reading.isFound) continue;
+            if (symbol.line || symbol.isDoubtful || !symbol.reading.isFound) continue;
             const auto saying = RowsSaying(symbol);
             if (saying.empty()) continue;
             symbol.line = rows[saying.front()].line;
@@ -112,7 +121,7 @@ class Comparer {
             for (ExpectedSymbol& row : rows) {
                 if (row.isFound || row.page.value_or(symbol.page) != symbol.page) continue;
                 const bool isSame = row.type->symbology == symbol.symbology;
-                const double likeness = Likeness(row.meaning.carried, symbol.reading.data);
+                const double likeness = Likeness(TextIn(row), symbol.reading.data);
                 if (likeness < most || (!isSame && likeness < 1)) continue;
                 most = likeness;
                 nearest = &row;
@@ -124,7 +133,7 @@ class Comparer {
             nearest->isFound = true;
             symbol.line = nearest->line;
             const bool isOtherSymbology = nearest->type->symbology != symbol.symbology ||
-                                          nearest->meaning.carried == symbol.reading.data;
+                                          TextIn(*nearest) == symbol.reading.data;
             symbol.faults.push_back(
                 {isOtherSymbology && nearest->meaning.addOn == symbol.reading.addOn
                      ? Fault::Kind::kOtherSymbology
@@ -185,8 +194,8 @@ Expectations ExpectationsOf(Service& service, const std::string& name, std::istr
             continue;
         }
         if (wanted.titleColumn) {
-            row.page = file.Named(
-                [&] { return PageIn(file.Columns().TitleOf(record), record.line); });
+            row.page =
+                file.Named([&] { return PageIn(file.Columns().TitleOf(record), record.line); });
         }
         if (row.type->symbology != Symbology::kText) expected.symbols.push_back(std::move(row));
     }
@@ -204,9 +213,9 @@ std::vector<Fault> Compare(std::vector<FoundSymbol>& symbols, Expectations& expe
     for (const ExpectedSymbol& row : expected.symbols) {
         // Of one page alone nobody can say what the others hold.
         if (row.isFound || (page && row.page != page)) continue;
-        faults.push_back({Fault::Kind::kMissing,
-                          {LineText(row.line), std::string(row.type->shortName),
-                           Comparer::WhatItMeans(row)}});
+        faults.push_back(
+            {Fault::Kind::kMissing,
+             {LineText(row.line), std::string(row.type->shortName), Comparer::WhatItMeans(row)}});
     }
     faults.insert(faults.end(), expected.refused.begin(), expected.refused.end());
     return faults;

@@ -14,7 +14,7 @@ namespace {
 constexpr int kRows = 5;
 constexpr int kLines = 7;
 /** A number without a check digit must be this long, or else data has to confirm it. */
-constexpr std::size_t kSureDigits = 5;
+constexpr std::size_t kSureDigits = 6;
 /** White beside a symbol, in narrow elements: half of what is usual. */
 constexpr double kLeastQuiet = 5;
 constexpr std::size_t kFewestDigits = 3;
@@ -30,6 +30,10 @@ std::vector<std::uint8_t> MeanRow(const GreyRaster& picture, int middle) {
         mean.push_back(static_cast<std::uint8_t>(sum / kRows));
     }
     return mean;
+}
+
+bool HasCheckDigit(std::string_view digits) {
+    return MsiModulo10CheckDigit(digits.substr(0, digits.size() - 1)) == digits.back();
 }
 
 struct Line {
@@ -57,16 +61,16 @@ std::vector<RasterSymbol> ReadMsi(const GreyRaster& picture, double pixelsPerMil
         const double begin = scan.elements[low].begin;
         const double end = scan.elements[low + count - 1].end;
         const double narrow = (end - begin) / (static_cast<double>(count) * 1.5);
-        if (scan.elements[low - 1].Width() < kLeastQuiet * narrow ||
-            scan.elements[low + count].Width() < kLeastQuiet * narrow) {
+        const bool isFree = scan.elements[low - 1].Width() >= kLeastQuiet * narrow &&
+                            scan.elements[low + count].Width() >= kLeastQuiet * narrow;
+        if (!isFree && !HasCheckDigit(pattern->digits) && pattern->digits.size() < kSureDigits) {
             continue;
         }
         linesOf[pattern->digits].push_back({begin, end, row, pattern->isReversed});
     }
     std::vector<RasterSymbol> symbols;
     for (const auto& [digits, lines] : linesOf) {
-        const std::string_view body = std::string_view(digits).substr(0, digits.size() - 1);
-        const bool hasCheckDigit = MsiModulo10CheckDigit(body) == digits.back();
+        const bool hasCheckDigit = HasCheckDigit(digits);
         if (lines.size() < (hasCheckDigit ? 2 : 3)) continue;
         const Line& middle = lines[lines.size() / 2];
         RasterSymbol symbol;

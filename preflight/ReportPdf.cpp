@@ -16,7 +16,7 @@ namespace {
 /** Of a page's picture, in pixels a millimetre: 100 to an inch. */
 constexpr double kResolution = 100 / 25.4;
 constexpr double kMargin = 36;
-constexpr double kTextSize = 7;
+constexpr double kTextSize = 6.8;
 constexpr double kTitleSize = 11;
 constexpr double kLeading = 9.5;
 constexpr double kFrame = 1.2;
@@ -107,11 +107,13 @@ class PdfReport {
         const std::string number = std::to_string(place + 1);
         const auto face = fonts.Text(true);
         const TextLine line = face->Set(number, kTextSize);
-        cairo_rectangle(context, left - kFrame / 2, top - kTextSize - 1, line.width + 4,
-                        kTextSize + 1);
+        // Outside, where the quiet zone is.
+        const double right = left + kFrame / 2;
+        cairo_rectangle(context, right - line.width - 4, top - kFrame / 2, line.width + 4,
+                        kTextSize + 2);
         cairo_fill(context);
         SetColour(context, {1, 1, 1});
-        face->Show(context, line, kTextSize, left - kFrame / 2 + 2, top - 1.5);
+        face->Show(context, line, kTextSize, right - line.width - 2, top + kTextSize - 0.5);
     }
 
     void List() {
@@ -138,8 +140,7 @@ class PdfReport {
         EndPage();
     }
 
-    void ShowLine(const std::string& text, double size, const Colour& colour,
-                  bool isBold = false) {
+    void ShowLine(const std::string& text, double size, const Colour& colour, bool isBold = false) {
         if (y > kPaperHeight - kMargin) {
             EndPage();
             y = kMargin + kTextSize;

@@ -12,6 +12,8 @@ namespace linewright {
 
 namespace {
 
+/** What the sides of an upright rectangle may lean, in mm. */
+constexpr double kUpright = 0.002;
 /** Of elements within elements, and of what is used within what is used. */
 constexpr int kDeepest = 64;
 /** Pieces of outlines of a page. */
@@ -79,9 +81,7 @@ Area AreaOf(const std::vector<Segment>& outline) {
 
 class Reader {
   public:
-    explicit Reader(const pugi::xml_document& document) {
-        Remember(document, 0);
-    }
+    explicit Reader(const pugi::xml_document& document) { Remember(document, 0); }
 
     VectorPage page;
 
@@ -162,7 +162,10 @@ class Reader {
 
     static bool IsUpright(const std::vector<Segment>& outline) {
         for (const Segment& segment : outline) {
-            if (segment.from.x != segment.to.x && segment.from.y != segment.to.y) return false;
+            if (std::fabs(segment.from.x - segment.to.x) > kUpright &&
+                std::fabs(segment.from.y - segment.to.y) > kUpright) {
+                return false;
+            }
         }
         return true;
     }
@@ -196,9 +199,22 @@ class Reader {
         }
     }
 
+    /** Adds contours, and knows those that are upright rectangles. */
+    static void AddFilled(const std::vector<Contour>& contours, const Transform& transform,
+                          PaintedShape& shape) {
+        for (const Contour& contour : contours) {
+            std::vector<Segment> outline;
+            AddFilled({contour}, transform, outline);
+            if (outline.size() == 4 && IsUpright(outline)) {
+                shape.rectangles.push_back(AreaOf(outline));
+            }
+            shape.outline.insert(shape.outline.end(), outline.begin(), outline.end());
+        }
+    }
+
     /** Each straight piece as the rectangle that a pen draws. */
     static void AddStroked(const std::vector<Contour>& contours, double width, bool isSquare,
-                           const Transform& transform, std::vector<Segment>& outline) {
+                           const Transform& transform, PaintedShape& shape) {
         for (const Contour& contour : contours) {
             for (std::size_t place = 0; place + 1 < contour.size(); ++place) {
                 Point from = contour[place];
@@ -215,7 +231,7 @@ class Reader {
                             {to.x - y, to.y + x},
                             {to.x + y, to.y - x},
                             {from.x + y, from.y - x}}},
-                          transform, outline);
+                          transform, shape);
             }
         }
     }
@@ -225,7 +241,7 @@ class Reader {
         if (!contours) return;
         if (own.fill != "none") {
             PaintedShape shape;
-            AddFilled(*contours, own.transform, shape.outline);
+            AddFilled(*contours, own.transform, shape);
             shape.isEvenOdd = PropertyOf(node, "fill-rule") == "evenodd";
             Add(std::move(shape), own.fill, own.fillOpacity, own);
         }
@@ -233,7 +249,7 @@ class Reader {
         if (stroke.empty() || stroke == "none") return;
         PaintedShape shape;
         AddStroked(*contours, NumberOf(PropertyOf(node, "stroke-width")).value_or(1),
-                   PropertyOf(node, "stroke-linecap") == "square", own.transform, shape.outline);
+                   PropertyOf(node, "stroke-linecap") == "square", own.transform, shape);
         Add(std::move(shape), stroke, PropertyOf(node, "stroke-opacity"), own);
     }
 
@@ -241,7 +257,7 @@ class Reader {
         const auto contours = ContoursOf(node);
         if (!contours) return;
         PaintedShape shape;
-        AddFilled(*contours, own.transform, shape.outline);
+        AddFilled(*contours, own.transform, shape);
         const bool isPicture = std::string_view(node.name()) == "image";
         Add(std::move(shape), isPicture ? "image" : own.fill, own.fillOpacity, own);
     }

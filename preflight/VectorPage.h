@@ -19,6 +19,8 @@ struct Segment {
 struct PaintedShape {
     Area area;
     std::vector<Segment> outline;
+    /** Those of its contours that are upright rectangles. */
+    std::vector<Area> rectangles;
     bool isEvenOdd = false;
     /** What the paint leaves of red light, 0 to 1, and how much it covers. */
     double reflectance = 0;

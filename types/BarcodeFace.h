@@ -15,9 +15,6 @@ struct BarcodeFace {
     double barHeight;
     /** Whether the font draws human-readable digits itself. */
     bool printsText = false;
-
-    /** Of a line of the font, all of it above the baseline, in modules. */
-    constexpr double LineHeight() const { return printsText ? 79.125 : modulesPerEm; }
 };
 
 inline constexpr BarcodeFace kBarsFace{"Linewright Bars", "LinewrightBars", 32, 32};

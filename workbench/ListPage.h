@@ -39,6 +39,7 @@ class ListPage final : public Page {
     /** Reads a file in the place of all rows; an encoding that is not stated is found. */
     void Open(const QString& file, std::optional<Encoding> encoding = std::nullopt);
     const ListModel& Model() const { return model; }
+    ListOutput& Output() { return output; }
 
   protected:
     void changeEvent(QEvent* event) override;

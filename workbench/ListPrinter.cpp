@@ -1,6 +1,7 @@
 #include "workbench/ListPrinter.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -34,8 +35,7 @@ class PagePainter {
   public:
     explicit PagePainter(QPrinter& target) : printer(target), painter(&target) {
         dots = printer.resolution() / kInch;
-        page = printer.pageLayout().paintRectPixels(printer.resolution());
-        page.moveTo(0, 0);
+        page = printer.pageLayout().paintRectPixels(printer.resolution()).size();
         QFont font(QStringLiteral("DejaVu Sans Mono"));
         font.setPointSizeF(kTextSize);
         painter.setFont(font);
@@ -98,7 +98,7 @@ class PagePainter {
     QPainter painter;
     /** A point has so many. */
     double dots = 1;
-    QRectF page;
+    QSizeF page;
     double line = 0;
     double x = 0;
     double y = 0;

@@ -20,6 +20,7 @@ DIST, BUILD = Path(sys.argv[1]).resolve(), Path(sys.argv[2]).resolve()
 ROOT = Path(__file__).resolve().parents[2]
 NAMES = ["linewright", "fonts-linewright", "linewright-drawing", "linewright-workbench", "liblinewright0",
          "liblinewright-dev", "python3-linewright"]
+VERSION = re.search(r"^## (\S+)", (ROOT / "CHANGELOG.md").read_text(encoding="utf-8"), re.MULTILINE)[1]
 ENCODED = "Y(0A63IB*NNNTNL(\n"
 bare: BareRoot
 
@@ -63,6 +64,9 @@ class PackageTest(unittest.TestCase):
         before = bare.files()
         install("linewright", "fonts-linewright", tools=("libstdc++6",))
         self.assertEqual(bare.run("linewright", "encode", "ean13", "400638133393"), ENCODED)
+        lost = subprocess.run(["chroot", bare.folder, "linewright", "types"], capture_output=True, text=True)
+        self.assertEqual(lost.returncode, 2)
+        self.assertEqual(lost.stderr, "linewright: the system does not say where this program lies\n")
         refused = bare.attempt("linewright", "draw", "ean13", "400638133393", "-o", "pen.pdf")
         self.assertEqual(refused.returncode, 2)
         self.assertIn("Drawing.so", refused.stderr)
@@ -86,7 +90,7 @@ class PackageTest(unittest.TestCase):
 
     def test_5_the_window(self):
         install("linewright-workbench")
-        self.assertEqual(bare.run("linewright-workbench", "--version"), "linewright-workbench 1.0.0\n")
+        self.assertEqual(bare.run("linewright-workbench", "--version"), f"linewright-workbench {VERSION}\n")
         shown = bare.attempt("timeout", "3", "linewright-workbench")
         self.assertEqual(shown.returncode, 124, shown.stderr)  # it stayed open
 
