@@ -58,7 +58,7 @@ class ListOutputTest : public ListTest {
 TEST_F(ListOutputTest, EachRowBecomesAFileOfItsOwnAndRefusedOnesAreTold) {
     StartList();
     ChooseListType("Code 128");
-    Paste("A/B\nA/B\n" + QString(200, 'x') + "\n\u20AC\u4E00\n../..\nCON\n");
+    Paste("A/B\nA/B\n" + QString(200, 'x') + "\n\u00E9 \u00FC\n../..\nCON\n");
     const std::pair<const char*, QByteArray> kFormats[]{{"svg", "<svg"},
                                                         {"pdf", "%PDF-"},
                                                         {"eps", "%!PS-Adobe"},

@@ -21,6 +21,8 @@ void ListTest::Paste(const QString& text) {
 }
 
 void ListTest::WaitUntilJudged() {
+    // What was typed comes later.
+    QTest::qWait(0);
     EXPECT_TRUE(
         QTest::qWaitFor([this] { return Page().Model().Count(RowState::kWaiting) == 0; }, 60000));
     QTest::qWait(0);
@@ -148,8 +150,6 @@ TEST_F(ListTest, AColumnMaySayTheType) {
     StartList();
     Page().Open(Write("a.csv", "type;data\nean8;1234567\ncode128;Shelf\nfoo;1\n"));
     WaitUntilIdle();
-    EXPECT_TRUE(Named<QAbstractButton>("header").isChecked() == false);
-    Click("header");
     QTest::keyClick(&Named<QComboBox>("dataColumn"), Qt::Key_End);
     ChooseListType("in column type");
     EXPECT_EQ(Shown(0, 0), "Made");
@@ -357,10 +357,9 @@ TEST_F(ListTest, CellsThatArePastedIntoAnotherPageComeHere) {
 TEST_F(ListTest, AHundredThousandRowsAreAskedForOnceHoweverTheyAreScrolled) {
     StartList();
     QByteArray cells;
-    for (int i = 0; i < 100000; ++i) cells += QByteArray::number(i) + '\n';
+    for (int i = 0; i < 100000; ++i) cells += QByteArray::number(100000000000 + i) + '\n';
     QApplication::clipboard()->setText(QString::fromLatin1(cells));
     int resets = 0;
-    std::vector<int> judged(100000);
     const auto* const model = &Page().Model();
     QObject::connect(model, &QAbstractItemModel::modelReset, [&] { ++resets; });
     Click("paste");
@@ -377,7 +376,7 @@ TEST_F(ListTest, AHundredThousandRowsAreAskedForOnceHoweverTheyAreScrolled) {
         QApplication::processEvents();
     }
     EXPECT_EQ(changes, 0);
-    EXPECT_EQ(Tally(), "100000 rows: 100000 made, 100000 with warnings, 0 refused");
+    EXPECT_EQ(Tally(), "100000 rows: 100000 made, 0 with warnings, 0 refused");
 }
 
 }  // namespace
