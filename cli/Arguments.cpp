@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 
+#include "cli/Description.h"
 #include "cli/DialogArguments.h"
 #include "cli/DrawingArguments.h"
 #include "cli/RowArguments.h"
@@ -109,11 +110,8 @@ void AddStream(CLI::App& app) {
         "| linewright stream");
 }
 
-/** What all commands have that work on the rows of a file. */
-void AddRows(CLI::App& command, Arguments& arguments) {
-    RowOptions& rows = arguments.batch.rows;
-    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
-        ->required();
+/** How the rows of a file are read, and what is wanted of them. */
+void AddRowWishes(CLI::App& command, RowOptions& rows) {
     AddColumns(command, rows);
     command.add_flag("--check", rows.isCheckWanted, "Add the check character in all rows");
     AddRatio(command, [&rows](const CLI::results_t& results) {
@@ -122,6 +120,12 @@ void AddRows(CLI::App& command, Arguments& arguments) {
     });
     command.add_flag("--strict", rows.isStrict, "Refuse rows that there is a warning about");
     AddGtin(command, rows.isArticleNumber);
+}
+
+void AddRows(CLI::App& command, Arguments& arguments) {
+    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
+        ->required();
+    AddRowWishes(command, arguments.batch.rows);
 }
 
 void AddBatch(CLI::App& app, Arguments& arguments) {
@@ -133,6 +137,7 @@ void AddBatch(CLI::App& app, Arguments& arguments) {
         ->check(NamesAFile())
         ->type_name("OUT");
     AddResults(command, arguments.batch);
+    AddRefusals(command, arguments.batch);
     AddScale(command, arguments.batch);
     command.add_flag("--verify", arguments.batch.isVerified, "Add what scanners read of each");
     command.footer(
@@ -199,6 +204,46 @@ void AddProof(CLI::App& app, Arguments& arguments) {
     command.footer("Example:  linewright proof labels.csv -o proof.pdf");
 }
 
+void AddDocument(CLI::App& app, Arguments& arguments) {
+    CLI::App& command = *app.add_subcommand(
+        "document", "Set the rows of a CSV file as labels with live barcodes (Linux)");
+    AddRows(command, arguments);
+    command
+        .add_option("-o,--output", arguments.batchFiles.output,
+                    "Document to write: .pdf, .idml, .odt or .fodt")
+        ->check(NamesAFile())
+        ->type_name("F")
+        ->required();
+    command.add_option("--layout", arguments.draw.layout, "TOML file, or a sheet such as a4-3x8")
+        ->type_name("L");
+    command.add_option("--title", arguments.batch.rows.titleColumn, "Column of titles")
+        ->type_name("NAME");
+    AddXDimension(command, arguments.draw.drawing);
+    AddRefusals(command, arguments.batch);
+    command.footer("Example:  linewright document labels.csv -o labels.pdf --layout a4-2x7");
+}
+
+void AddCheck(CLI::App& app, Arguments& arguments) {
+    CheckOptions& check = arguments.check;
+    CLI::App& command = *app.add_subcommand(
+        "check", "Read the barcodes of a finished PDF, PNG or TIFF back (Linux)");
+    command.add_option("DOCUMENT", check.document, "PDF, PNG or TIFF file")->required();
+    command.add_option("--data", check.data, "CSV file that says what the document holds")
+        ->type_name("IN");
+    command.add_option("--page", check.page, "Look at one page alone")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber.description(""));
+    command.add_option("--dpi", check.dotsPerInch, "Resolution of a picture that states none")
+        ->type_name("N")
+        ->check(CLI::Range(20, 20000).description(""));
+    command.add_flag("--json", check.isJson, "Print a JSON object");
+    command.add_option("-o,--output", check.output, "PDF file with the pages and what was found")
+        ->check(NamesAFile())
+        ->type_name("F");
+    AddRowWishes(command, arguments.batch.rows);
+    command.footer("Example:  linewright check labels.pdf --data labels.csv -o report.pdf");
+}
+
 void AddFonts(CLI::App& app, Arguments& arguments) {
     CLI::App& command = *app.add_subcommand("fonts", "List or install the barcode fonts");
     command.require_subcommand(1);
@@ -208,6 +253,13 @@ void AddFonts(CLI::App& app, Arguments& arguments) {
     list.footer("Example:  linewright fonts list --json --x-dimension 0.25mm");
     command.add_subcommand("install", "Install them for this user")->fallthrough();
     command.footer("Example:  linewright fonts install");
+}
+
+void AddResources(CLI::App& app) {
+    CLI::App& command = *app.add_subcommand(
+        "resources", "Describe the plug-in for the resource files of another host");
+    command.add_flag("--json")->description("Print a JSON object")->required();
+    command.footer("Example:  linewright resources --json");
 }
 
 /** The command that the words name, or as much of it as they do. */
@@ -240,12 +292,21 @@ std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error) {
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
-        {"types", Command::kTypes},          {"encode", Command::kEncode},
-        {"stream", Command::kStream},        {"batch", Command::kBatch},
-        {"prefs", Command::kPrefs},          {"prefs set", Command::kPrefsSet},
-        {"dialog", Command::kDialog},        {"draw", Command::kDraw},
-        {"verify", Command::kVerify},        {"proof", Command::kProof},
-        {"fonts list", Command::kFontsList}, {"fonts install", Command::kFontsInstall},
+        {"types", Command::kTypes},
+        {"encode", Command::kEncode},
+        {"stream", Command::kStream},
+        {"batch", Command::kBatch},
+        {"prefs", Command::kPrefs},
+        {"prefs set", Command::kPrefsSet},
+        {"dialog", Command::kDialog},
+        {"draw", Command::kDraw},
+        {"verify", Command::kVerify},
+        {"proof", Command::kProof},
+        {"check", Command::kCheck},
+        {"fonts list", Command::kFontsList},
+        {"fonts install", Command::kFontsInstall},
+        {"document", Command::kDocument},
+        {"resources", Command::kResources},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
     const auto parts = chosen.get_subcommands();
@@ -262,6 +323,11 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     app.formatter(std::make_shared<HelpFormatter>());
     app.get_formatter()->column_width(kNameColumn);
     app.set_version_flag("--version", "linewright " LINEWRIGHT_VERSION, "Print the version");
+    app.add_flag_callback(
+           "--describe",
+           [&app] { throw CLI::CallForVersion(DescriptionOf(app, LINEWRIGHT_VERSION), 0); })
+        ->group("")
+        ->configurable(false);
     app.require_subcommand(1);
     AddHostOptions(app, result->host, result->fonts);
     AddTypes(app, *result);
@@ -273,7 +339,10 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddDraw(app, *result);
     AddVerify(app, *result);
     AddProof(app, *result);
+    AddDocument(app, *result);
+    AddCheck(app, *result);
     AddFonts(app, *result);
+    AddResources(app);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
         "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");

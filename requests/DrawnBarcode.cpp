@@ -11,10 +11,7 @@ namespace {
 DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeOutcome& outcome,
                          const BarcodeWish& barcode) {
     const BarcodeType& type = *outcome.type;
-    std::optional<double> xDimension = wish.xDimension;
-    if (!xDimension && wish.magnification) {
-        xDimension = type.dimensions.xDimension * *wish.magnification / 100;
-    }
+    const std::optional<double> xDimension = XDimensionOf(wish, type);
     DrawingOptions options{.xDimension = xDimension,
                            .dotsPerInch = wish.dotsPerInch,
                            .isFitted = wish.isFitted,
@@ -32,6 +29,11 @@ DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeOutcome& outcome,
 }
 
 }  // namespace
+
+std::optional<double> XDimensionOf(const DrawingWish& wish, const BarcodeType& type) {
+    if (wish.xDimension || !wish.magnification) return wish.xDimension;
+    return type.dimensions.xDimension * *wish.magnification / 100;
+}
 
 DrawnBarcode DrawBarcode(Service& service, Fonts& fonts, const BarcodeWish& wish,
                          const DrawingWish& drawing) {

@@ -18,6 +18,9 @@ struct DrawnBarcode {
     std::vector<DrawingWarning> warnings{};
 };
 
+/** The X-dimension that is wished for, in points; none where the type's own will do. */
+std::optional<double> XDimensionOf(const DrawingWish& wish, const BarcodeType& type);
+
 /** Makes and draws; a strict wish has warnings about the drawing refused too. Throws RequestFailure
  *  and DrawingFailure. */
 DrawnBarcode DrawBarcode(Service& service, Fonts& fonts, const BarcodeWish& wish,

@@ -49,7 +49,7 @@ Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, doubl
     if (!HasScanner(meaning.task.symbology)) return {};
     const GreyRaster picture = drawing.Raster(pixelsPerModule);
     Verification result;
-    result.readings.push_back(ReadWithZxing(picture, meaning.task));
+    if (kScannerCount > 1) result.readings.push_back(ReadWithZxing(picture, meaning.task));
     result.readings.push_back(ReadWithZbar(
         picture, meaning.task, {.isEnlarged = pixelsPerModule == 1, .skipsRows = true}));
     for (Reading& reading : result.readings) reading.isMeant = IsMeant(reading, meaning);

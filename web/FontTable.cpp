@@ -153,15 +153,16 @@ Outline FontFile::OutlineOf(unsigned int glyph) const {
     return outline;
 }
 
-std::filesystem::path TextFaceFile(bool /*isBold*/) {
+InstalledFace FindTextFace(const TextFaceName& /*name*/) {
     return "DejaVuSansMono";
 }
 
-std::optional<std::filesystem::path> OtherTextFaceFile(bool /*isBold*/, char32_t /*character*/) {
+std::optional<std::filesystem::path> OtherTextFaceFile(const TextFaceName& /*name*/,
+                                                       char32_t /*character*/) {
     return std::nullopt;
 }
 
-DrawingProblem MissingTextFace() {
+DrawingProblem MissingTextFace(const TextFaceName& /*name*/) {
     return {DrawingProblem::Reason::kNoTextFace, {"DejaVu Sans Mono"}};
 }
 

@@ -28,7 +28,7 @@ DataEdit::DataEdit(QWidget* parent) : QLineEdit(parent) {
     // In data every character counts: a zero is not to be taken for a letter.
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { MindCells(text); });
-    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { before = text; });
+    connect(this, &QLineEdit::textChanged, this, [this] { before = text(); });
 }
 
 void DataEdit::SetData(const QString& text) {

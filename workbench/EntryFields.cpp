@@ -176,7 +176,7 @@ void EntryFields::SetWish(const BarcodeWish& wish) {
     {
         const QSignalBlocker checkDigit(checkDigitBox);
         const QSignalBlocker ratio(ratioBox);
-        const QSignalBlocker data(dataBox);
+        const QSignalBlocker typed(dataBox);
         if (IsCheckOffered(*type)) checkDigitBox->setChecked(wish.checkCharacter != 0);
         const auto found = std::find(kRatios.begin(), kRatios.end(), wish.ratio);
         if (ratioBox->isEnabled() && found != kRatios.end())

@@ -5,14 +5,22 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStatusBar>
+#include <QSysInfo>
 #include <algorithm>
 
-#include "LocaleSetting.h"
 #include "host/runtime/Host.h"
 #include "host/runtime/Menus.h"
+#include "host/runtime/Paths.h"
+#include "userfonts/UserFonts.h"
 #include "workbench/BarcodePage.h"
+#include "workbench/HelpWindow.h"
+#include "workbench/Icon.h"
 #include "workbench/ListPage.h"
 #include "workbench/MenuPhrases.h"
+#include "workbench/OutputPhrases.h"
 #include "workbench/Text.h"
 
 namespace linewright {
@@ -25,18 +33,19 @@ constexpr auto kPageKey = "window/page";
 /** The host's pseudo-locale, for tests; nobody picks it. */
 constexpr QLatin1String kPseudoLocale("qps");
 
-QString RunningLocale() {
-    return QString::fromUtf8(host::GetLocaleName(WLocaleSetting::GetLocale()));
-}
-
 }  // namespace
 
-MainWindow::MainWindow(QSettings& userSettings, std::function<void(const QString&)> languageChosen)
-    : settings(userSettings), chooseLanguage(std::move(languageChosen)) {
+MainWindow::MainWindow(QSettings& userSettings, std::function<void(const QString&)> languageChosen,
+                       std::function<void(ActionID)> actionChosen)
+    : settings(userSettings),
+      chooseLanguage(std::move(languageChosen)),
+      chooseAction(std::move(actionChosen)) {
     constexpr QSize kFirstSize(900, 600);
     setWindowTitle(QStringLiteral("Linewright"));
-    resize(kFirstSize);
+    setWindowIcon(ProgramIcon());
+    resize(kFirstSize.boundedTo(screen()->availableSize()));
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
+    statusBar()->setSizeGripEnabled(true);
     tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("pages"));
     tabs->setDocumentMode(true);
@@ -44,10 +53,11 @@ MainWindow::MainWindow(QSettings& userSettings, std::function<void(const QString
     connect(tabs, &QTabWidget::currentChanged, this, [this] { ShowPageActions(); });
 }
 
-void MainWindow::ShowPlugIn(Service& service, const QString& fonts) {
+void MainWindow::ShowPlugIn(Service& service, const Surroundings& places) {
+    surroundings = places;
     locale = RunningLocale();
     const bool isFirst = pages.empty();
-    if (isFirst) MakePages(service, fonts);
+    if (isFirst) MakePages(service);
     SpeakPages();
     MakeMenus();
     tabs->setEnabled(true);
@@ -61,11 +71,11 @@ void MainWindow::HidePlugIn() {
     tabs->setEnabled(false);
 }
 
-void MainWindow::MakePages(Service& service, const QString& fonts) {
-    AddPage(new BarcodePage(service, settings, fonts.toStdString(),
+void MainWindow::MakePages(Service& service) {
+    AddPage(new BarcodePage(service, settings, surroundings,
                             [this](const QString& cells) { OfferCells(cells); }),
             phrases::kBarcodePage);
-    AddPage(new ListPage(service, settings, fonts.toStdString(),
+    AddPage(new ListPage(service, settings, surroundings.fonts,
                          (QFileInfo(settings.fileName()).path() + "/Presets").toStdString()),
             phrases::kListPage);
 }
@@ -113,6 +123,7 @@ void MainWindow::MakeMenus() {
     AddPageMenu(MenuPlace::kView, phrases::kViewMenu);
     AddPlugInMenus();
     AddLanguageMenu();
+    AddHelpMenu();
     ShowPageActions();
 }
 
@@ -120,6 +131,10 @@ void MainWindow::AddPageMenu(MenuPlace place, const Phrase& title) {
     QMenu* const menu = menuBar()->addMenu(Say(title, locale));
     for (const auto& [page, caption] : pages) menu->addActions(page->Actions(place));
     if (place != MenuPlace::kFile) return;
+    menu->addSeparator();
+    QAction* const install =
+        menu->addAction(Say(phrases::kInstallFonts, locale), this, [this] { InstallFonts(); });
+    install->setObjectName(QStringLiteral("installFonts"));
     menu->addSeparator();
     QAction* const quit = menu->addAction(Say(phrases::kQuit, locale), this, [this] { close(); });
     quit->setShortcut(QKeySequence::Quit);
@@ -133,7 +148,7 @@ void MainWindow::AddPlugInMenus() {
         const QString name = TextFromHost(item.menu);
         if (!menus.contains(name)) menus[name] = menuBar()->addMenu(name);
         menus[name]->addAction(TextFromHost(item.text), this,
-                               [action = item.action] { host::DoAction(action); });
+                               [this, action = item.action] { chooseAction(action); });
     }
 }
 
@@ -154,6 +169,48 @@ void MainWindow::AddLanguageMenu() {
         group, &QActionGroup::triggered, this,
         [this](QAction* action) { chooseLanguage(action->data().toString()); },
         Qt::QueuedConnection);
+}
+
+void MainWindow::AddHelpMenu() {
+    QMenu* const menu = menuBar()->addMenu(Say(phrases::kHelpMenu, locale));
+    QAction* const help =
+        menu->addAction(Say(phrases::kHelp, locale), this, [this] { ShowHelp(); });
+    help->setShortcut(QKeySequence::HelpContents);
+    QAction* const about =
+        menu->addAction(Say(phrases::kAbout, locale), this, [this] { ShowAbout(); });
+    about->setMenuRole(QAction::AboutRole);
+}
+
+void MainWindow::InstallFonts() {
+    const InstalledFonts installed = InstallUserFonts(host::PathFromUtf8(surroundings.fonts));
+    if (installed.error.empty()) {
+        QMessageBox::information(
+            this, windowTitle(),
+            Say(phrases::kFontsInstalled, locale)
+                .arg(QString::number(installed.count),
+                     QString::fromStdString(host::Utf8FromPath(installed.folder))));
+    } else {
+        QMessageBox::critical(
+            this, windowTitle(),
+            Say(phrases::kFontsNotInstalled, locale).arg(QString::fromStdString(installed.error)));
+    }
+}
+
+void MainWindow::ShowHelp() {
+    auto* const help = new HelpWindow(locale, this);
+    help->show();
+}
+
+void MainWindow::ShowAbout() {
+    QMessageBox box(QMessageBox::NoIcon, Say(phrases::kAboutTitle, locale),
+                    Say(phrases::kAboutText, locale)
+                        .arg(QApplication::applicationVersion(), QString::fromLatin1(qVersion()),
+                             QSysInfo::prettyProductName()),
+                    QMessageBox::Ok, this);
+    constexpr int kIconSize = 64;
+    box.setIconPixmap(windowIcon().pixmap(kIconSize));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.exec();
 }
 
 void MainWindow::ShowPageActions() {

@@ -1,13 +1,16 @@
 #include "workbench/SizeStrip.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <array>
 #include <cmath>
 
+#include "presets/Preset.h"
+#include "requests/DrawnBarcode.h"
 #include "requests/WrittenLength.h"
+#include "types/BarcodeTypes.h"
 #include "workbench/Keep.h"
 #include "workbench/Language.h"
 #include "workbench/PagePhrases.h"
@@ -17,14 +20,7 @@ namespace linewright {
 
 namespace {
 
-constexpr auto kXDimensionKey = "sizes/xDimension";
-constexpr auto kHeightKey = "sizes/height";
-constexpr auto kQuietZoneKey = "sizes/quietZone";
-constexpr auto kReductionKey = "sizes/reduction";
-constexpr auto kResolutionKey = "sizes/resolution";
-constexpr auto kTextKey = "sizes/text";
-constexpr auto kBearerKey = "sizes/bearer";
-constexpr auto kMarksKey = "sizes/marks";
+constexpr auto kSizesKey = "page/sizes";
 
 /** What printers have, in dots an inch. */
 constexpr std::array kResolutions{203, 300, 600, 1200, 2400, 2540};
@@ -40,48 +36,81 @@ std::optional<Length> LengthOf(const QDoubleSpinBox& box) {
 }  // namespace
 
 SizeStrip::SizeStrip(QSettings& userSettings, QWidget* parent)
-    : QWidget(parent), settings(userSettings) {
+    : QWidget(parent), settings(userSettings), type(&kBarcodeTypes.front()) {
     MakeField(xDimension, "xDimension", 0.05, 10, 4, 0.01);
     MakeField(magnification, "magnification", 1, 3000, 1, 5);
     MakeField(height, "height", 0.1, 500, 2, 1);
     MakeField(quietZone, "quietZone", 0, 100, 2, 0.5);
     MakeField(reduction, "reduction", 0, 25, 1, 1);
+    MakeChoices();
+    Arrange();
+    Restore();
+    Connect();
+}
+
+void SizeStrip::MakeChoices() {
     resolutionLabel = new QLabel(this);
     resolutionBox = new QComboBox(this);
     resolutionBox->setObjectName(QStringLiteral("resolution"));
     resolutionBox->setEditable(true);
     resolutionBox->setInsertPolicy(QComboBox::NoInsert);
+    resolutionBox->setMinimumContentsLength(5);
     resolutionBox->addItem(QString());
     for (const int dots : kResolutions) resolutionBox->addItem(QString::number(dots));
     resolutionLabel->setBuddy(resolutionBox);
-    textBox = new QCheckBox(this);
-    textBox->setObjectName(QStringLiteral("text"));
-    bearerBox = new QCheckBox(this);
-    bearerBox->setObjectName(QStringLiteral("bearer"));
-    marksBox = new QCheckBox(this);
-    marksBox->setObjectName(QStringLiteral("marks"));
+    const auto makeBox = [this](const char* name) {
+        auto* const box = new QCheckBox(this);
+        box->setObjectName(QLatin1String(name));
+        return box;
+    };
+    textBox = makeBox("text");
+    bearerBox = makeBox("bearer");
+    marksBox = makeBox("marks");
     usualButton = new QPushButton(this);
     usualButton->setObjectName(QStringLiteral("usual"));
     usualButton->setAutoDefault(false);
     sizeLabel = new QLabel(this);
     sizeLabel->setObjectName(QStringLiteral("size"));
     sizeLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    Arrange();
-    Restore();
-    for (Field* const field : {&xDimension, &height, &quietZone, &reduction}) {
-        connect(field->box, &QDoubleSpinBox::valueChanged, this,
-                [this, field] { TakeNumber(*field); });
-    }
-    connect(magnification.box, &QDoubleSpinBox::valueChanged, this,
-            [this] { TakeMagnification(); });
-    connect(resolutionBox, &QComboBox::currentTextChanged, this, [this] { Change(); });
-    connect(textBox, &QCheckBox::clicked, this, [this](bool on) {
-        isTextWanted = on;
+    sizeLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void SizeStrip::Connect() {
+    const auto onNumber = [this](const Field& field, auto take) {
+        connect(field.box, &QDoubleSpinBox::valueChanged, this, [this, take] {
+            take();
+            Change();
+        });
+    };
+    onNumber(xDimension, [this] {
+        if (const auto length = LengthOf(*xDimension.box)) wish.xDimension = length->number;
+        wish.magnification.reset();
+    });
+    onNumber(magnification, [this] {
+        wish.xDimension.reset();
+        wish.magnification = magnification.box->value();
+    });
+    onNumber(height, [this] { wish.height = LengthOf(*height.box); });
+    onNumber(quietZone, [this] { wish.quietZone = LengthOf(*quietZone.box); });
+    onNumber(reduction, [this] {
+        const QString written = QString::number(reduction.box->value(), 'f', 1) + '%';
+        wish.barWidthReduction = FindReduction(written.toStdString());
+    });
+    connect(resolutionBox, &QComboBox::currentTextChanged, this, [this] {
+        wish.dotsPerInch = Resolution();
+        wish.isFitted = wish.dotsPerInch.has_value();
         Change();
     });
-    for (QCheckBox* const box : {bearerBox, marksBox})
-        connect(box, &QCheckBox::clicked, this, [this] { Change(); });
-    connect(usualButton, &QPushButton::clicked, this, [this] { TakeUsual(); });
+    const auto onTick = [this](QCheckBox* box, auto take) {
+        connect(box, &QCheckBox::clicked, this, [this, take](bool on) {
+            take(on);
+            Change();
+        });
+    };
+    onTick(textBox, [this](bool on) { wish.isTextWanted = on; });
+    onTick(bearerBox, [this](bool on) { wish.hasBearerBars = on; });
+    onTick(marksBox, [this](bool on) { wish.hasMarginMarks = on; });
+    connect(usualButton, &QPushButton::clicked, this, [this] { SetWish({}); });
 }
 
 void SizeStrip::MakeField(Field& field, const char* name, double least, double most, int decimals,
@@ -98,7 +127,7 @@ void SizeStrip::MakeField(Field& field, const char* name, double least, double m
 
 void SizeStrip::Arrange() {
     constexpr int kSpacing = 6;
-    grid = new QGridLayout;
+    auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(kSpacing);
     grid->setVerticalSpacing(kSpacing / 2);
     int column = 0;
@@ -147,7 +176,6 @@ void SizeStrip::Speak(const QString& locale) {
     resolutionLabel->setText(Say(phrases::kResolution, locale));
     resolutionBox->setAccessibleName(SpokenText(resolutionLabel->text()));
     resolutionBox->lineEdit()->setPlaceholderText(Say(phrases::kNoResolution, locale));
-    resolutionBox->setItemText(0, QString());
     textBox->setText(Say(phrases::kTextBelow, locale));
     bearerBox->setText(Say(phrases::kBearerBars, locale));
     marksBox->setText(Say(phrases::kMarginMarks, locale));
@@ -158,98 +186,82 @@ void SizeStrip::Speak(const QString& locale) {
 void SizeStrip::ShowType(const BarcodeType& shown) {
     type = &shown;
     const bool hasBars = type->symbology != Symbology::kText;
-    for (const Field* const field : {&height, &reduction}) {
-        const bool isOffered = hasBars && !(field == &height && type->HasFixedHeight());
-        field->label->setEnabled(isOffered);
-        field->box->setEnabled(isOffered);
-    }
-    textBox->setEnabled(hasBars && !IsTextPrinted());
+    const auto offer = [](const Field& field, bool isOffered) {
+        field.label->setEnabled(isOffered);
+        field.box->setEnabled(isOffered);
+    };
+    offer(height, hasBars && !type->HasFixedHeight());
+    offer(reduction, hasBars);
+    // Digits that the font prints, or that are all there is, cannot be left out.
+    textBox->setEnabled(hasBars && !type->face->printsText);
     bearerBox->setEnabled(type->MayHaveBearerBars());
     marksBox->setEnabled(type->MayHaveMarginMarks());
-    // Digits that the font prints, or that are all there is, cannot be left out.
-    textBox->setChecked(!textBox->isEnabled() || isTextWanted.value_or(true));
+    ShowWish();
+}
+
+void SizeStrip::ShowWish() {
+    textBox->setChecked(!textBox->isEnabled() || wish.isTextWanted.value_or(true));
+    bearerBox->setChecked(bearerBox->isEnabled() && wish.hasBearerBars);
+    marksBox->setChecked(marksBox->isEnabled() && wish.hasMarginMarks);
+    const QString dots = wish.dotsPerInch ? QString::number(*wish.dotsPerInch) : QString();
+    if (Resolution() != wish.dotsPerInch) {
+        const QSignalBlocker silence(resolutionBox);
+        resolutionBox->setEditText(dots);
+    }
+    const double x = XDimension();
+    ShowNumber(xDimension, x / kMillimetre);
+    ShowNumber(magnification, 100 * x / type->dimensions.xDimension);
+    if (wish.height) ShowNumber(height, wish.height->Points(x) / kMillimetre);
+    if (wish.quietZone) ShowNumber(quietZone, wish.quietZone->Points(x) / kMillimetre);
+    const double narrower = wish.barWidthReduction ? wish.barWidthReduction->Points(x) : 0;
+    ShowNumber(reduction, 100 * narrower / x);
 }
 
 void SizeStrip::ShowDrawing(const BarcodeDrawing* drawing) {
-    usualButton->setEnabled(xDimension.isSet || height.isSet || quietZone.isSet ||
-                            reduction.isSet || isTextWanted || Resolution() ||
-                            bearerBox->isChecked() || marksBox->isChecked());
-    if (drawing == nullptr) {
-        sizeLabel->clear();
-        return;
-    }
-    const double x = drawing->Module() * type->dimensions.modulesPerX;
-    if (!xDimension.isSet) {
-        ShowNumber(xDimension, x / kMillimetre);
-        ShowNumber(magnification, 100 * x / type->dimensions.xDimension);
-    }
-    if (!height.isSet) ShowNumber(height, drawing->BarHeight() / kMillimetre);
-    if (!quietZone.isSet)
+    usualButton->setEnabled(!PresetText(wish).empty());
+    ShowWish();
+    sizeLabel->clear();
+    if (drawing == nullptr) return;
+    if (!wish.height) ShowNumber(height, drawing->BarHeight() / kMillimetre);
+    if (!wish.quietZone) {
         ShowNumber(quietZone, type->dimensions.quietLeft * drawing->Module() / kMillimetre);
-    if (!reduction.isSet) ShowNumber(reduction, 0);
-    const double width = drawing->Width() * drawing->Module();
-    const double tall = drawing->Height() * drawing->Module();
+    }
+    ShowSizes(*drawing);
+}
+
+void SizeStrip::ShowSizes(const BarcodeDrawing& drawing) {
     const auto number = [this](double value, int decimals) {
         return NumberText(value, decimals, language);
     };
+    const double x = drawing.Module() * type->dimensions.modulesPerX;
+    const double width = drawing.Width() * drawing.Module();
+    const double tall = drawing.Height() * drawing.Module();
     QString text =
         Say(phrases::kDrawnSizes, language)
             .arg(number(width / kMillimetre, 2), number(tall / kMillimetre, 2), number(width, 1),
                  number(tall, 1), number(x / kMillimetre, 3), number(x, 2));
-    if (drawing->DotsPerInch()) {
-        const double dots = x / kInch * *drawing->DotsPerInch();
-        text += Say(phrases::kDotsPerModule, language)
-                    .arg(number(dots, std::abs(dots - std::round(dots)) < 0.005 ? 0 : 2));
+    if (drawing.DotsPerInch()) {
+        const double dots = x / kInch * *drawing.DotsPerInch();
+        const bool isWhole = std::abs(dots - std::round(dots)) < 0.005;
+        text += Say(phrases::kDotsPerModule, language).arg(number(dots, isWhole ? 0 : 2));
     }
     sizeLabel->setText(text);
+    sizeLabel->setToolTip(text);
 }
 
 DrawingWish SizeStrip::Wish() const {
-    DrawingWish wish;
-    if (xDimension.isSet) {
-        if (const auto length = LengthOf(*xDimension.box)) wish.xDimension = length->number;
-    }
-    if (height.isSet && height.box->isEnabled()) wish.height = LengthOf(*height.box);
-    if (quietZone.isSet) wish.quietZone = LengthOf(*quietZone.box);
-    if (reduction.isSet && reduction.box->isEnabled()) {
-        const QString written = QString::number(reduction.box->value(), 'f', 1) + '%';
-        wish.barWidthReduction = FindReduction(written.toStdString());
-    }
-    if (textBox->isEnabled()) wish.isTextWanted = isTextWanted;
-    wish.hasBearerBars = bearerBox->isEnabled() && bearerBox->isChecked();
-    wish.hasMarginMarks = marksBox->isEnabled() && marksBox->isChecked();
-    wish.dotsPerInch = Resolution();
-    wish.isFitted = wish.dotsPerInch.has_value();
-    return wish;
+    DrawingWish offered = wish;
+    if (!height.box->isEnabled()) offered.height.reset();
+    if (!reduction.box->isEnabled()) offered.barWidthReduction.reset();
+    if (!textBox->isEnabled()) offered.isTextWanted.reset();
+    offered.hasBearerBars = wish.hasBearerBars && bearerBox->isEnabled();
+    offered.hasMarginMarks = wish.hasMarginMarks && marksBox->isEnabled();
+    return offered;
 }
 
-void SizeStrip::SetWish(const DrawingWish& wish) {
-    const double x = wish.xDimension.value_or(type->dimensions.xDimension);
-    const auto set = [](Field& field, std::optional<double> number) {
-        field.isSet = number.has_value();
-        const QSignalBlocker silence(field.box);
-        if (number) field.box->setValue(*number);
-    };
-    const auto millimetres = [x](const std::optional<Length>& length) -> std::optional<double> {
-        if (!length) return std::nullopt;
-        return length->Points(x) / kMillimetre;
-    };
-    set(xDimension, wish.xDimension ? std::optional(*wish.xDimension / kMillimetre) : std::nullopt);
-    if (wish.xDimension) ShowNumber(magnification, 100 * x / type->dimensions.xDimension);
-    set(height, millimetres(wish.height));
-    set(quietZone, millimetres(wish.quietZone));
-    set(reduction, wish.barWidthReduction
-                       ? std::optional(100 * wish.barWidthReduction->Points(x) / x)
-                       : std::nullopt);
-    isTextWanted = wish.isTextWanted;
-    bearerBox->setChecked(wish.hasBearerBars);
-    marksBox->setChecked(wish.hasMarginMarks);
-    {
-        const QSignalBlocker silence(resolutionBox);
-        resolutionBox->setEditText(wish.dotsPerInch ? QString::number(*wish.dotsPerInch)
-                                                    : QString());
-    }
-    ShowType(*type);
+void SizeStrip::SetWish(const DrawingWish& wanted) {
+    wish = wanted;
+    ShowWish();
     Change();
 }
 
@@ -258,76 +270,22 @@ void SizeStrip::AddWidget(QWidget* widget) {
 }
 
 void SizeStrip::Restore() {
-    const auto restore = [this](Field& field, const char* key) {
-        const QVariant value = settings.value(QLatin1String(key));
-        field.isSet = value.isValid();
-        if (field.isSet) field.box->setValue(value.toDouble());
-    };
-    restore(xDimension, kXDimensionKey);
-    restore(height, kHeightKey);
-    restore(quietZone, kQuietZoneKey);
-    restore(reduction, kReductionKey);
-    resolutionBox->setEditText(settings.value(QLatin1String(kResolutionKey)).toString());
-    const QVariant text = settings.value(QLatin1String(kTextKey));
-    if (text.isValid()) isTextWanted = text.toBool();
-    bearerBox->setChecked(settings.value(QLatin1String(kBearerKey), false).toBool());
-    marksBox->setChecked(settings.value(QLatin1String(kMarksKey), false).toBool());
+    try {
+        const std::string kept = settings.value(QLatin1String(kSizesKey)).toString().toStdString();
+        wish = PresetOf(kept, settings.fileName().toStdString());
+    } catch (const PresetFailure&) {
+        // The usual sizes, where somebody else has written there.
+        wish = {};
+    }
 }
 
-void SizeStrip::Store() {
-    const auto store = [this](const char* key, bool isSet, const QVariant& value) {
-        if (isSet) {
-            Keep(settings, QLatin1String(key), value);
-        } else {
-            settings.remove(QLatin1String(key));
-        }
-    };
-    store(kXDimensionKey, xDimension.isSet, xDimension.box->value());
-    store(kHeightKey, height.isSet, height.box->value());
-    store(kQuietZoneKey, quietZone.isSet, quietZone.box->value());
-    store(kReductionKey, reduction.isSet, reduction.box->value());
-    store(kResolutionKey, Resolution().has_value(), resolutionBox->currentText());
-    store(kBearerKey, bearerBox->isChecked(), true);
-    store(kMarksKey, marksBox->isChecked(), true);
-    store(kTextKey, isTextWanted.has_value(), isTextWanted.value_or(false));
-}
-
-void SizeStrip::ShowNumber(Field& field, double number) {
+void SizeStrip::ShowNumber(const Field& field, double number) {
     const QSignalBlocker silence(field.box);
     field.box->setValue(number);
 }
 
-void SizeStrip::TakeNumber(Field& field) {
-    field.isSet = true;
-    if (&field == &xDimension) {
-        ShowNumber(magnification,
-                   100 * field.box->value() * kMillimetre / type->dimensions.xDimension);
-    }
-    Change();
-}
-
-void SizeStrip::TakeMagnification() {
-    xDimension.isSet = true;
-    ShowNumber(xDimension,
-               magnification.box->value() / 100 * type->dimensions.xDimension / kMillimetre);
-    Change();
-}
-
-void SizeStrip::TakeUsual() {
-    for (Field* const field : {&xDimension, &height, &quietZone, &reduction}) field->isSet = false;
-    isTextWanted.reset();
-    bearerBox->setChecked(false);
-    marksBox->setChecked(false);
-    {
-        const QSignalBlocker silence(resolutionBox);
-        resolutionBox->setEditText(QString());
-    }
-    ShowType(*type);
-    Change();
-}
-
 void SizeStrip::Change() {
-    Store();
+    Keep(settings, QLatin1String(kSizesKey), QString::fromStdString(PresetText(wish)));
     if (changed) changed();
 }
 
@@ -338,8 +296,8 @@ std::optional<double> SizeStrip::Resolution() const {
     return dots;
 }
 
-bool SizeStrip::IsTextPrinted() const {
-    return type->face != nullptr && type->face->printsText;
+double SizeStrip::XDimension() const {
+    return XDimensionOf(wish, *type).value_or(type->dimensions.xDimension);
 }
 
 }  // namespace linewright

@@ -3,7 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
@@ -31,37 +31,40 @@ class SizeStrip final : public QWidget {
     /** The sizes that came of it; none where nothing was drawn. */
     void ShowDrawing(const BarcodeDrawing* drawing);
 
-    /** What fields of the type that is shown ask for. */
+    /** What is wished for of the type that is shown. */
     DrawingWish Wish() const;
-    void SetWish(const DrawingWish& wish);
+    void SetWish(const DrawingWish& wanted);
     /** Stands in front of the button for the usual sizes. */
     void AddWidget(QWidget* widget);
 
   private:
-    /** A number that is the user's, or else shows what there is. */
+    /** A number: what is wished for, or else what there is. */
     struct Field {
         QLabel* label = nullptr;
         QDoubleSpinBox* box = nullptr;
-        bool isSet = false;
     };
 
     void MakeField(Field& field, const char* name, double least, double most, int decimals,
                    double step);
+    void MakeChoices();
     void Arrange();
+    void Connect();
     void Restore();
-    void Store();
-    void ShowNumber(Field& field, double number);
-    void TakeNumber(Field& field);
-    void TakeMagnification();
-    void TakeUsual();
+    void ShowNumber(const Field& field, double number);
+    /** Shows what is wished for where a field does not show what there is. */
+    void ShowWish();
+    void ShowSizes(const BarcodeDrawing& drawing);
+    /** After the wish has become another one. */
     void Change();
     /** Of the resolution that is written; none for none. */
     std::optional<double> Resolution() const;
-    bool IsTextPrinted() const;
+    /** Of the narrowest bar, in points. */
+    double XDimension() const;
 
     QSettings& settings;
     QString language;
-    const BarcodeType* type = nullptr;
+    const BarcodeType* type;
+    DrawingWish wish;
     Field xDimension;
     Field magnification;
     Field height;
@@ -72,10 +75,8 @@ class SizeStrip final : public QWidget {
     QCheckBox* textBox;
     QCheckBox* bearerBox;
     QCheckBox* marksBox;
-    std::optional<bool> isTextWanted;
     QPushButton* usualButton;
     QLabel* sizeLabel;
-    QGridLayout* grid;
     QHBoxLayout* buttons;
 };
 

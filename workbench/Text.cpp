@@ -2,6 +2,9 @@
 
 #include <QRegularExpression>
 
+#include "LocaleSetting.h"
+#include "host/runtime/Host.h"
+
 namespace linewright {
 
 QString TextFromHost(const PMString& text) {
@@ -17,6 +20,10 @@ PMString TextForHost(const QString& text) {
     PMString result;
     for (const uint character : text.toUcs4()) result.AppendW(character);
     return result;
+}
+
+QString RunningLocale() {
+    return QString::fromUtf8(host::GetLocaleName(WLocaleSetting::GetLocale()));
 }
 
 QString SpokenText(const QString& caption) {

@@ -106,6 +106,11 @@ void TypeChooser::SetRecent(const std::vector<const BarcodeType*>& types) {
     if (!texts.empty()) Fill();
 }
 
+void TypeChooser::StartSearch() {
+    field->setFocus();
+    field->selectAll();
+}
+
 const TypeTexts& TypeChooser::Chosen() const {
     return *std::find_if(texts.begin(), texts.end(),
                          [this](const TypeTexts& row) { return row.type == chosen; });

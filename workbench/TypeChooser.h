@@ -26,6 +26,9 @@ class TypeChooser final : public QWidget {
     /** Those used last, the last one first. */
     void SetRecent(const std::vector<const BarcodeType*>& types);
 
+    /** Lets the user type into the field. */
+    void StartSearch();
+
     const TypeTexts& Chosen() const;
     /** The first one, where there is no such type. */
     void Choose(const BarcodeType* type);

@@ -2,6 +2,7 @@
 
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 
@@ -19,6 +20,7 @@ struct WorkbenchOptions {
     QString fonts;   // the folder of the barcode fonts
     QString locale;  // rather than the one used last, or else the user's
     std::function<void()> beep;
+    QStringList command{};  // that does the same in a shell
 };
 
 /** The desktop program: the host with the plug-in, and the window to use them in. */
@@ -34,9 +36,11 @@ class Workbench final {
     bool Start();
     QString Error() const { return error; }
     MainWindow& Window() { return window; }
+    /** The plug-in, once it has started. */
+    Service& PlugIn() { return *service; }
 
     /** Starts the host anew with another language, which is remembered. Dialogs that are open are
-     *  closed; nothing happens while a modal one is. */
+     *  opened again with what they held; nothing happens while a modal one is. */
     void SwitchLanguage(const QString& locale);
 
   private:

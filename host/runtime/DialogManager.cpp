@@ -3,6 +3,7 @@
 #include <new>
 
 #include "host/runtime/Dialog.h"
+#include "host/runtime/FourCharCode.h"
 #include "host/runtime/Running.h"
 
 namespace host {

@@ -1,21 +1,17 @@
 #include "host/runtime/ViewTable.h"
 
 #include <algorithm>
-#include <map>
+#include <iterator>
 
-#include "IPanelControlData.h"
-#include "host/runtime/ClassTable.h"
 #include "host/runtime/ResourceFile.h"
 
 namespace host {
 
 namespace {
 
-const std::map<std::string, WidgetKind, std::less<>> kKinds{
-    {"label", WidgetKind::kLabel},         {"editBox", WidgetKind::kEditBox},
-    {"resultBox", WidgetKind::kResultBox}, {"description", WidgetKind::kDescription},
-    {"checkBox", WidgetKind::kCheckBox},   {"popUp", WidgetKind::kPopUp},
-    {"button", WidgetKind::kButton},
+constexpr WidgetKind kKinds[] = {
+    WidgetKind::kLabel,    WidgetKind::kEditBox, WidgetKind::kResultBox, WidgetKind::kDescription,
+    WidgetKind::kCheckBox, WidgetKind::kPopUp,   WidgetKind::kButton,
 };
 
 const toml::array& GetList(const ResourceFile& file, const toml::table& table,
@@ -40,9 +36,12 @@ WidgetResource ReadWidget(const ResourceFile& file, const toml::table& table, Wi
         table, {"kind", "id", "text", "items", "maxLength", "maxCharacter", "visible", "column"});
     WidgetResource widget;
     widget.place = place;
-    const auto kind = kKinds.find(file.GetText(table, "kind"));
-    if (kind == kKinds.end()) file.Fail(file.Get(table, "kind"), "no such kind of widget");
-    widget.kind = kind->second;
+    const std::string kindName = file.GetText(table, "kind");
+    const auto* const kind =
+        std::find_if(std::begin(kKinds), std::end(kKinds),
+                     [&](WidgetKind each) { return kindName == NameOf(each); });
+    if (kind == std::end(kKinds)) file.Fail(file.Get(table, "kind"), "no such kind of widget");
+    widget.kind = *kind;
     if (table.contains("id")) widget.id = file.GetID(table, "id");
     if (table.contains("text")) widget.text = file.GetText(table, "text");
     if (table.contains("items")) widget.items = ReadItems(file, table);
@@ -116,14 +115,13 @@ void CheckWidgets(const ResourceFile& file, const toml::table& table,
 }
 
 DialogResource ReadDialog(const ResourceFile& file, const toml::table& table,
-                          const ClassTable& classes) {
+                          const IsDialogClass& isDialogClass) {
     file.ExpectOnly(table, {"id", "class", "title", "default", "cancel", "buttons", "group"});
     DialogResource dialog;
     dialog.plugin = file.GetID(file.Root(), "plugin");
     dialog.id = static_cast<RsrcID>(file.GetID(table, "id"));
     dialog.classID = file.GetID(table, "class");
-    const BossClass* const bossClass = classes.Find(dialog.classID);
-    if (!bossClass || !bossClass->Has(IID_IPANELCONTROLDATA))
+    if (!isDialogClass(dialog.classID))
         file.Fail(file.Get(table, "class"), "\"class\" is no class based on kDialogBoss");
     dialog.title = file.GetText(table, "title");
     ReadGroups(file, table, dialog);
@@ -146,11 +144,11 @@ void ReadMenu(const ResourceFile& file, const toml::table& table,
 
 }  // namespace
 
-ViewTable::ViewTable(const Definitions& definitions, const ClassTable& classes) {
+ViewTable::ViewTable(const Definitions& definitions, const IsDialogClass& isDialogClass) {
     for (const ResourceFile& file : definitions.files) {
         if (file.Root().contains("dialog")) {
             for (const toml::table* table : file.GetTables(file.Root(), "dialog")) {
-                DialogResource dialog = ReadDialog(file, *table, classes);
+                DialogResource dialog = ReadDialog(file, *table, isDialogClass);
                 if (Find(dialog.plugin, dialog.id))
                     file.Fail(*table, "dialog " + std::to_string(dialog.id) + " is there twice");
                 fDialogs.push_back(std::move(dialog));

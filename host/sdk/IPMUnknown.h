@@ -10,7 +10,7 @@
  */
 class IPMUnknown {
   public:
-    enum { kDefaultIID = IID_IPMUNKNOWN };
+    enum { kDefaultIID = 0 };
 
     virtual IPMUnknown* QueryInterface(PMIID interfaceID) const = 0;
     virtual void AddRef() const = 0;

@@ -3,12 +3,10 @@
 #include "IPMUnknown.h"
 #include "PMString.h"
 
-constexpr PMIID IID_ISTRINGLISTCONTROLDATA = 0x0F12;
-
 /** The items of a list. */
 class IStringListControlData : public IPMUnknown {
   public:
-    enum { kDefaultIID = IID_ISTRINGLISTCONTROLDATA };
+    enum { kDefaultIID = 0x0F12 };
     enum Position { kEnd = -2 };
 
     /** Removes all items, and with them the selection. */
@@ -19,3 +17,5 @@ class IStringListControlData : public IPMUnknown {
     /** The text of an item; empty where there is none. */
     virtual PMString GetString(int32 index) const = 0;
 };
+
+const PMIID IID_ISTRINGLISTCONTROLDATA(IStringListControlData::kDefaultIID);

@@ -227,7 +227,7 @@ TEST(Csv, QuotesWhatNeedsQuotes) {
 TEST(Csv, LosesNothingOfRandomText) {
     std::mt19937 random(4180);
     constexpr std::string_view kAlphabet = "ab,;\"\"\n\r ";
-    for (int round = 0; round < 20'000; ++round) {
+    for (int round = 0; round < 4'000; ++round) {
         std::string text;
         for (auto length = random() % 20; length > 0; --length) {
             text += kAlphabet[random() % kAlphabet.size()];

@@ -1,5 +1,6 @@
 #include "FileUtils.h"
 #include "StreamUtil.h"
+#include "host/runtime/FourCharCode.h"
 #include "tests/host/HostTest.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ using Io = host::Faults::Io;
 
 namespace {
 
-constexpr OSType kUnknownType = FourCharCode('?', '?', '?', '?');
+constexpr OSType kUnknownType = host::FourCharCode('?', '?', '?', '?');
 
 InterfacePtr<IPMStream> OpenRead(const fs::path& path) {
     return InterfacePtr<IPMStream>(

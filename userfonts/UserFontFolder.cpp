@@ -1,4 +1,4 @@
-#include "cli/UserFonts.h"
+#include "userfonts/UserFontFolder.h"
 
 #include <cstdlib>
 

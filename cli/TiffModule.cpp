@@ -1,0 +1,8 @@
+#include "cli/Modules.h"
+
+/** The library's entry. */
+extern "C" EXPORTED_DECL const void* GetModule() {
+    using namespace linewright;
+    static constexpr TiffModule kModule{TiffOf};
+    return &kModule;
+}
