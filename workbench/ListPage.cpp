@@ -105,7 +105,8 @@ void ListPage::MakeActions() {
     }
     proofAction = NewAction("proof", {}, [this] { output.AskForProof(); });
     csvAction = NewAction("csv", {}, [this] { output.AskForCsv(); });
-    exportMenu->addActions({proofAction, csvAction});
+    labelsAction = NewAction("labels", {}, [this] { output.AskForLabels(); });
+    exportMenu->addActions({proofAction, labelsAction, csvAction});
     openAction = NewAction("openAction", QKeySequence::Open, [this] { AskForFile(); });
     exportAction = exportMenu->menuAction();
     printAction = NewAction("printAction", QKeySequence::Print, [this] {
@@ -226,7 +227,7 @@ void ListPage::Speak(const QString& locale) {
         {printAction, phrases::kPrintList},   {pasteAction, phrases::kPasteCells},
         {sequenceAction, phrases::kSequence}, {deleteAction, phrases::kDeleteRows},
         {copyAction, phrases::kCopyTexts},    {proofAction, phrases::kProof},
-        {csvAction, phrases::kResultsCsv}};
+        {labelsAction, phrases::kLabels},     {csvAction, phrases::kResultsCsv}};
     for (const auto& [action, phrase] : actions) action->setText(Words(phrase));
     message->clear();
     if (model.Width() == 0 && model.Wish().type.empty())

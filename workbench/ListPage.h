@@ -102,6 +102,7 @@ class ListPage final : public Page {
     QAction* copyAction;
     QAction* proofAction;
     QAction* csvAction;
+    QAction* labelsAction;
     /** Last, so that a run ends before what it uses. */
     ListOutput output;
 };
