@@ -91,6 +91,9 @@ QString ListOutput::AskForFile(const QString& filter, const QString& suffix) {
                        settings.value(kFolderKey).toString(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& chosen) {
+        dialog.setDefaultSuffix(chosen.section(QStringLiteral("*."), 1).chopped(1));
+    });
     if (dialog.exec() != QDialog::Accepted) return {};
     settings.setValue(kFolderKey, dialog.directory().path());
     return dialog.selectedFiles().constFirst();
@@ -148,7 +151,7 @@ std::vector<LabelLine> ListOutput::LinesOfLabels(const std::vector<std::string>&
 
 void ListOutput::WriteLabels(const QString& file, const LabelSheet& sheet) {
     const auto format = DocumentFormatOf(file.toStdString());
-    if (run || !format) {
+    if (!format) {
         QMessageBox::critical(parent, parent->window()->windowTitle(),
                               Say(phrases::kLabelEnding, language).arg(file));
         return;

@@ -335,6 +335,34 @@ TEST_F(ListTest, TypesHaveTheirOptions) {
     WaitUntilJudged();
     Click("copy");
     EXPECT_NE(QApplication::clipboard()->text(), checked);
+    // What was unticked stays so when rows come and when another language is chosen.
+    Paste("B\n");
+    workbench->SwitchLanguage("deDE");
+    WaitUntilJudged();
+    EXPECT_FALSE(Named<QAbstractButton>("checkDigit").isChecked());
+    EXPECT_EQ(Named<QComboBox>("type").currentText(), "Code 39");
+}
+
+TEST_F(ListTest, FollowsThePreferencesAndIsLeftAloneWhereTheyAreTheSame) {
+    StartList();
+    ChooseListType("Code 39 (Classic)");
+    Paste("ABC\n");
+    Click("copy");
+    const QString before = QApplication::clipboard()->text();
+    int changes = 0;
+    QObject::connect(&Page().Model(), &QAbstractItemModel::dataChanged, [&] { ++changes; });
+    Page().Refresh();
+    QTest::qWait(20);
+    EXPECT_EQ(changes, 0);
+    UsePreferences([](DialogWindow& dialog) {
+        QTest::keyClick(&At<QComboBox>(dialog, kCode39Check), Qt::Key_Home);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    workbench->Window().activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return changes > 0; }));
+    WaitUntilJudged();
+    Click("copy");
+    EXPECT_EQ(QApplication::clipboard()->text().size(), before.size() - 1);
 }
 
 TEST_F(ListTest, FollowsTheLanguageWithItsRows) {
