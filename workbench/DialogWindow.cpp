@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <algorithm>
 #include <utility>
 
@@ -23,6 +24,14 @@ constexpr int kMargin = 16;
 constexpr int kGroupSpacing = 16;
 constexpr int kColumnSpacing = 12;
 constexpr int kRowSpacing = 8;
+/** For the row of buttons and what is around it. */
+constexpr int kButtonRoom = 90;
+
+/** What a window can have of a screen, with room for the frame that a window manager adds. */
+QSize RoomOn(const QScreen& screen) {
+    constexpr QSize kFrame(16, 48);
+    return screen.availableSize() - kFrame;
+}
 
 bool TakesRoom(const ShownWidget& widget) {
     return widget.GetKind() == WidgetKind::kDescription;
@@ -137,8 +146,25 @@ void DialogWindow::Arrange() {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kGroupSpacing);
+    auto* const body = new QWidget(this);
+    auto* const groups = new QVBoxLayout(body);
+    groups->setContentsMargins({});
+    groups->setSpacing(kGroupSpacing);
     for (int32 group = 0; group < dialog->CountGroups(); ++group)
-        column->addLayout(ArrangeGroup(group));
+        groups->addLayout(ArrangeGroup(group));
+    // What is done with a dialog stays in sight on any screen.
+    const bool isScrolled = body->sizeHint().height() > RoomOn(*screen()).height() - kButtonRoom;
+    if (isScrolled) {
+        auto* const area = new QScrollArea(this);
+        area->setWidget(body);
+        area->setWidgetResizable(true);
+        area->setFrameShape(QFrame::NoFrame);
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area->setMinimumWidth(body->sizeHint().width() + kGroupSpacing);
+        column->addWidget(area, 1);
+    } else {
+        column->addWidget(body, 1);
+    }
     const bool hasBoxes = std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
         return pair.first->GetKind() == WidgetKind::kEditBox;
     });
@@ -147,8 +173,9 @@ void DialogWindow::Arrange() {
     if (hasBoxes) column->addWidget(notice);
     column->addLayout(ArrangeButtons());
     AlignColumns();
-    const bool isSizable = std::any_of(controls.begin(), controls.end(),
-                                       [](const auto& pair) { return TakesRoom(*pair.first); });
+    const bool isSizable =
+        isScrolled || std::any_of(controls.begin(), controls.end(),
+                                  [](const auto& pair) { return TakesRoom(*pair.first); });
     column->setSizeConstraint(isSizable ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
     setSizeGripEnabled(isSizable);
 }
@@ -236,7 +263,7 @@ void DialogWindow::KeepOnScreen() {
     constexpr QSize kUsualSize(660, 620);
     const QRect room = screen()->availableGeometry();
     const bool isPlaced = settings.contains(PlaceKey());
-    if (isSizeGripEnabled()) resize((isPlaced ? size() : kUsualSize).boundedTo(room.size()));
+    if (isSizeGripEnabled()) resize((isPlaced ? size() : kUsualSize).boundedTo(RoomOn(*screen())));
     if (isPlaced && !room.contains(geometry())) {
         move(std::clamp(x(), room.left(), std::max(room.left(), room.right() - width())),
              std::clamp(y(), room.top(), std::max(room.top(), room.bottom() - height())));
