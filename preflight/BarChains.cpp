@@ -79,6 +79,7 @@ std::vector<PixelBox> BarsOf(const GreyRaster& picture, double pixelsPerMillimet
         part.box.bottom = std::max(part.box.bottom, run.row + 1);
     }
     std::vector<PixelBox> bars;
+    bars.reserve(parts.size());
     for (const Part& part : parts) {
         const double width = part.box.Width() / pixelsPerMillimetre;
         const double height = part.box.Height() / pixelsPerMillimetre;
@@ -105,6 +106,7 @@ std::vector<BarChain> FindBarChains(const GreyRaster& picture, double pixelsPerM
     const std::vector<PixelBox> bars = BarsOf(picture, pixelsPerMillimetre);
     std::vector<bool> isTaken(bars.size());
     std::vector<BarChain> chains;
+    chains.reserve(bars.size());
     for (std::size_t start = 0; start < bars.size(); ++start) {
         if (isTaken[start]) continue;
         BarChain chain{bars[start]};

@@ -106,8 +106,8 @@ void ReachOut(BarGroup& group, const std::vector<double>& longer) {
     for (const double side : longer) {
         if (side > group.right && side - group.right < far) group.right = side;
     }
-    for (auto side = longer.rbegin(); side != longer.rend(); ++side) {
-        if (*side < group.left && group.left - *side < far) group.left = *side;
+    for (const double side : std::vector<double>(longer.rbegin(), longer.rend())) {
+        if (side < group.left && group.left - side < far) group.left = side;
     }
 }
 
@@ -174,6 +174,7 @@ std::optional<GreyRaster> PictureOf(const VectorPage& page, const BarGroup& grou
     const std::vector<Stretch> stretches = page.Along(middle, begin, end, isTurned);
     std::size_t place = 0;
     std::vector<std::uint8_t> row;
+    row.reserve(static_cast<std::size_t>(picture.width));
     for (int x = 0; x < picture.width; ++x) {
         const double position = begin + (x + 0.5) / pixels;
         while (place + 1 < stretches.size() && stretches[place].end < position) ++place;

@@ -157,6 +157,8 @@ Measures MeasureLines(const std::vector<SymbolLine>& lines, LineSource source) {
     std::array<Mean, 6> parts;
     std::vector<double> quietLeft;
     std::vector<double> quietRight;
+    quietLeft.reserve(lines.size());
+    quietRight.reserve(lines.size());
     for (const SymbolLine& line : lines) {
         const std::vector<Element> elements = ElementsOf(line);
         const SymbolPattern& pattern = line.pattern;

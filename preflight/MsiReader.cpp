@@ -69,6 +69,7 @@ std::vector<RasterSymbol> ReadMsi(const GreyRaster& picture, double pixelsPerMil
         linesOf[pattern->digits].push_back({begin, end, row, pattern->isReversed});
     }
     std::vector<RasterSymbol> symbols;
+    symbols.reserve(linesOf.size());
     for (const auto& [digits, lines] : linesOf) {
         const bool hasCheckDigit = HasCheckDigit(digits);
         if (lines.size() < (hasCheckDigit ? 2 : 3)) continue;

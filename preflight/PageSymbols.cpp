@@ -82,6 +82,7 @@ class PageReader {
         const double begin = std::max(0.0, area.left - beyond);
         const double end = std::min(isTurned ? page.height : page.width, area.right + beyond);
         std::vector<SymbolLine> lines;
+        lines.reserve(kLines);
         for (int line = 0; line < kLines; ++line) {
             const double y = area.top + area.Height() * (0.1 + 0.8 * (line + 0.5) / kLines);
             SymbolLine found{scanLine(y, begin, end), {}};

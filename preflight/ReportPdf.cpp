@@ -120,9 +120,12 @@ class PdfReport {
         cairo_pdf_surface_set_size(page.Surface(), kPaperWidth, kPaperHeight);
         y = kMargin + kTitleSize;
         ShowLine("Linewright check of " + Readable(report.document), kTitleSize, kText, true);
-        ShowLine(fmt::format("{} of {} symbols with faults, {} rows of data not there",
-                             report.FaultySymbols(), report.symbols.size(), report.faults.size()),
-                 kTextSize, kText);
+        ShowLine(
+            fmt::format(
+                "{} of {} symbols with faults, {} of the data not there", report.FaultySymbols(),
+                report.symbols.size(),
+                report.faults.size() == 1 ? "1 row" : fmt::format("{} rows", report.faults.size())),
+            kTextSize, kText);
         for (const Fault& fault : report.faults) ShowLine(Sentence(fault), kTextSize, kFaulty);
         y += kLeading;
         for (std::size_t place = 0; place < report.symbols.size(); ++place) {

@@ -31,6 +31,7 @@ const std::string kWhite = "rgb(100%,100%,100%)";
 std::vector<double> Edges(const VectorPage& page) {
     const LineScan scan = ScanStretches(page.Along(5, 0, 30, false), 0, 30);
     std::vector<double> edges;
+    edges.reserve(scan.elements.size());
     for (std::size_t place = 1; place < scan.elements.size(); ++place) {
         edges.push_back(scan.elements[place].begin);
     }
