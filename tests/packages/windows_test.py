@@ -61,7 +61,8 @@ class Wine:
         [self.user] = [each for each in (self.prefix / "drive_c/users").iterdir() if each.name != "Public"]
         # Every Windows has these.
         (self.user / "AppData/Local/Programs").mkdir(exist_ok=True)
-        self.run("reg", "add", FONTS, "/f")
+        for key in (FONTS, str(PureWindowsPath(UNINSTALL).parent)):
+            self.run("reg", "add", key, "/f")
 
     def quietly(self, *command):
         subprocess.run(command, env=self.environment, check=True, stdin=subprocess.DEVNULL,
