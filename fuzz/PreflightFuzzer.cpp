@@ -24,7 +24,7 @@ void ReadShapes(FuzzedDataProvider& input) {
         for (const bool isTurned : {false, true}) {
             for (const BarGroup& group : FindBarGroups(page, isTurned)) {
                 SeenPart(page, group, isTurned);
-                PictureOf(page, group, isTurned);
+                PictureOf(page, group, isTurned, isTurned);
             }
             ScanStretches(page.Along(10, 0, 200, isTurned), 20, 100);
         }

@@ -21,6 +21,7 @@ WRITTEN = {
     "fontconfig": ("MIT style", "Permission to use, copy, modify, distribute"),
     "gcc-12": ("GPL-3+ with the GCC Runtime Library Exception", "GCC Runtime Library Exception"),
     "glibc": ("LGPL-2.1+", "GNU Lesser General Public"),
+    "libzip": ("BSD-3-clause", "Redistribution and use in source and binary forms"),
     "qpdf": ("Apache-2.0", "Apache License, Version 2.0"),
     "zbar": ("LGPL-2.1+", "GNU Lesser General Public"),
     "tiff": ("libtiff", "Permission to use, copy, modify, distribute"),

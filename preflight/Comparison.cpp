@@ -81,10 +81,11 @@ class Comparer {
         }
     }
 
-    /** Gives a symbol the first free row that it says; with `isOnPage` one that wants its page. */
-    void MatchExactly(bool isOnPage) {
+    /** Gives each symbol that is sure, or each that is doubtful, the first free row that it says;
+     *  with `isOnPage` one that wants its page. */
+    void MatchExactly(bool isDoubtful, bool isOnPage) {
         for (FoundSymbol& symbol : symbols) {
-            if (symbol.line || !symbol.reading.isFound) continue;
+            if (symbol.line || symbol.isDoubtful != isDoubtful || !symbol.reading.isFound) continue;
             for (const std::size_t place : RowsSaying(symbol)) {
                 ExpectedSymbol& row = rows[place];
                 if (row.isFound || (isOnPage && row.page.value_or(symbol.page) != symbol.page)) {
@@ -205,8 +206,10 @@ Expectations ExpectationsOf(Service& service, const std::string& name, std::istr
 std::vector<Fault> Compare(std::vector<FoundSymbol>& symbols, Expectations& expected,
                            std::optional<int> page) {
     Comparer comparer(symbols, expected.symbols);
-    comparer.MatchExactly(true);
-    comparer.MatchExactly(false);
+    for (const bool isDoubtful : {false, true}) {
+        comparer.MatchExactly(isDoubtful, true);
+        comparer.MatchExactly(isDoubtful, false);
+    }
     comparer.FindDoubles();
     comparer.FindMistakes();
     std::vector<Fault> faults;

@@ -200,9 +200,12 @@ class PageReader {
         symbol.height = group.area.Height();
         symbol.degrees = isTurned ? 90 : 0;
         symbol.font = FontAt(symbol.area);
-        auto picture = PictureOf(*page.shapes, group, isTurned);
-        if (!picture) return symbol;
-        std::vector<RasterSymbol> read = ReadSymbols(*picture, kPicturePixels, isTurned);
+        std::vector<RasterSymbol> read;
+        // What stands in a quiet zone can keep scanners from reading.
+        for (const bool isAlone : {false, true}) {
+            auto picture = PictureOf(*page.shapes, group, isTurned, isAlone);
+            if (picture && read.empty()) read = ReadSymbols(*picture, kPicturePixels, isTurned);
+        }
         if (read.empty()) return symbol;
         symbol.symbology = read.front().symbology;
         symbol.reading = std::move(read.front().reading);

@@ -22,7 +22,7 @@ constexpr int kFewestEanUpcModules = 67;
 /** Fewer are read out of hatching and text. */
 constexpr std::size_t kSureDigits = 6;
 constexpr std::size_t kSureCodabar = 4;
-/** Of bars that are not as their symbology has them, in mm; of grain a scanner reads things too. */
+/** Of bars, in mm: in what is lower, grain and corners left over, scanners read things too. */
 constexpr double kLeastHeight = 1;
 /** Pixels of a row that are as dark as those of the row beside it. */
 constexpr double kAlike = 0.88;
@@ -142,9 +142,8 @@ class CandidateReader {
             symbol.box.right = pixel(scan.elements[low + count - 1].end);
         }
         FollowRows(picture, row, symbol.box);
-        symbol.isDoubtful =
-            IsDoubtful(spotted.symbology, spotted.reading) ||
-            (!symbol.isConfirmed && symbol.box.Height() < kLeastHeight * pixelsPerMillimetre);
+        symbol.isDoubtful = IsDoubtful(spotted.symbology, spotted.reading) ||
+                            symbol.box.Height() < kLeastHeight * pixelsPerMillimetre;
         if (symbol.symbology == Symbology::kEanUpc) TakeAddOn(symbol);
         PaintOver(symbol.box);
         symbols.push_back(std::move(symbol));
@@ -210,7 +209,9 @@ void JoinParts(std::vector<RasterSymbol>& symbols, double pixelsPerMillimetre) {
             const int common =
                 std::min(part.box.right, whole.box.right) - std::max(part.box.left, whole.box.left);
             // The ends of what is not confirmed are unsure.
-            const bool areSure = part.isConfirmed && whole.isConfirmed;
+            const bool areSure = part.isConfirmed && whole.isConfirmed &&
+                                 std::min(part.box.Height(), whole.box.Height()) >=
+                                     kLeastHeight * pixelsPerMillimetre;
             const bool doEndsAgree =
                 areSure ? std::abs(part.box.left - whole.box.left) <= beside &&
                               std::abs(part.box.right - whole.box.right) <= beside

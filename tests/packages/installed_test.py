@@ -75,7 +75,7 @@ class PackageTest(unittest.TestCase):
         self.assertEqual(before, bare.files())
 
     def test_4_the_sample(self):
-        install("linewright", "fonts-linewright", "linewright-drawing")
+        install("linewright", "fonts-linewright", "linewright-drawing", tools=("poppler-utils",))
         shutil.copy(ROOT / "samples/press-run.csv", bare.folder / "test")
         status = bare.attempt("linewright", "batch", "press-run.csv", "-o", "merged.csv", "--verify").returncode
         self.assertEqual(status, 3)  # the sample has rows to be refused
@@ -87,6 +87,8 @@ class PackageTest(unittest.TestCase):
         self.assertIn("scans", bare.run("linewright", "draw", "ean13", "400638133393", "-o", "pen.pdf", "--verify"))
         self.assertTrue((bare.folder / "test/pen.pdf").read_bytes().startswith(b"%PDF"))
         self.assertEqual(bare.attempt("linewright", "proof", "press-run.csv", "-o", "proof.pdf").returncode, 3)
+        self.assertEqual(bare.attempt("linewright", "document", "press-run.csv", "-o", "labels.pdf").returncode, 3)
+        self.assertIn("EAN-13 4006381333931", bare.attempt("linewright", "check", "labels.pdf").stdout)
 
     def test_5_the_window(self):
         install("linewright-workbench")
