@@ -8,10 +8,6 @@ sources=$(ls "$dist"/linewright-*.tar.gz)
 rm -rf "$2"
 mkdir -p "$2"
 tar xzf "$sources" -C "$2" --strip-components=1
-if [ -d "$dist/../build/windows-libraries" ]; then
-    mkdir "$2/build"
-    ln -s "$(realpath "$dist/../build/windows-libraries")" "$2/build/windows-libraries"
-fi
 cd "$2"
 GIT_DIR=/nonexistent ./package debian
 grep '[.]deb$' "$dist/SHA256SUMS" >build/debian.sums

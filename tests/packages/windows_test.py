@@ -61,7 +61,8 @@ class Wine:
         [self.user] = [each for each in (self.prefix / "drive_c/users").iterdir() if each.name != "Public"]
         # Every Windows has these.
         (self.user / "AppData/Local/Programs").mkdir(exist_ok=True)
-        self.run("reg", "add", FONTS, "/f")
+        for key in (FONTS, str(PureWindowsPath(UNINSTALL).parent)):
+            self.run("reg", "add", key, "/f")
 
     def quietly(self, *command):
         subprocess.run(command, env=self.environment, check=True, stdin=subprocess.DEVNULL,
@@ -132,9 +133,10 @@ def unpack(folder: str) -> Path:
 
 
 def start(program: Path, *options: str) -> int:
-    """Runs an installer or uninstaller. What shows windows leaves a process behind for a while, which must hold
-    none of our pipes."""
-    return wine.run(program, "/S", *options, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode
+    """Runs an installer or uninstaller, which want folders without quotes: word by word. What shows windows leaves
+    a process behind for a while, which must hold none of our pipes."""
+    words = [word for option in options for word in option.split(" ")]
+    return wine.run(program, "/S", *words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode
 
 
 def uninstall(folder: Path, left: frozenset[Path] = frozenset()) -> None:
@@ -380,7 +382,8 @@ class Installer(unittest.TestCase):
         self.assertEqual(start(SETUP, r"/D=C:\Größe 日本 x\Line wright"), 0)
         run = wine.run(folder / "bin/linewright.exe", "encode", *EAN13)
         self.assertEqual(run.stdout, EAN13_TEXT + "\n", run.stderr)
-        self.assertIn((self.installed_bin(folder)), wine.path()[1])
+        run = wine.run("cmd", "/c", "linewright encode ean13 400638133393")
+        self.assertEqual(run.stdout.strip(), EAN13_TEXT, run.stderr)
         uninstall(folder, frozenset({folder / "bin", folder / "bin/mine.txt"}))
         self.assertEqual((folder / "bin/mine.txt").read_text(), "mine")
         self.assert_nothing_is_left()
