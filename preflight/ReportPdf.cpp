@@ -105,7 +105,7 @@ class PdfReport {
                         area.Height() * kMillimetre + 2 * kBeside);
         cairo_stroke(context);
         const std::string number = std::to_string(place + 1);
-        const auto face = fonts.Text(true);
+        const auto face = fonts.Text({.isBold = true});
         const TextLine line = face->Set(number, kTextSize);
         // Outside, where the quiet zone is.
         const double right = left + kFrame / 2;
@@ -149,7 +149,7 @@ class PdfReport {
             y = kMargin + kTextSize;
         }
         SetColour(page.Context(), colour);
-        const auto face = fonts.Text(isBold);
+        const auto face = fonts.Text({.isBold = isBold});
         face->Show(page.Context(), face->SetWithin(text, size, kPaperWidth - 2 * kMargin), size,
                    kMargin, y);
         y += std::max(kLeading, size * 1.6);
