@@ -218,6 +218,7 @@ void AddDocument(CLI::App& app, Arguments& arguments) {
         ->type_name("L");
     command.add_option("--title", arguments.batch.rows.titleColumn, "Column of titles")
         ->type_name("NAME");
+    AddPreset(command, arguments.draw);
     AddXDimension(command, arguments.draw.drawing);
     AddRefusals(command, arguments.batch);
     command.footer("Example:  linewright document labels.csv -o labels.pdf --layout a4-2x7");

@@ -33,8 +33,9 @@ ExitStatus RunDocument(Service& service, const MergeFiles& files, const MergeOpt
                 },
             .show = [&progress](const RowFile& file, auto rows) { progress.Show(file, rows); },
         };
-        result = MakeDocumentFile(
-            place, {files, options, drawing.layout, drawing.drawing.xDimension, drawing.fonts});
+        result =
+            MakeDocumentFile(place, {files, options, drawing.layout, drawing.drawing.xDimension,
+                                     drawing.drawing.magnification, drawing.fonts});
     }
     if (const auto found = result.counts.upcANumbers.Found()) {
         console.err << "linewright: note: " << Sentence(*found, console.language) << '\n';

@@ -1,6 +1,7 @@
 #include "documents/Document.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "documents/DocumentWriter.h"
 #include "documents/LineText.h"
@@ -32,9 +33,12 @@ std::unique_ptr<DocumentWriter> MakeWriter(DocumentFormat format, const Document
 
 /** Made with the plain font, whose bars have one height: text in a document has no other. */
 DrawingWish DrawingOf(const DocumentWish& wish, const BarcodeType* type) {
-    DrawingWish drawing{.xDimension = wish.xDimension, .isTextWanted = false};
+    DrawingWish drawing{
+        .xDimension = wish.xDimension, .magnification = wish.magnification, .isTextWanted = false};
     if (type != nullptr && type->face != nullptr) {
-        const double x = wish.xDimension.value_or(type->dimensions.xDimension);
+        constexpr double kWhole = 100;
+        const double x = wish.xDimension.value_or(type->dimensions.xDimension *
+                                                  wish.magnification.value_or(kWhole) / kWhole);
         drawing.height = {type->face->barHeight * x / type->dimensions.modulesPerX};
     }
     return drawing;
@@ -73,8 +77,13 @@ Document::Document(Service& runService, Fonts& runFonts, DocumentWish documentWi
 Document::~Document() = default;
 
 DrawnBarcode Document::Add(const BarcodeWish& barcode, const std::vector<std::string>& fields) {
-    const DrawingWish drawing = DrawingOf(wish, FindWrittenType(barcode.type).type);
-    DrawnBarcode drawn = DrawBarcode(service, fonts, barcode, drawing);
+    return Add(MakeBarcodeLeniently(service, barcode), barcode, fields);
+}
+
+DrawnBarcode Document::Add(BarcodeOutcome made, const BarcodeWish& barcode,
+                           const std::vector<std::string>& fields) {
+    const DrawingWish drawing = DrawingOf(wish, made.type);
+    DrawnBarcode drawn = DrawOutcome(fonts, std::move(made), barcode, drawing);
     if (!drawn.drawing) return drawn;
     ComposedLabel composed =
         Compose(wish.layout, fonts, drawn, LinesOf(drawn.outcome, barcode, fields));

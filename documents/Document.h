@@ -30,6 +30,8 @@ struct DocumentWish {
     std::vector<std::string> columns{};
     /** The width of the narrowest bar, in points; the types' own unless stated. */
     std::optional<double> xDimension{};
+    /** In place of it: per cent of the types' own. */
+    std::optional<double> magnification{};
 };
 
 /**
@@ -51,6 +53,10 @@ class Document {
      *  wish has all of them refused. Throws DrawingFailure where the symbol cannot be had or does
      *  not fit on its label, and RequestFailure. */
     DrawnBarcode Add(const BarcodeWish& barcode, const std::vector<std::string>& fields);
+    /** The same with a barcode that was made leniently: asks no plug-in, and may run on another
+     *  thread than the one of the requests. */
+    DrawnBarcode Add(BarcodeOutcome made, const BarcodeWish& barcode,
+                     const std::vector<std::string>& fields);
 
     /** How many labels were set. */
     std::size_t Labels() const { return labels; }

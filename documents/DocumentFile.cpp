@@ -75,7 +75,8 @@ class Run {
                     .layout = LayoutOf(wish.layout, Columns(), wish.rows.rows),
                     .title = host::Utf8FromPath(host::PathFromUtf8(wish.files.input).stem()),
                     .columns = Columns(),
-                    .xDimension = wish.xDimension}),
+                    .xDimension = wish.xDimension,
+                    .magnification = wish.magnification}),
           output(wish.files.output) {
         if (!wish.rows.rejects.empty()) {
             rejects.emplace(wish.rows.rejects, place.out, file, wish.rows.names);

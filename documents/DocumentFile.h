@@ -23,6 +23,8 @@ struct DocumentFileWish {
     std::string layout;
     /** In points; the types' own unless stated. */
     std::optional<double> xDimension;
+    /** In place of it: per cent of the types' own. */
+    std::optional<double> magnification;
     /** The folder of the barcode fonts. */
     std::string fonts;
 };

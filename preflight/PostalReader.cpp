@@ -144,8 +144,8 @@ std::vector<RasterSymbol> ReadPostal(const GreyRaster& picture, double pixelsPer
                                      bool isTurned) {
     std::vector<RasterSymbol> symbols;
     for (const BarChain& chain : FindBarChains(picture, pixelsPerMillimetre)) {
-        const bool isPostnet = std::find(kPostnetBars.begin(), kPostnetBars.end(), chain.size()) !=
-                               kPostnetBars.end();
+        const bool isPostnet =
+            std::find(kPostnetBars.begin(), kPostnetBars.end(), chain.size()) != kPostnetBars.end();
         if (!isPostnet && chain.size() != kIntelligentMailBars) continue;
         const Ends ends = EndsOf(chain);
         RasterSymbol symbol;

@@ -140,8 +140,7 @@ class PdfReport {
         EndPage();
     }
 
-    void ShowLine(const std::string& text, double size, const Colour& colour,
-                  bool isBold = false) {
+    void ShowLine(const std::string& text, double size, const Colour& colour, bool isBold = false) {
         if (y > kPaperHeight - kMargin) {
             EndPage();
             y = kMargin + kTextSize;

@@ -82,7 +82,6 @@ void ListFields::Arrange() {
 }
 
 void ListFields::Speak(const std::vector<TypeDescription>& newTypes, const QString& locale) {
-    const std::string chosen = types.empty() ? std::string() : ChosenType();
     const bool isFirst = types.empty();
     types = newTypes;
     language = locale;
@@ -114,7 +113,6 @@ void ListFields::Speak(const std::vector<TypeDescription>& newTypes, const QStri
             typeBox->setItemText(i, text);
         }
     }
-    if (!isFirst && !chosen.empty()) ChooseType(chosen);
 }
 
 void ListFields::ShowColumns(const ListModel& model) {
@@ -135,7 +133,7 @@ void ListFields::ShowColumns(const ListModel& model) {
     columnBox->setCurrentIndex(static_cast<int>(model.Wish().dataColumn));
     if (chosenColumn >= 0 && chosenColumn < columnBox->count())
         columnBox->setCurrentIndex(chosenColumn);
-    ShowOptions();
+    if (typeBox->currentIndex() != chosenType) ShowOptions();
 }
 
 ListWish ListFields::Wish() const {
@@ -150,6 +148,7 @@ ListWish ListFields::Wish() const {
 }
 
 void ListFields::ChooseType(const std::string& typeName) {
+    const QSignalBlocker silence(typeBox);
     for (std::size_t i = 0; i < types.size(); ++i) {
         if (types[i].typeName == typeName) typeBox->setCurrentIndex(static_cast<int>(i));
     }

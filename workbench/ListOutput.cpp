@@ -5,11 +5,14 @@
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QSet>
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -23,6 +26,7 @@ namespace linewright {
 namespace {
 
 constexpr auto kFolderKey = "list/folder";
+constexpr auto kSheetKey = "list/sheet";
 constexpr std::size_t kMostPrinted = 5000;
 /** So many refused rows are told of in a report. */
 constexpr qsizetype kMostTold = 1000;
@@ -87,6 +91,9 @@ QString ListOutput::AskForFile(const QString& filter, const QString& suffix) {
                        settings.value(kFolderKey).toString(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& chosen) {
+        dialog.setDefaultSuffix(chosen.section(QStringLiteral("*."), 1).chopped(1));
+    });
     if (dialog.exec() != QDialog::Accepted) return {};
     settings.setValue(kFolderKey, dialog.directory().path());
     return dialog.selectedFiles().constFirst();
@@ -106,6 +113,73 @@ void ListOutput::WriteProof(const QString& file) {
             return std::make_unique<ProofTaker>(how, name, title, date);
         },
         [this](const RowRunResult& result) { Report(result); });
+}
+
+void ListOutput::AskForLabels() {
+    QStringList names;
+    for (const LabelSheet& sheet : kLabelSheets)
+        names << QString::fromUtf8(sheet.name.data(), static_cast<qsizetype>(sheet.name.size()));
+    bool isGiven = false;
+    const int chosen = static_cast<int>(
+        std::max<qsizetype>(0, names.indexOf(settings.value(kSheetKey).toString())));
+    const QString name =
+        QInputDialog::getItem(parent, parent->window()->windowTitle(),
+                              Say(phrases::kLabelSheet, language), names, chosen, false, &isGiven);
+    if (!isGiven) return;
+    settings.setValue(kSheetKey, name);
+    const QString file =
+        AskForFile(QStringLiteral("PDF (*.pdf);;IDML (*.idml);;ODT (*.odt);;FODT (*.fodt)"),
+                   QStringLiteral("pdf"));
+    const LabelSheet* const sheet = FindLabelSheet(name.toStdString());
+    if (!file.isEmpty() && sheet != nullptr) WriteLabels(file, *sheet);
+}
+
+std::vector<LabelLine> ListOutput::LinesOfLabels(const std::vector<std::string>& columns) const {
+    std::vector<std::string> others;
+    const ListWish& wish = model.Wish();
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        const bool isType = wish.type.empty() && column == wish.typeColumn;
+        if (column != wish.dataColumn && !isType) others.push_back(columns[column]);
+    }
+    std::string title;
+    if (!others.empty()) {
+        title = others.front();
+        others.erase(others.begin());
+    }
+    return UsualLines(title, others);
+}
+
+void ListOutput::WriteLabels(const QString& file, const LabelSheet& sheet) {
+    const auto format = DocumentFormatOf(file.toStdString());
+    if (!format) {
+        QMessageBox::critical(parent, parent->window()->windowTitle(),
+                              Say(phrases::kLabelEnding, language).arg(file));
+        return;
+    }
+    std::vector<std::string> columns;
+    for (std::size_t column = 0; column < model.Width(); ++column)
+        columns.push_back(model.ColumnName(column).toStdString());
+    const DrawingWish drawing = sizes();
+    DocumentWish wish{.format = *format,
+                      .layout = LayoutOn(sheet),
+                      .title = QFileInfo(file).completeBaseName().toStdString(),
+                      .columns = columns,
+                      .xDimension = drawing.xDimension,
+                      .magnification = drawing.magnification};
+    if (wish.layout.lines.empty()) wish.layout.lines = LinesOfLabels(columns);
+    try {
+        // Asks the plug-in for the names of its types: not beside the window's thread.
+        const auto own = std::make_shared<Fonts>(host::PathFromUtf8(fonts));
+        const auto document = std::make_shared<Document>(service, *own, std::move(wish));
+        Begin(
+            {},
+            [own, document, name = file.toStdString(), spoken = Spoken()] {
+                return std::make_unique<LabelTaker>(name, own, document, spoken);
+            },
+            [this](const RowRunResult& result) { Report(result); });
+    } catch (const DrawingFailure& failure) {
+        Report({.failure = Sentence(failure, Spoken())});
+    }
 }
 
 void ListOutput::AskForCsv() {

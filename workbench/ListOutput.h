@@ -43,6 +43,10 @@ class ListOutput final : public QObject {
     void WriteFiles(const QString& folder, const std::string& format);
     void AskForProof();
     void WriteProof(const QString& file);
+    /** Asks for a sheet of labels and a file. */
+    void AskForLabels();
+    /** The ending of the name says what is written. */
+    void WriteLabels(const QString& file, const LabelSheet& sheet);
     void AskForCsv();
     void WriteCsv(const QString& file);
     /** Shows the pages of these rows before they are printed; of all, if there are none. */
@@ -61,6 +65,8 @@ class ListOutput final : public QObject {
     QString AskForFile(const QString& filter, const QString& suffix);
     bool IsReplacingFine(const QString& folder, const std::string& format);
     RowDrawing Drawing() const;
+    /** What stands on a label: the columns that are neither data nor type. */
+    std::vector<LabelLine> LinesOfLabels(const std::vector<std::string>& columns) const;
     Language Spoken() const { return LanguageOf(language.toStdString()); }
 
     Service& service;

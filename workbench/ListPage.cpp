@@ -105,7 +105,8 @@ void ListPage::MakeActions() {
     }
     proofAction = NewAction("proof", {}, [this] { output.AskForProof(); });
     csvAction = NewAction("csv", {}, [this] { output.AskForCsv(); });
-    exportMenu->addActions({proofAction, csvAction});
+    labelsAction = NewAction("labels", {}, [this] { output.AskForLabels(); });
+    exportMenu->addActions({proofAction, labelsAction, csvAction});
     openAction = NewAction("openAction", QKeySequence::Open, [this] { AskForFile(); });
     exportAction = exportMenu->menuAction();
     printAction = NewAction("printAction", QKeySequence::Print, [this] {
@@ -120,6 +121,8 @@ void ListPage::MakeActions() {
     pasteAction = NewAction("pasteAction", QKeySequence::Paste, [this] { Paste(); });
     sequenceAction = NewAction("sequenceAction", {}, [this] { Count(); });
     deleteAction = NewAction("deleteAction", QKeySequence::Delete, [this] { DeleteRows(); });
+    deleteAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    table->addAction(deleteAction);
     copyAction =
         NewAction("copyAction", Qt::CTRL | Qt::SHIFT | Qt::Key_C, [this] { output.CopyTexts(); });
 }
@@ -226,9 +229,10 @@ void ListPage::Speak(const QString& locale) {
         {printAction, phrases::kPrintList},   {pasteAction, phrases::kPasteCells},
         {sequenceAction, phrases::kSequence}, {deleteAction, phrases::kDeleteRows},
         {copyAction, phrases::kCopyTexts},    {proofAction, phrases::kProof},
-        {csvAction, phrases::kResultsCsv}};
+        {labelsAction, phrases::kLabels},     {csvAction, phrases::kResultsCsv}};
     for (const auto& [action, phrase] : actions) action->setText(Words(phrase));
     message->clear();
+    probed = Probe();
     if (model.Width() == 0 && model.Wish().type.empty())
         fields->ChooseType(
             settings.value(kTypeKey, QLatin1String(kFirstType)).toString().toStdString());
@@ -238,7 +242,25 @@ void ListPage::Speak(const QString& locale) {
 
 void ListPage::Refresh() {
     fields->sizes->Reload();
+    std::string now = Probe();
+    if (now == std::exchange(probed, now)) return;
     model.JudgeAnew();
+}
+
+std::string ListPage::Probe() {
+    constexpr std::pair<const char*, const char*> kProbes[]{{"classic-code39", "A1"},
+                                                            {"classic-i2of5", "123"},
+                                                            {"classic-msi", "123"},
+                                                            {"classic-codabar", "1"}};
+    std::string answers;
+    try {
+        for (const auto& [type, data] : kProbes)
+            answers += MakeBarcode(service, {.type = type, .data = data}).bytes + '\n';
+    } catch (const RequestFailure& failure) {
+        message->setText(
+            QString::fromStdString(Sentence(failure, LanguageOf(language.toStdString()))));
+    }
+    return answers;
 }
 
 QList<QAction*> ListPage::Actions(MenuPlace menu) const {

@@ -64,6 +64,8 @@ class ListPage final : public Page {
     void DeleteRows();
     void Append(CellTable&& cells);
 
+    /** What the plug-in makes of data that its preferences have a say in. */
+    std::string Probe();
     void TakeWish();
     void Judge();
     void ShowTally();
@@ -77,6 +79,8 @@ class ListPage final : public Page {
     ListModel model;
     QSortFilterProxyModel shown;
     QTimer slices;
+    /** As it was when rows were judged. */
+    std::string probed;
     std::unique_ptr<TableReading> reading;
 
     QWidget* body;
@@ -102,6 +106,7 @@ class ListPage final : public Page {
     QAction* copyAction;
     QAction* proofAction;
     QAction* csvAction;
+    QAction* labelsAction;
     /** Last, so that a run ends before what it uses. */
     ListOutput output;
 };

@@ -11,8 +11,8 @@ inline constexpr Phrase kOpenList{"&Open…", "Ö&ffnen…", "&Ouvrir…", "開�
 inline constexpr Phrase kPasteCells{"&Paste", "&Einfügen", "&Coller", "貼り付け(&P)"};
 inline constexpr Phrase kSequence{"&Sequence…", "Nummernf&olge…", "&Série…", "連番(&S)…"};
 inline constexpr Phrase kClearList{"C&lear", "&Leeren", "&Vider", "消去(&L)"};
-inline constexpr Phrase kDeleteRows{"Delete Rows", "Zeilen löschen", "Supprimer les lignes",
-                                    "行を削除"};
+inline constexpr Phrase kDeleteRows{"&Delete Rows", "&Zeilen löschen", "Supprimer les &lignes",
+                                    "行を削除(&D)"};
 inline constexpr Phrase kListFiles{"Tables", "Tabellen", "Tableaux", "表"};
 inline constexpr Phrase kAllFiles{"All files", "Alle Dateien", "Tous les fichiers",
                                   "すべてのファイル"};
@@ -98,6 +98,13 @@ inline constexpr Phrase kResultsCsv{"Table with Results (CSV)…", "Tabelle mit 
                                     "Tableau avec résultats (CSV)…", "結果つきの表 (CSV)…"};
 inline constexpr Phrase kLabels{"Label Sheet or Document…", "Etikettenbogen oder Dokument…",
                                 "Planche d’étiquettes ou document…", "ラベルシートまたは文書…"};
+inline constexpr Phrase kLabelSheet{
+    "Sheet of labels:", "Etikettenbogen:", "Planche d’étiquettes :", "ラベルシート:"};
+inline constexpr Phrase kLabelEnding{
+    "%1: the name must end in .pdf, .idml, .odt or .fodt.",
+    "%1: der Name muss auf .pdf, .idml, .odt oder .fodt enden.",
+    "%1 : le nom doit se terminer par .pdf, .idml, .odt ou .fodt.",
+    "%1: 名前の末尾は .pdf、.idml、.odt、.fodt のいずれかにしてください。"};
 inline constexpr Phrase kPrintList{"Pr&int…", "Dru&cken…", "Im&primer…", "印刷(&I)…"};
 inline constexpr Phrase kProofTitle{"Linewright proof", "Linewright proof", "Linewright proof",
                                     "Linewright proof"};

@@ -43,7 +43,9 @@ MainWindow::MainWindow(QSettings& userSettings, std::function<void(const QString
     constexpr QSize kFirstSize(900, 600);
     setWindowTitle(QStringLiteral("Linewright"));
     setWindowIcon(ProgramIcon());
-    resize(kFirstSize.boundedTo(screen()->availableSize()));
+    // A window manager adds a frame.
+    constexpr QSize kFrame(16, 48);
+    resize(kFirstSize.boundedTo(screen()->availableSize() - kFrame));
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
     statusBar()->setSizeGripEnabled(true);
     tabs = new QTabWidget(this);
@@ -72,12 +74,17 @@ void MainWindow::HidePlugIn() {
 }
 
 void MainWindow::MakePages(Service& service) {
-    AddPage(new BarcodePage(service, settings, surroundings,
-                            [this](const QString& cells) { OfferCells(cells); }),
-            phrases::kBarcodePage);
-    AddPage(new ListPage(service, settings, surroundings.fonts,
-                         (QFileInfo(settings.fileName()).path() + "/Presets").toStdString()),
-            phrases::kListPage);
+    const std::string presets =
+        (QFileInfo(settings.fileName()).path() + QLatin1String("/Presets")).toStdString();
+    auto* const page = new BarcodePage(service, settings, surroundings,
+                                       [this](const QString& cells) { OfferCells(cells); });
+    SizeStrip& strip = page->Sizes();
+    presetChooser = new PresetChooser(host::PathFromUtf8(presets), &strip);
+    presetChooser->chosen = [&strip](const DrawingWish& wish) { strip.SetWish(wish); };
+    presetChooser->sizes = [&strip] { return strip.Wish(); };
+    strip.AddWidget(presetChooser);
+    AddPage(page, phrases::kBarcodePage);
+    AddPage(new ListPage(service, settings, surroundings.fonts, presets), phrases::kListPage);
 }
 
 void MainWindow::AddPage(Page* page, const Phrase& title) {
@@ -96,6 +103,7 @@ void MainWindow::OfferCells(const QString& cells) {
 }
 
 void MainWindow::SpeakPages() {
+    presetChooser->Speak(locale);
     for (const auto& [page, title] : pages) {
         tabs->setTabText(tabs->indexOf(page), Say(title, locale));
         page->Speak(locale);

@@ -11,6 +11,7 @@
 #include "requests/Service.h"
 #include "workbench/Language.h"
 #include "workbench/Page.h"
+#include "workbench/PresetChooser.h"
 #include "workbench/Surroundings.h"
 
 namespace linewright {
@@ -59,6 +60,7 @@ class MainWindow final : public QMainWindow {
     QString locale;
     QTabWidget* tabs;
     std::vector<std::pair<Page*, Phrase>> pages;
+    PresetChooser* presetChooser = nullptr;
 };
 
 }  // namespace linewright

@@ -100,6 +100,29 @@ void KeepingTaker::TakeDrawn(DrawnBarcode drawn, const RowOut& row) {
     rows->push_back({row.number, row.wish.data, std::move(*drawn.drawing)});
 }
 
+LabelTaker::LabelTaker(const std::string& fileName, std::shared_ptr<Fonts> documentFonts,
+                       std::shared_ptr<Document> labels, Language sentences)
+    : file(fileName),
+      fonts(std::move(documentFonts)),
+      document(std::move(labels)),
+      language(sentences) {}
+
+std::string LabelTaker::Take(RowOut row) {
+    try {
+        const DrawnBarcode drawn = document->Add(std::move(row.outcome), row.wish, row.cells);
+        return WhyRefused(drawn.outcome, language);
+    } catch (const DrawingFailure& failure) {
+        if (failure.problem.IsOfMachine()) throw;
+        return Sentence(failure, language);
+    }
+}
+
+void LabelTaker::Finish() {
+    if (document->Labels() == 0) return;
+    file.Write(document->Finish());
+    file.Keep();
+}
+
 CsvTaker::CsvTaker(const std::string& fileName,
                    const std::optional<std::vector<std::string>>& names, std::size_t width,
                    Language sentences)

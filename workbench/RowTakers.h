@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "documents/Document.h"
 #include "merge/BlockWriter.h"
 #include "merge/OutputFile.h"
 #include "merge/ResultColumns.h"
@@ -97,6 +98,23 @@ class KeepingTaker final : public DrawingTaker {
 
   private:
     std::shared_ptr<std::vector<DrawnRow>> rows;
+};
+
+/** Labels on sheets, in a document. */
+class LabelTaker final : public RowTaker {
+  public:
+    /** Fonts of its own, and the document that is made with them. */
+    LabelTaker(const std::string& fileName, std::shared_ptr<Fonts> documentFonts,
+               std::shared_ptr<Document> labels, Language sentences);
+
+    std::string Take(RowOut row) override;
+    void Finish() override;
+
+  private:
+    OutputFile file;
+    std::shared_ptr<Fonts> fonts;
+    std::shared_ptr<Document> document;
+    Language language;
 };
 
 /** The cells with the columns of results behind them, as the command's batch writes them. */

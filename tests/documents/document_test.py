@@ -2,7 +2,7 @@
 """Makes documents of many rows as people do, and has other programs judge them: the packages and
 their texts, the fonts in a PDF, and both scanners, which read every label at its place.
 
-Usage: document_test.py BUILD-FOLDER short|long
+Usage: document_test.py BUILD-FOLDER short|long [TEST…]
 
 short has 100 labels and our own PDF; long has 1,000, and what LibreOffice makes of the OpenDocument
 files and Scribus of the IDML. The seed is fixed.
@@ -280,4 +280,4 @@ class DocumentTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(argv=[sys.argv[0]], verbosity=2 if IS_LONG else 1)
+    unittest.main(argv=[sys.argv[0], *sys.argv[3:]], verbosity=2 if IS_LONG else 1)

@@ -1,4 +1,5 @@
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QDir>
@@ -58,7 +59,7 @@ class ListOutputTest : public ListTest {
 TEST_F(ListOutputTest, EachRowBecomesAFileOfItsOwnAndRefusedOnesAreTold) {
     StartList();
     ChooseListType("Code 128");
-    Paste("A/B\nA/B\n" + QString(200, 'x') + "\n\u20AC\u4E00\n../..\nCON\n");
+    Paste("A/B\nA/B\n" + QString(200, 'x') + "\n\u00E9 \u00FC\n../..\nCON\n");
     const std::pair<const char*, QByteArray> kFormats[]{{"svg", "<svg"},
                                                         {"pdf", "%PDF-"},
                                                         {"eps", "%!PS-Adobe"},
@@ -119,10 +120,10 @@ TEST_F(ListOutputTest, AProofHasAllRows) {
     QProcess text;
     text.start("pdftotext", {"-layout", folder.filePath("p.pdf"), "-"});
     ASSERT_TRUE(text.waitForFinished());
-    const QString said = QString::fromUtf8(text.readAllStandardOutput());
+    const QString said = QString::fromUtf8(text.readAllStandardOutput()).simplified();
     EXPECT_TRUE(said.contains("2 rows: 1 drawn (1 scan, 0 do not, 0 have no scanner), 1 refused"));
-    EXPECT_TRUE(said.contains("refused  Only the digits 0 to 9"));
-    EXPECT_TRUE(said.contains("read  scans: 4006381333931"));
+    EXPECT_TRUE(said.contains("refused Only the digits 0 to 9"));
+    EXPECT_TRUE(said.contains("read scans: 4006381333931"));
 }
 
 TEST_F(ListOutputTest, TheTableIsWrittenWithItsResults) {
@@ -140,7 +141,31 @@ TEST_F(ListOutputTest, TheTableIsWrittenWithItsResults) {
               "\"A, B\",4006381333931,Y(0A63IB*NNNTNL(,0,,\n"
               "C,4006381333932,Y(0A63IB*NNNTNL(,0,,\"the check digit 2 was replaced by the "
               "computed one, 1\"\n"
-              "D,x,,-6300,Only the digits 0 to 9,\n");
+              "D,x,,-6301,Only the digits 0 to 9,\n");
+}
+
+TEST_F(ListOutputTest, LabelsAndDocumentsHaveTheRowsThatWereMade) {
+    StartList();
+    Paste("Shelf 1\t4006381333931\nShelf 2\t40O6\nShelf 3\t4012345678901\n");
+    QTest::keyClick(&Named<QComboBox>("dataColumn"), Qt::Key_End);
+    WaitUntilJudged();
+    const std::pair<const char*, QByteArray> kinds[]{
+        {"l.pdf", "%PDF-"}, {"l.idml", "PK"}, {"l.odt", "PK"}, {"l.fodt", "<?xml"}};
+    for (const auto& [name, beginning] : kinds) {
+        const QString told =
+            Told([&] { Output().WriteLabels(folder.filePath(name), *FindLabelSheet("a4-3x8")); });
+        EXPECT_TRUE(told.contains("1 rows were refused")) << qUtf8Printable(told);
+        EXPECT_TRUE(Read(name).startsWith(beginning)) << name;
+    }
+    QProcess text;
+    text.start("pdftotext", {"-layout", folder.filePath("l.pdf"), "-"});
+    ASSERT_TRUE(text.waitForFinished());
+    const QString said = QString::fromUtf8(text.readAllStandardOutput());
+    EXPECT_TRUE(said.contains("Shelf 1") && said.contains("Shelf 3")) << qUtf8Printable(said);
+    EXPECT_FALSE(said.contains("Shelf 2"));
+    EXPECT_TRUE(Told([&] {
+                    Output().WriteLabels(folder.filePath("l.doc"), *FindLabelSheet("a4-3x8"));
+                }).contains("must end in .pdf, .idml, .odt or .fodt"));
 }
 
 TEST_F(ListOutputTest, NothingIsHalfWrittenWhenItIsCancelledOrTheWindowCloses) {
@@ -204,22 +229,30 @@ TEST_F(ListOutputTest, SaysWhyWhenAFileCannotBeWritten) {
     EXPECT_TRUE(Named<QAbstractButton>("export").isEnabled());
 }
 
-TEST_F(ListOutputTest, FewFileHandlesAreSaidAndNothingIsLeft) {
+TEST_F(ListOutputTest, WithoutFileHandlesItSaysSoAndLeavesNothing) {
     StartList();
     Paste("4006381333931\n");
     const QString place = NewFolder("f");
+    // The sanitizers ask the system about each kind of object that they meet for the first time,
+    // for which they want file handles: all kinds are met before there are none.
+    const auto usual = Output().sizes;
+    Output().sizes = [] { return DrawingWish{.xDimension = 0.01}; };
+    Told([&] { Output().WriteFiles(place, "svg"); });
+    Output().sizes = usual;
+    Told([&] { Output().WriteFiles(folder.filePath("no"), "svg"); });
+    Output().WriteFiles(NewFolder("g"), "svg");
+    WaitUntilIdle();
+
     rlimit before{};
     getrlimit(RLIMIT_NOFILE, &before);
-    rlimit few = before;
-    // As many as are open.
-    few.rlim_cur = static_cast<rlim_t>(QDir("/proc/self/fd").count()) - 3;
-    const QString told = Told([&] {
-        setrlimit(RLIMIT_NOFILE, &few);
-        Output().WriteFiles(place, "svg");
-    });
+    const rlimit few{.rlim_cur = 64, .rlim_max = before.rlim_max};
+    std::vector<int> held;
+    setrlimit(RLIMIT_NOFILE, &few);
+    for (int handle = dup(0); handle >= 0; handle = dup(0)) held.push_back(handle);
+    const QString told = Told([&] { Output().WriteFiles(place, "svg"); });
+    for (const int handle : held) close(handle);
     setrlimit(RLIMIT_NOFILE, &before);
-    EXPECT_TRUE(told.startsWith("This cannot be done: ") || told.contains("refused"))
-        << qUtf8Printable(told);
+    EXPECT_TRUE(told.startsWith("This cannot be done: ")) << qUtf8Printable(told);
     EXPECT_TRUE(Files(place).isEmpty());
     Output().WriteFiles(place, "svg");
     WaitUntilIdle();
@@ -310,17 +343,10 @@ TEST_F(ListOutputTest, PresetsAreStoredChosenAndRemoved) {
     Write("Presets/Large.toml", "magnification = 0\n");
     EXPECT_TRUE(Told([&] { chooser.Wish(); }).contains("Large.toml: line 1: magnification = 0"));
     EXPECT_EQ(box.currentIndex(), 0);
-    EXPECT_TRUE(Told([&] {
-                    QTimer::singleShot(0, [] {
-                        auto* const dialog =
-                            qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-                        if (!dialog) return;
-                        dialog->setTextValue("a/b");
-                        QTest::keyClick(dialog, Qt::Key_Return);
-                    });
-                    QTest::mouseClick(&store, Qt::LeftButton);
-                }).contains("\"a/b\" cannot be the name of a preset"));
+    EXPECT_TRUE(Told([&] { storeAs("a/b"); }).contains("\"a/b\" cannot be the name of a preset"));
+    Write("Presets/Large.toml", "dpi = 300\n");
     QTest::keyClick(&box, Qt::Key_End);
+    EXPECT_EQ(heard.dotsPerInch, 300);
     DuringModal<QMessageBox>(
         [&] { QTest::mouseClick(chooser.findChild<QToolButton*>("removePreset"), Qt::LeftButton); },
         [](QMessageBox& question) {

@@ -8,6 +8,7 @@
 
 #include "tests/workbench/PageFixture.h"
 #include "workbench/Colours.h"
+#include "workbench/ListPage.h"
 
 namespace linewright {
 
@@ -121,6 +122,31 @@ TEST_P(LookTest, TextIsReadableAndPicturesAreTaken) {
                          });
     QTest::keyClick(&window, Qt::Key_F1);
     Save(*window.findChild<QDialog*>("help"), QStringLiteral("help"));
+}
+
+TEST_P(LookTest, TheListIsReadableAndItsPictureIsTaken) {
+    Start(QLatin1String(GetParam().locale));
+    MainWindow& window = workbench->Window();
+    window.resize(QSize(900, 600).boundedTo(window.screen()->availableSize()));
+    auto* const tabs = window.findChild<QTabWidget*>(QStringLiteral("pages"));
+    tabs->setCurrentIndex(tabs->count() - 1);
+    auto& page = dynamic_cast<ListPage&>(*tabs->currentWidget());
+    Save(window, QStringLiteral("list-empty"));
+    page.TakeCells(
+        QStringLiteral("Shelf\tNumber\nPencil\t4006381333931\nPaper A4\t4012345678901\n"
+                       "Ruler\t4006381333932\nErasers\t40O6381333931\n"
+                       "Stapler\t400638133393\nFolder\t123\n"));
+    page.findChild<QComboBox*>(QStringLiteral("dataColumn"))->setCurrentIndex(1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return page.Model().Count(RowState::kWaiting) == 0; }));
+    for (const QLabel* const label : page.findChildren<QLabel*>()) {
+        if (!label->isVisible() || label->text().isEmpty()) continue;
+        const QPalette& palette = label->palette();
+        EXPECT_GE(Contrast(palette.color(label->foregroundRole()),
+                           palette.color(label->backgroundRole())),
+                  kReadableContrast)
+            << qUtf8Printable(label->text());
+    }
+    Save(window, QStringLiteral("list"));
 }
 
 TEST_P(LookTest, EveryToneIsReadableAndTonesDiffer) {

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTest>
 
 #include <sys/resource.h>

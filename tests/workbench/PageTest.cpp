@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 
 #include "tests/workbench/PageFixture.h"
+#include "text/FontText.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {
