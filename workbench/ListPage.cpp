@@ -254,8 +254,8 @@ std::string ListPage::Probe() {
                                                             {"classic-codabar", "1"}};
     std::string answers;
     try {
-        for (const auto& [type, data] : kProbes)
-            answers += MakeBarcode(service, {.type = type, .data = data}).bytes + '\n';
+        for (const auto& [type, number] : kProbes)
+            answers += MakeBarcode(service, {.type = type, .data = number}).bytes + '\n';
     } catch (const RequestFailure& failure) {
         message->setText(
             QString::fromStdString(Sentence(failure, LanguageOf(language.toStdString()))));
