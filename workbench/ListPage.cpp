@@ -201,7 +201,7 @@ void ListPage::Speak(const QString& locale) {
          {Words(phrases::kRowMade), look.standardIcon(QStyle::SP_DialogApplyButton)},
          {Words(phrases::kRowWarned), look.standardIcon(QStyle::SP_MessageBoxWarning)},
          {Words(phrases::kRowRefused), look.standardIcon(QStyle::SP_MessageBoxCritical)}},
-        Words(phrases::kRowState));
+        Words(phrases::kRowState), Words(phrases::kRowBecause));
     table->setAccessibleName(Words(phrases::kRows));
     hint->setText(Words(phrases::kEmptyList));
     problemsBox->setText(Words(phrases::kOnlyProblems));
