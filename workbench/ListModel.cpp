@@ -50,8 +50,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
                         (role == Qt::ToolTipRole && !verdict.words.empty());
     if (!isText) return {};
     if (verdict.words.empty()) return state.word;
-    return QString(state.word + QStringLiteral(": ") +
-                   QString::fromStdString(Readable(verdict.words)));
+    return form.arg(state.word, QString::fromStdString(Readable(verdict.words)));
 }
 
 bool ListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -134,9 +133,11 @@ void ListModel::SetWish(const ListWish& newWish) {
     JudgeAnew();
 }
 
-void ListModel::SetWords(std::array<Shown, kRowStates> words, const QString& stateTitle) {
+void ListModel::SetWords(std::array<Shown, kRowStates> words, const QString& stateTitle,
+                         const QString& reasonForm) {
     shown = std::move(words);
     title = stateTitle;
+    form = reasonForm;
     JudgeAnew();
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, 0);
 }

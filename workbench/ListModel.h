@@ -66,8 +66,10 @@ class ListModel final : public QAbstractTableModel {
     bool HasHeader() const { return names.has_value(); }
     void SetWish(const ListWish& newWish);
     const ListWish& Wish() const { return wish; }
-    /** In the order of RowState; `stateTitle` stands above them. */
-    void SetWords(std::array<Shown, kRowStates> words, const QString& stateTitle);
+    /** In the order of RowState; `stateTitle` stands above them, and of `reasonForm` %1 is the
+     * state and %2 its reason. */
+    void SetWords(std::array<Shown, kRowStates> words, const QString& stateTitle,
+                  const QString& reasonForm);
     /** All rows wait again. */
     void JudgeAnew();
 
@@ -98,6 +100,7 @@ class ListModel final : public QAbstractTableModel {
     ListWish wish;
     std::array<Shown, kRowStates> shown;
     QString title;
+    QString form;
     /** No row before it waits. */
     std::size_t next = 0;
     // The rows whose verdicts views do not know yet.

@@ -17,10 +17,9 @@
 #include <utility>
 
 #include "host/runtime/Paths.h"
-#include "requests/PlainBarcodes.h"
-#include "words/Words.h"
 #include "workbench/Keep.h"
 #include "workbench/ListPhrases.h"
+#include "workbench/RowJudge.h"
 #include "workbench/SequenceDialog.h"
 #include "workbench/Text.h"
 
@@ -32,19 +31,8 @@ constexpr auto kTypeKey = "list/type";
 constexpr auto kFirstType = "_QVT_BARCODE_EAN13_";
 /** In milliseconds, with some left for the last request. */
 constexpr qint64 kSlice = 6;
+constexpr int kSpacing = 12;
 constexpr std::array kFormats{"svg", "pdf", "eps", "png", "tiff"};
-
-/** What MakeBarcode says, the short way where there is nothing to say. */
-RowVerdict VerdictOn(Service& service, PlainBarcodes& plain, const BarcodeWish& wish,
-                     Language language) {
-    if (const auto made = plain.Make(wish.type, wish.data, wish.checkCharacter, wish.ratio))
-        return {RowState::kMade, "", std::string(made->fontString)};
-    BarcodeOutcome outcome = MakeBarcode(service, wish);
-    if (!outcome.IsMade()) return {RowState::kRefused, WhyRefused(outcome, language), ""};
-    std::string warnings = JoinedWarnings(outcome, language);
-    const RowState state = warnings.empty() ? RowState::kMade : RowState::kWarned;
-    return {state, std::move(warnings), std::move(outcome.bytes)};
-}
 
 }  // namespace
 
@@ -63,7 +51,7 @@ ListPage::ListPage(Service& plugIn, QSettings& userSettings, const std::string& 
 }
 
 void ListPage::MakeTable() {
-    constexpr int kStateWidth = 220;
+    constexpr int kStateWidth = 400;
     table = new QTableView(body);
     table->setObjectName(QStringLiteral("rows"));
     shown.setSourceModel(&model);
@@ -129,7 +117,6 @@ void ListPage::MakeActions() {
 
 void ListPage::Arrange() {
     constexpr int kMargin = 16;
-    constexpr int kSpacing = 12;
     const auto named = [](auto* widget, const char* name) {
         widget->setObjectName(QLatin1String(name));
         return widget;
@@ -214,7 +201,7 @@ void ListPage::Speak(const QString& locale) {
          {Words(phrases::kRowMade), look.standardIcon(QStyle::SP_DialogApplyButton)},
          {Words(phrases::kRowWarned), look.standardIcon(QStyle::SP_MessageBoxWarning)},
          {Words(phrases::kRowRefused), look.standardIcon(QStyle::SP_MessageBoxCritical)}},
-        Words(phrases::kRowState));
+        Words(phrases::kRowState), Words(phrases::kRowBecause));
     table->setAccessibleName(Words(phrases::kRows));
     hint->setText(Words(phrases::kEmptyList));
     problemsBox->setText(Words(phrases::kOnlyProblems));
@@ -222,6 +209,10 @@ void ListPage::Speak(const QString& locale) {
     exportButton->setText(Words(phrases::kExportList));
     printButton->setText(Words(phrases::kPrintList));
     cancelButton->setText(Words(phrases::kCancel));
+    for (QPushButton* const button : {copyButton, exportButton, printButton}) {
+        button->setMinimumWidth(0);
+        button->setMinimumWidth(button->sizeHint().width() + kSpacing);
+    }
     progress->setAccessibleName(Words(phrases::kRows));
     filesMenu->setTitle(Words(phrases::kAFileARow));
     const std::pair<QAction*, const Phrase&> actions[]{
@@ -232,7 +223,7 @@ void ListPage::Speak(const QString& locale) {
         {labelsAction, phrases::kLabels},     {csvAction, phrases::kResultsCsv}};
     for (const auto& [action, phrase] : actions) action->setText(Words(phrase));
     message->clear();
-    probed = Probe();
+    answers = AnswersByPreferences(service);
     if (model.Width() == 0 && model.Wish().type.empty())
         fields->ChooseType(
             settings.value(kTypeKey, QLatin1String(kFirstType)).toString().toStdString());
@@ -242,25 +233,9 @@ void ListPage::Speak(const QString& locale) {
 
 void ListPage::Refresh() {
     fields->sizes->Reload();
-    std::string now = Probe();
-    if (now == std::exchange(probed, now)) return;
+    std::string now = AnswersByPreferences(service);
+    if (now == std::exchange(answers, now)) return;
     model.JudgeAnew();
-}
-
-std::string ListPage::Probe() {
-    constexpr std::pair<const char*, const char*> kProbes[]{{"classic-code39", "A1"},
-                                                            {"classic-i2of5", "123"},
-                                                            {"classic-msi", "123"},
-                                                            {"classic-codabar", "1"}};
-    std::string answers;
-    try {
-        for (const auto& [type, data] : kProbes)
-            answers += MakeBarcode(service, {.type = type, .data = data}).bytes + '\n';
-    } catch (const RequestFailure& failure) {
-        message->setText(
-            QString::fromStdString(Sentence(failure, LanguageOf(language.toStdString()))));
-    }
-    return answers;
 }
 
 QList<QAction*> ListPage::Actions(MenuPlace menu) const {

@@ -64,8 +64,6 @@ class ListPage final : public Page {
     void DeleteRows();
     void Append(CellTable&& cells);
 
-    /** What the plug-in makes of data that its preferences have a say in. */
-    std::string Probe();
     void TakeWish();
     void Judge();
     void ShowTally();
@@ -79,8 +77,8 @@ class ListPage final : public Page {
     ListModel model;
     QSortFilterProxyModel shown;
     QTimer slices;
-    /** As it was when rows were judged. */
-    std::string probed;
+    /** By the preferences that rows were judged by. */
+    std::string answers;
     std::unique_ptr<TableReading> reading;
 
     QWidget* body;

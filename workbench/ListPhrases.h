@@ -70,6 +70,7 @@ inline constexpr Phrase kRowWaiting{"…", "…", "…", "…"};
 inline constexpr Phrase kRowMade{"Made", "Erzeugt", "Créé", "作成済み"};
 inline constexpr Phrase kRowWarned{"Warning", "Warnung", "Attention", "警告"};
 inline constexpr Phrase kRowRefused{"Refused", "Abgelehnt", "Refusé", "拒否"};
+inline constexpr Phrase kRowBecause{"%1: %2", "%1: %2", "%1 : %2", "%1: %2"};
 inline constexpr Phrase kRows{"Rows", "Zeilen", "Lignes", "行"};
 inline constexpr Phrase kTally{"%1 rows: %2 made, %3 with warnings, %4 refused",
                                "%1 Zeilen: %2 erzeugt, %3 mit Warnung, %4 abgelehnt",
