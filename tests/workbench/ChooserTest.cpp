@@ -101,8 +101,8 @@ TEST_F(ChooserTest, TheKeyboardReachesTheTypesAndAllElse) {
     Named<QLineEdit>("filter").setFocus();
     for (const char* const name :
          {"types", "data", "checkDigit", "ratio", "area", "zoom", "fit", "xDimension",
-          "magnification", "height", "quietZone", "reduction", "resolution", "text",
-          "copy", "copyAs", "export", "filter"}) {
+          "magnification", "height", "quietZone", "reduction", "resolution", "text", "copy",
+          "copyAs", "export", "filter"}) {
         QTest::keyClick(workbench->Window().focusWidget(), Qt::Key_Tab);
         if (workbench->Window().focusWidget()->objectName().isEmpty() ||
             workbench->Window().focusWidget()->objectName().startsWith("qt_"))
