@@ -114,6 +114,7 @@ TEST_P(LookTest, TextIsReadableAndPicturesAreTaken) {
         Save(dialog, QStringLiteral("preferences"));
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
+    ChooseType("Code 128");
     TypeIn("1");
     DuringModal<QDialog>([this] { Action("export").trigger(); },
                          [this](QDialog& dialog) {
