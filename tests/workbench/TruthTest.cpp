@@ -109,9 +109,6 @@ TEST_F(TruthTest, NothingMovesWhenAMessageComes) {
         QTest::qWait(0);
         look(data);
     }
-    ChooseType("Code 39 Full ASCII (Classic)");
-    QTest::qWait(0);
-    look("Code 39");
 }
 
 TEST_F(TruthTest, TheBadgeIsReadAloud) {
