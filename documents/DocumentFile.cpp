@@ -164,7 +164,7 @@ class Run {
 
 DocumentResult MakeDocumentFile(const DocumentPlace& place, const DocumentFileWish& wish) {
     RequireOutputs(wish.files, wish.rows);
-    const DocumentResult result = Run(place, wish).Take();
+    DocumentResult result = Run(place, wish).Take();
     if (!wish.rows.summary.empty()) {
         MergeOutput summary(wish.rows.summary, place.out, Encoding::kUtf8, false);
         summary.Writer().Append(SummaryOf(result.counts));

@@ -24,7 +24,8 @@ class IdmlDocument : public DocumentWriter {
         if (place == sheet.LabelsOfPage()) place = 0;
         if (place == 0) parts.AddPage();
         const double left = sheet.left + place % sheet.columns * sheet.columnPitch;
-        const double top = sheet.top + place / sheet.columns * sheet.rowPitch;
+        const int row = place / sheet.columns;
+        const double top = sheet.top + row * sheet.rowPitch;
         ++place;
         const auto onPage = [&](LabelBox box) {
             return LabelBox{left + box.left, top + box.top, box.width, box.height};

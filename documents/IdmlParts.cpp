@@ -144,7 +144,8 @@ void IdmlParts::AddPath(pugi::xml_node item, const LabelBox& box) const {
     const std::string width = Number(box.width);
     const std::string height = Number(box.height);
     for (const std::string& point :
-         {std::string("0 0"), "0 " + height, width + ' ' + height, width + " 0"}) {
+         {std::string("0 0"), fmt::format("0 {}", height), fmt::format("{} {}", width, height),
+          fmt::format("{} 0", width)}) {
         AddElement(points, "PathPointType",
                    {{"Anchor", point}, {"LeftDirection", point}, {"RightDirection", point}});
     }

@@ -23,10 +23,11 @@ class PdfDocument : public DocumentWriter {
     void Add(const Label& label) override {
         const LabelSheet& sheet = frame.layout.sheet;
         if (place == sheet.LabelsOfPage()) EndPage();
+        const int row = place / sheet.columns;
         cairo_t* const context = page.Context();
         cairo_save(context);
         cairo_translate(context, sheet.left + place % sheet.columns * sheet.columnPitch,
-                        sheet.top + place / sheet.columns * sheet.rowPitch);
+                        sheet.top + row * sheet.rowPitch);
         Show(label);
         cairo_restore(context);
         ++place;
