@@ -15,8 +15,6 @@
 #include "merge/Failure.h"
 #include "text/Readable.h"
 
-extern char** environ;
-
 namespace linewright {
 
 namespace {

@@ -214,6 +214,9 @@ def label_sheet(path, placed, extra=()):
 def spoil(kind, placed, chance, folder):
     """Spoils one label; returns what is to be said, and the label's line."""
     victims = [label for label in placed if label.symbol.type in LINEAR]
+    if kind == "edge":
+        # On its way to the edge a label must not come to lie upon another.
+        victims = [label for label in victims if label.left < 60] or victims[:1]
     label = chance.choice(victims)
     symbol = label.symbol
     left, top, width, height = label.left, label.top, symbol.width, symbol.height
