@@ -16,9 +16,9 @@ std::string Counted(std::size_t count, const char* what) {
 }
 
 std::string Summary(const PreflightReport& report, bool hasData) {
-    std::string summary = fmt::format("{}: {}, {} with faults", Counted(report.pages.size(), "page"),
-                                      Counted(report.symbols.size(), "symbol"),
-                                      report.FaultySymbols());
+    std::string summary =
+        fmt::format("{}: {}, {} with faults", Counted(report.pages.size(), "page"),
+                    Counted(report.symbols.size(), "symbol"), report.FaultySymbols());
     if (hasData) {
         summary += fmt::format("; {} of the data not there", Counted(report.faults.size(), "row"));
     }
@@ -43,8 +43,8 @@ ExitStatus RunCheck(Service& service, const CheckOptions& options, const RowOpti
     const auto show = [&](int page) {
         if (console.isErrTerminal) console.err << "page " << page << '\r' << std::flush;
     };
-    const PreflightReport report = Preflight(*document, options.document, options.page,
-                                             expected ? &*expected : nullptr, show);
+    const PreflightReport report =
+        Preflight(*document, options.document, options.page, expected ? &*expected : nullptr, show);
     if (!options.output.empty()) {
         Fonts fonts(host::PathFromUtf8(options.fonts));
         Write(options.output, ReportPdf(report, *document, fonts));

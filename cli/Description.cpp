@@ -10,16 +10,11 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json ArgumentOf(const CLI::Option& argument) {
-    return {{"name", argument.get_name(true)},
-            {"description", argument.get_description()},
-            {"isRequired", argument.get_required()}};
-}
-
 Json OptionOf(const CLI::Option& option) {
-    Json names = Json::array();
+    Json names;
     for (const std::string& name : option.get_snames()) names.push_back('-' + name);
     for (const std::string& name : option.get_lnames()) names.push_back("--" + name);
+    if (option.get_positional()) names.push_back(option.get_name(true));
     const bool isFlag = option.get_items_expected_max() == 0;
     return {{"names", names},
             {"value", isFlag ? Json() : Json(option.get_type_name())},
@@ -28,21 +23,16 @@ Json OptionOf(const CLI::Option& option) {
 }
 
 Json CommandOf(const CLI::App& command) {
-    Json arguments = Json::array();
-    Json options = Json::array();
-    for (const CLI::Option* const option : command.get_options()) {
-        if (option->get_positional()) {
-            arguments.push_back(ArgumentOf(*option));
-        } else if (!option->get_group().empty()) {
-            options.push_back(OptionOf(*option));
-        }
-    }
-    Json commands = Json::array();
+    Json json{{"name", command.get_name()},
+              {"description", command.get_description()},
+              {"options", Json::array()},
+              {"commands", Json::array()},
+              {"footer", command.get_footer()}};
+    for (const CLI::Option* const option : command.get_options())
+        if (!option->get_group().empty()) json["options"].push_back(OptionOf(*option));
     for (const CLI::App* const part : command.get_subcommands({}))
-        commands.push_back(CommandOf(*part));
-    return {{"name", command.get_name()},        {"description", command.get_description()},
-            {"arguments", std::move(arguments)}, {"options", std::move(options)},
-            {"commands", std::move(commands)},   {"footer", command.get_footer()}};
+        json["commands"].push_back(CommandOf(*part));
+    return json;
 }
 
 }  // namespace
@@ -50,7 +40,6 @@ Json CommandOf(const CLI::App& command) {
 std::string DescriptionOf(const CLI::App& app, const std::string& version) {
     Json description = CommandOf(app);
     description["version"] = version;
-    description["types"] = Json::array();
     for (const BarcodeType& type : kBarcodeTypes) description["types"].push_back(type.shortName);
     return description.dump(2);
 }

@@ -53,7 +53,11 @@ Layout LayoutOf(const std::string& name, const std::vector<std::string>& columns
         content.resize(static_cast<std::size_t>(file->gcount()));
         layout = ReadLayout(content, name, columns);
     }
-    if (layout.lines.empty()) layout.lines = LinesFor(columns, rows);
+    if (!layout.lines.empty()) return layout;
+    layout.lines = LinesFor(columns, rows);
+    for (LabelLine& line : layout.lines) {
+        if (layout.isBeside) line.alignment = Alignment::kLeft;
+    }
     return layout;
 }
 

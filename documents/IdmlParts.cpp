@@ -168,8 +168,7 @@ void IdmlParts::AddFrame(const LabelBox& box, double firstBaseline,
                {{"TextColumnCount", "1"},
                 {"FirstBaselineOffset", "FixedHeight"},
                 {"MinimumFirstBaselineOffset", Number(firstBaseline)},
-                {"VerticalJustification", "TopAlign"},
-                {"AutoSizingType", "Off"}});
+                {"VerticalJustification", "TopAlign"}});
 
     pugi::xml_document file;
     pugi::xml_node text = AddElement(Root(file, "idPkg:Story"), "Story",
@@ -232,7 +231,6 @@ void IdmlParts::AddStyle(const ParagraphStyle& style) {
                     {"AppliedLanguage", "$ID/[No Language]"},
                     {"Hyphenation", "false"},
                     {"NoBreak", "true"},
-                    {"KerningMethod", "$ID/None"},
                     {"Ligatures", "false"},
                     {"Tracking", "0"},
                     {"SpaceBefore", "0"},

@@ -135,7 +135,7 @@ class Composer {
         const LabelLine& style = layout.lines[line];
         const auto face = fonts.Text({layout.textFamily, style.isBold});
         const double room = width * kCertain;
-        const std::string fitted = face->Fitted(text, style.size, room);
+        std::string fitted = face->Fitted(text, style.size, room);
         if (fitted != text) {
             const double excess = face->Set(text.substr(0, kMeasured), style.size).width - room;
             warnings.push_back({DrawingWarning::Kind::kTextCut, {fitted, Millimetres(excess)}});

@@ -56,10 +56,8 @@ struct ComposedLabel {
     std::vector<DrawingWarning> warnings{};
 };
 
-/** Sets a barcode and the texts that a record has for the layout's lines, one or more lines each,
- *  "" and the barcode's alike. The drawing is borrowed. Throws DrawingFailure where they do not
- * fit.
- */
+/** Sets a barcode and, for each of the layout's lines, what a record says there: no text, or one or
+ *  more below one another. The drawing is borrowed. Throws DrawingFailure where it does not fit. */
 ComposedLabel Compose(const Layout& layout, Fonts& fonts, const DrawnBarcode& drawn,
                       const std::vector<std::vector<std::string>>& lines);
 

@@ -72,14 +72,14 @@ std::string ZipPackage::Bytes() const {
         const zip_int64_t place =
             zip_file_add(archive.get(), part.name.c_str(), content.get(), ZIP_FL_ENC_UTF_8);
         must(place >= 0);
-        content.release();
+        static_cast<void>(content.release());
         const auto index = static_cast<zip_uint64_t>(place);
         const zip_int32_t method = index == 0 ? ZIP_CM_STORE : ZIP_CM_DEFLATE;
         must(zip_set_file_compression(archive.get(), index, method, 0) == 0);
         must(zip_file_set_dostime(archive.get(), index, 0, kFirstDay, 0) == 0);
     }
     must(zip_close(archive.get()) == 0);
-    archive.release();
+    static_cast<void>(archive.release());
     return WholeOf(target.get());
 }
 

@@ -113,6 +113,19 @@ bool RecordReader::Next() {
     return true;
 }
 
+std::string_view RecordReader::TakeLines(std::size_t most) {
+    // Rows are like the one before them: quotes are followed by quotes, and where lines end
+    // otherwise, a line feed would be looked for after each in vain.
+    const bool isLikely = closingQuote == nullptr && record.ending.ends_with('\n');
+    const std::string_view ahead = isLikely ? Ahead().substr(0, std::min(most, maxLength)) : "";
+    const std::string_view bare = ahead.substr(0, ahead.find('"'));
+    const std::string_view lines = bare.substr(0, bare.rfind('\n') + 1);
+    if (lines.empty() || FirstInvalidUtf8(lines)) return {};
+    nextLine += CountLineEnds(lines);
+    Skip(lines.size());
+    return lines;
+}
+
 inline void RecordReader::Suspend(const char* at, const char* fieldBegin, std::size_t fieldCount,
                                   bool isInside, std::uint32_t aboveAscii) {
     scanned = at;

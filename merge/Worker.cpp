@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <new>
 
 namespace linewright {
 
@@ -40,6 +41,8 @@ void AnswerPipe::SendFailure(Language language, const std::function<void()>& wor
         sentence = Sentence(failure, language);
     } catch (const DrawingFailure& failure) {
         sentence = Sentence(failure, language);
+    } catch (const std::bad_alloc&) {
+        sentence = "there is not enough memory";
     } catch (const std::exception& failure) {
         sentence = failure.what();
     }

@@ -159,7 +159,12 @@ Workers::Workers(unsigned count, AnswerTaker& taker, const Work& work)
             WorkerPipe pipe(forChunks.read.Get(), forAnswers.write.Get());
             ChunkPipe chunks(pipe);
             AnswerPipe answer(pipe);
-            work(chunks, answer);
+            try {
+                work(chunks, answer);
+            } catch (...) {
+                // What is on the stack is the other process's to end.
+                std::_Exit(EXIT_FAILURE);
+            }
             std::_Exit(EXIT_SUCCESS);
         }
         worker->chunks = std::move(forChunks.write);

@@ -52,9 +52,11 @@ def _run(*words: str) -> str:
 
 def _command(row: dict, above: str = "") -> Command:
     name = f"{above}{row['name']}"
+    options = [Option(**option) for option in row["options"]]
     return Command(
-        name, row["description"], [Option(**option) for option in row["options"]],
-        [Argument(**argument) for argument in row["arguments"]],
+        name, row["description"], [option for option in options if option.names[0].startswith("-")],
+        [Argument(option.names[0], option.description, option.isRequired) for option in options
+         if not option.names[0].startswith("-")],
         [_command(part, f"{name} ") for part in row["commands"]], row["footer"])
 
 
@@ -68,9 +70,9 @@ def from_help(program: str) -> Program:
     text = _run(program, "--help")
     name, version = _run(program, "--version").split()
     sentence = re.search(r"^Usage: .*\n(.+)\n", text)[1]
-    options = [Option(re.findall(r"-[-\w]+", names), value or None, what)
+    options = [Option(re.findall(r"-[-\w]+", names), value or None, " ".join(what.split()))
                for names, value, what in re.findall(
-                   r"^  (-[-\w, ]*[-\w])(?: <(\w+)>)? {2,}(.+)$", text, re.MULTILINE)]
+                   r"^  (-[-\w, ]*[-\w])(?: <(\w+)>)? {2,}(.+(?:\n {6,}.+)*)$", text, re.MULTILINE)]
     if not options or len(options) != text.count("\n  -"):
         raise ValueError(f"{program} --help is written in a new way:\n{text}")
     return Program(Command(name, sentence, options), version, [])

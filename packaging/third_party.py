@@ -3,9 +3,11 @@
 headers that each object was compiled from, and the shared libraries that each file asks for. Names and
 licences are those of the Debian packages that these come from.
 
-Usage: third_party.py BUILD-FOLDER THIRD-PARTY.md COPYRIGHT
-  writes a table, and the copyright file of the packages, with the notices of what is compiled in
+Usage: third_party.py BUILD-FOLDER THIRD-PARTY.md COPYRIGHT [TREE]
+  writes tables, and the copyright file of the packages, with the notices of what is compiled in. TREE is
+  what a package for Windows holds; packaging/windows/list_libraries.py has put its libraries.json there.
 """
+import json
 import re
 import subprocess
 import sys
@@ -19,15 +21,16 @@ WRITTEN = {
     "fontconfig": ("MIT style", "Permission to use, copy, modify, distribute"),
     "gcc-12": ("GPL-3+ with the GCC Runtime Library Exception", "GCC Runtime Library Exception"),
     "glibc": ("LGPL-2.1+", "GNU Lesser General Public"),
+    "libzip": ("BSD-3-clause", "Redistribution and use in source and binary forms"),
     "qpdf": ("Apache-2.0", "Apache License, Version 2.0"),
     "zbar": ("LGPL-2.1+", "GNU Lesser General Public"),
     "tiff": ("libtiff", "Permission to use, copy, modify, distribute"),
+    "gcc-mingw-w64": ("GPL-3+ with the GCC Runtime Library Exception", "GCC Runtime Library Exception"),
     "python3.11": ("PSF-2", "PYTHON SOFTWARE FOUNDATION LICENSE VERSION 2"),
 }
-# Of these a compiled file holds what their licences let every program hold: the compiler's own run-time.
+# Of these a file for Linux holds what their licences let every program hold: the compiler's own run-time.
 RUN_TIME = {"gcc-12", "glibc", "linux"}
 
-ROOT = Path(__file__).resolve().parent.parent
 SOURCES = "${binary:Package} ${source:Package} ${source:Version}\n"
 
 OWN = """Linewright
@@ -44,16 +47,22 @@ def run(*words: object) -> str:
 class Build:
     def __init__(self, folder: Path):
         self.folder = folder
+        cache = (folder / "CMakeCache.txt").read_text(encoding="utf-8")
+        self.root = Path(re.search(r"^CMAKE_HOME_DIRECTORY:INTERNAL=(.*)$", cache, re.MULTILINE)[1]).resolve()
         text = (folder / "build.ninja").read_text(encoding="utf-8").replace("$\n", "")
-        self.inputs = {output: inputs.split(" || ")[0].replace("| ", "").split()
-                       for outputs, inputs in re.findall(r"^build ([^:\n]+): \S+(.*)$", text, re.MULTILINE)
-                       for output in outputs.replace("| ", "").split()}
+        self.inputs: dict[str, list[str]] = {}
+        self.archives = set()
+        for outputs, rule, inputs in re.findall(r"^build ([^:\n]+): (\S+)(.*)$", text, re.MULTILINE):
+            for output in outputs.replace("| ", "").split():
+                self.inputs[output] = inputs.split(" || ")[0].replace("| ", "").split()
+                if "STATIC_LIBRARY" in rule:  # and no import library
+                    self.archives.add(output)
         self.headers: dict[str, set[Path]] = {}
         for block in run("ninja", "-C", folder, "-t", "deps").split("\n\n"):
             lines = block.splitlines()
             if lines and ": #deps" in lines[0]:
                 self.headers[lines[0].split(":")[0]] = {
-                    path for path in map(self.real, lines[1:]) if not path.is_relative_to(ROOT)}
+                    path for path in map(self.real, lines[1:]) if not path.is_relative_to(self.root)}
 
     @cache
     def real(self, name: str) -> Path:
@@ -63,7 +72,7 @@ class Build:
         """The objects of a file, those of its static libraries too."""
         if file in self.headers:
             return {file}
-        return {each for name in self.inputs[file] if name.endswith((".o", ".a"))
+        return {each for name in self.inputs[file] if name in self.headers or name in self.archives
                 for each in self.objects(name)}
 
     def compiled_from(self, file: str) -> set[Path]:
@@ -134,19 +143,35 @@ def version(source: str) -> str:
 
 
 def table_of(title: str, rows: dict[str, set[str]]) -> str:
-    lines = "".join(f"| {source} {version(source)} | {licence(source)} | {', '.join(f'`{each}`' for each in sorted(files))} |\n"
-                    for source, files in sorted(rows.items()))
+    lines = ""
+    for source, files in sorted(rows.items()):
+        names = ", ".join(f"`{name}`" for name in sorted(files))
+        lines += f"| {source} {version(source)} | {licence(source)} | {names} |\n"
     return f"| {title} | Licence | Files |\n|---|---|---|\n{lines}"
 
 
+def libraries_of(report: Path) -> str:
+    """The table of what was built for Windows."""
+    told = json.loads(report.read_text(encoding="utf-8"))
+    rows = "".join(
+        f"| {name} {library['version']} | {library['licence']} | "
+        f"{', '.join(f'`{file}`' for file, names in told['files'].items() if name in names)} |\n"
+        for name, library in told["libraries"].items())
+    return f"\n| Library, built from Debian's sources | Licence | Files |\n|---|---|---|\n{rows}" if rows else ""
+
+
 def main() -> None:
-    folder, table, notices = Path(sys.argv[1]).resolve(), Path(sys.argv[2]), Path(sys.argv[3])
+    folder, table, notices, *trees = Path(sys.argv[1]).resolve(), *map(Path, sys.argv[2:])
     build = Build(folder)
-    files = [file for file in sorted([*(folder / "bin").iterdir(), *(folder / "lib").rglob("*.so*")])
-             if file.is_file() and not file.is_symlink()]
+    isWindows = bool(trees)
+    listed = [*(folder / "bin").iterdir(), *(folder / "lib").rglob("*.so*")]
+    if isWindows:
+        packed = {file.relative_to(trees[0]) for file in trees[0].rglob("*")}
+        listed = [folder / name for name in packed if name.suffix in (".exe", ".dll") and str(name) in build.inputs]
+    files = [file for file in sorted(listed) if file.is_file() and not file.is_symlink()]
     headers = {file: build.compiled_from(str(file.relative_to(folder))) for file in files}
-    libraries = {file: {library(name) for name in needed(file)} - {None}  # our own has no place
-                 for file in files}
+    libraries = {file: set() if isWindows else {library(name) for name in needed(file)} - {None}
+                 for file in files}  # our own libraries have no place
     packages = Packages({path for paths in [*headers.values(), *libraries.values()] for path in paths})
     inside: dict[str, set[str]] = defaultdict(set)
     beside: dict[str, set[str]] = defaultdict(set)
@@ -156,12 +181,13 @@ def main() -> None:
             beside[source].add(file.name)
         for source in {packages.source_of(path) for path in headers[file]} - shared - RUN_TIME:
             inside[source].add(file.name)
-    table.write_text(
-        "# Third-party code in the packages for Debian\n\nNames and licences are those of Debian's source packages.\n\n"
-        "## Compiled in\n\n" + table_of("Code", inside) +
-        "\n## Shared libraries, which come from Debian\n\n" + table_of("Library", beside) +
-        "\nCompiled code also holds parts of the compiler's own library, by the GCC Runtime Library Exception.\n"
-        "The fonts hold no third-party code.\n", encoding="utf-8")
+    compiled = "Compiled into files for " + ("Windows" if isWindows else "Linux")
+    text = table_of(compiled, inside)
+    if isWindows:
+        text += libraries_of(trees[0] / "licences/libraries.json")
+    if beside:
+        text += "\n" + table_of("Shared libraries that come from Debian", beside)
+    table.write_text(text, encoding="utf-8")
     notices.parent.mkdir(parents=True, exist_ok=True)
     notices.write_text(OWN + "".join(
         f"{'=' * 100}\n{', '.join(sorted(names))} hold code of {source}:\n\n{copyright_of(source)}\n"

@@ -14,8 +14,8 @@ constexpr double kNarrowest = 0.15;
 constexpr double kWidest = 1.5;
 constexpr double kLowest = 0.5;
 constexpr double kHighest = 15;
-/** Of its box that a bar fills. */
-constexpr double kFilled = 0.7;
+/** Of its box that a bar fills, also one that leans. */
+constexpr double kFilled = 0.5;
 
 /** Dark pixels of a row that stand side by side. */
 struct DarkRun {
@@ -55,8 +55,8 @@ std::vector<DarkRun> DarkRunsOf(const GreyRaster& picture) {
         std::size_t other = above;
         for (std::size_t here = firstOfRow; here < runs.size(); ++here) {
             while (other < firstOfRow && runs[other].last < runs[here].first) ++other;
-            for (std::size_t each = other;
-                 each < firstOfRow && runs[each].first <= runs[here].last; ++each) {
+            for (std::size_t each = other; each < firstOfRow && runs[each].first <= runs[here].last;
+                 ++each) {
                 const std::size_t part = PartOf(runs, each);
                 runs[PartOf(runs, here)].part = part;
             }
@@ -79,6 +79,7 @@ std::vector<PixelBox> BarsOf(const GreyRaster& picture, double pixelsPerMillimet
         part.box.bottom = std::max(part.box.bottom, run.row + 1);
     }
     std::vector<PixelBox> bars;
+    bars.reserve(parts.size());
     for (const Part& part : parts) {
         const double width = part.box.Width() / pixelsPerMillimetre;
         const double height = part.box.Height() / pixelsPerMillimetre;
@@ -105,6 +106,7 @@ std::vector<BarChain> FindBarChains(const GreyRaster& picture, double pixelsPerM
     const std::vector<PixelBox> bars = BarsOf(picture, pixelsPerMillimetre);
     std::vector<bool> isTaken(bars.size());
     std::vector<BarChain> chains;
+    chains.reserve(bars.size());
     for (std::size_t start = 0; start < bars.size(); ++start) {
         if (isTaken[start]) continue;
         BarChain chain{bars[start]};

@@ -87,11 +87,36 @@ bool AreElements(const std::vector<double>& distances) {
     return !isEven && Quantile(distances, 0.8) < 6 * Quantile(distances, 0.1);
 }
 
+/** Sides of bars that begin with a group's and reach farther down. */
+std::vector<double> LongerSides(const SideMap& all, const SideMap::key_type& ends) {
+    std::vector<double> sides;
+    for (auto row = all.upper_bound(ends); row != all.end() && row->first.first == ends.first;
+         ++row) {
+        sides.insert(sides.end(), row->second.begin(), row->second.end());
+    }
+    std::sort(sides.begin(), sides.end());
+    return sides;
+}
+
+/** Goes on from a group's ends as long as the next longer bar is not far. */
+void ReachOut(BarGroup& group, const std::vector<double>& longer) {
+    const double far = kFarApart * group.narrow;
+    group.left = group.area.left;
+    group.right = group.area.right;
+    for (const double side : longer) {
+        if (side > group.right && side - group.right < far) group.right = side;
+    }
+    for (const double side : std::vector<double>(longer.rbegin(), longer.rend())) {
+        if (side < group.left && group.left - side < far) group.left = side;
+    }
+}
+
 }  // namespace
 
 std::vector<BarGroup> FindBarGroups(const VectorPage& page, bool isTurned) {
     std::vector<BarGroup> groups;
-    for (auto& [ends, sides] : SidesOf(page, isTurned)) {
+    SideMap all = SidesOf(page, isTurned);
+    for (auto& [ends, sides] : all) {
         DropCommonSides(sides);
         if (sides.size() < kFewestSides) continue;
         const double usual = Quantile(DistancesOf(sides), 0.5);
@@ -110,6 +135,7 @@ std::vector<BarGroup> FindBarGroups(const VectorPage& page, bool isTurned) {
             group.narrow = Quantile(distances, 0.2);
             group.area = {group.sides.front(), static_cast<double>(ends.first) / 5,
                           group.sides.back(), static_cast<double>(ends.second) / 5};
+            ReachOut(group, LongerSides(all, ends));
             groups.push_back(std::move(group));
         }
     }
@@ -137,7 +163,8 @@ double SeenPart(const VectorPage& page, const BarGroup& group, bool isTurned) {
     return static_cast<double>(seen) / static_cast<double>(kLines * group.sides.size());
 }
 
-std::optional<GreyRaster> PictureOf(const VectorPage& page, const BarGroup& group, bool isTurned) {
+std::optional<GreyRaster> PictureOf(const VectorPage& page, const BarGroup& group, bool isTurned,
+                                    bool isAlone) {
     const double pixels = kGroupPixels / group.narrow;
     const double begin = group.area.left - kQuiet * group.narrow;
     const double end = group.area.right + kQuiet * group.narrow;
@@ -147,10 +174,13 @@ std::optional<GreyRaster> PictureOf(const VectorPage& page, const BarGroup& grou
     const std::vector<Stretch> stretches = page.Along(middle, begin, end, isTurned);
     std::size_t place = 0;
     std::vector<std::uint8_t> row;
+    row.reserve(static_cast<std::size_t>(picture.width));
     for (int x = 0; x < picture.width; ++x) {
         const double position = begin + (x + 0.5) / pixels;
         while (place + 1 < stretches.size() && stretches[place].end < position) ++place;
-        row.push_back(static_cast<std::uint8_t>(std::lround(255 * stretches[place].reflectance)));
+        const bool isBeside = position < group.left || position > group.right;
+        const double reflectance = isAlone && isBeside ? 1 : stretches[place].reflectance;
+        row.push_back(static_cast<std::uint8_t>(std::lround(255 * reflectance)));
     }
     for (int y = 0; y < kRows; ++y) {
         picture.pixels.insert(picture.pixels.end(), row.begin(), row.end());

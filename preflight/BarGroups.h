@@ -17,6 +17,9 @@ struct BarGroup {
     std::vector<double> sides;
     /** A narrow element's width, in mm. */
     double narrow = 0;
+    /** Where the bars end with longer ones at their ends, as EAN and UPC have them. */
+    double left = 0;
+    double right = 0;
 };
 
 /** Finds groups of nine bars and more that differ in their widths or distances. */
@@ -25,9 +28,11 @@ std::vector<BarGroup> FindBarGroups(const VectorPage& page, bool isTurned);
 /** How much of a group's sides is seen on the page, 0 to 1. */
 double SeenPart(const VectorPage& page, const BarGroup& group, bool isTurned);
 
-/** What is seen of a group, and the white beside it, as a picture in which a narrow element has
- *  `kGroupPixels` pixels; none where it would be too large. */
-std::optional<GreyRaster> PictureOf(const VectorPage& page, const BarGroup& group, bool isTurned);
+/** What is seen of a group as a picture in which a narrow element has `kGroupPixels` pixels, with
+ *  what stands beside it or, where it is to be alone, with white; none where it would be too
+ *  large. */
+std::optional<GreyRaster> PictureOf(const VectorPage& page, const BarGroup& group, bool isTurned,
+                                    bool isAlone);
 inline constexpr double kGroupPixels = 4;
 
 }  // namespace linewright

@@ -135,8 +135,8 @@ void Join(std::vector<Run>& runs) {
     std::size_t above = 0;
     for (std::size_t here = 0; here < runs.size(); ++here) {
         while (above < here &&
-               (runs[above].row < runs[here].row - 1 || (runs[above].row == runs[here].row - 1 &&
-                                                         runs[above].last < runs[here].first))) {
+               (runs[above].row < runs[here].row - 1 ||
+                (runs[above].row == runs[here].row - 1 && runs[above].last < runs[here].first))) {
             ++above;
         }
         for (std::size_t other = above; other < here && runs[other].row == runs[here].row - 1 &&
@@ -153,8 +153,7 @@ void Join(std::vector<Run>& runs) {
 std::vector<PixelBox> FindCandidates(const GreyRaster& picture, double pixelsPerMillimetre) {
     if (picture.width < 8 || picture.height < 8) return {};
     const CellMap cells = CellsOf(picture, pixelsPerMillimetre);
-    const int reach =
-        std::max(1, static_cast<int>(kReach * pixelsPerMillimetre / cells.side));
+    const int reach = std::max(1, static_cast<int>(kReach * pixelsPerMillimetre / cells.side));
     std::vector<Run> runs = RunsOf(cells, reach);
     Join(runs);
     struct Group {

@@ -81,10 +81,11 @@ class Comparer {
         }
     }
 
-    /** Gives a symbol the first free row that it says; with `isOnPage` one that wants its page. */
-    void MatchExactly(bool isOnPage) {
+    /** Gives each symbol that is sure, or each that is doubtful, the first free row that it says;
+     *  with `isOnPage` one that wants its page. */
+    void MatchExactly(bool isDoubtful, bool isOnPage) {
         for (FoundSymbol& symbol : symbols) {
-            if (symbol.line || !symbol.reading.isFound) continue;
+            if (symbol.line || symbol.isDoubtful != isDoubtful || !symbol.reading.isFound) continue;
             for (const std::size_t place : RowsSaying(symbol)) {
                 ExpectedSymbol& row = rows[place];
                 if (row.isFound || (isOnPage && row.page.value_or(symbol.page) != symbol.page)) {
@@ -93,8 +94,8 @@ class Comparer {
                 row.isFound = true;
                 symbol.line = row.line;
                 if (!isOnPage) {
-                    symbol.faults.push_back({Fault::Kind::kWrongPage,
-                                             {std::to_string(*row.page), LineText(row.line)}});
+                    symbol.faults.push_back(
+                        {Fault::Kind::kWrongPage, {std::to_string(*row.page), LineText(row.line)}});
                 }
                 break;
             }
@@ -104,7 +105,7 @@ class Comparer {
     /** What was found once too often. */
     void FindDoubles() {
         for (FoundSymbol& symbol : symbols) {
-            if (symbol.line || !symbol.reading.isFound) continue;
+            if (symbol.line || symbol.isDoubtful || !symbol.reading.isFound) continue;
             const auto saying = RowsSaying(symbol);
             if (saying.empty()) continue;
             symbol.line = rows[saying.front()].line;
@@ -194,8 +195,8 @@ Expectations ExpectationsOf(Service& service, const std::string& name, std::istr
             continue;
         }
         if (wanted.titleColumn) {
-            row.page = file.Named(
-                [&] { return PageIn(file.Columns().TitleOf(record), record.line); });
+            row.page =
+                file.Named([&] { return PageIn(file.Columns().TitleOf(record), record.line); });
         }
         if (row.type->symbology != Symbology::kText) expected.symbols.push_back(std::move(row));
     }
@@ -205,17 +206,19 @@ Expectations ExpectationsOf(Service& service, const std::string& name, std::istr
 std::vector<Fault> Compare(std::vector<FoundSymbol>& symbols, Expectations& expected,
                            std::optional<int> page) {
     Comparer comparer(symbols, expected.symbols);
-    comparer.MatchExactly(true);
-    comparer.MatchExactly(false);
+    for (const bool isDoubtful : {false, true}) {
+        comparer.MatchExactly(isDoubtful, true);
+        comparer.MatchExactly(isDoubtful, false);
+    }
     comparer.FindDoubles();
     comparer.FindMistakes();
     std::vector<Fault> faults;
     for (const ExpectedSymbol& row : expected.symbols) {
         // Of one page alone nobody can say what the others hold.
         if (row.isFound || (page && row.page != page)) continue;
-        faults.push_back({Fault::Kind::kMissing,
-                          {LineText(row.line), std::string(row.type->shortName),
-                           Comparer::WhatItMeans(row)}});
+        faults.push_back(
+            {Fault::Kind::kMissing,
+             {LineText(row.line), std::string(row.type->shortName), Comparer::WhatItMeans(row)}});
     }
     faults.insert(faults.end(), expected.refused.begin(), expected.refused.end());
     return faults;

@@ -44,8 +44,7 @@ std::string HeadOf(const std::filesystem::path& path, const std::string& shown) 
 
 }  // namespace
 
-std::unique_ptr<Document> OpenDocument(const std::string& name,
-                                       std::optional<double> dotsPerInch) {
+std::unique_ptr<Document> OpenDocument(const std::string& name, std::optional<double> dotsPerInch) {
     const std::filesystem::path path = host::PathFromUtf8(name);
     const std::string shown = Readable(name);
     const std::string head = HeadOf(path, shown);

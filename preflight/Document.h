@@ -26,8 +26,7 @@ class Document {
 
 /** Opens a PDF, PNG or TIFF file by its UTF-8 name; what it is its first bytes say. `dotsPerInch`
  *  is the resolution of a picture that does not state it, or of one that states a wrong one. */
-std::unique_ptr<Document> OpenDocument(const std::string& name,
-                                       std::optional<double> dotsPerInch);
+std::unique_ptr<Document> OpenDocument(const std::string& name, std::optional<double> dotsPerInch);
 
 /** Pixels of a page or picture that can be looked at. */
 inline constexpr double kMostPixels = 268'435'456;

@@ -108,9 +108,8 @@ LineMeasures MeasureLine(const std::vector<Element>& elements, const SymbolPatte
 
 /** 4 at the first limit or above, 0 below the last. */
 double Level(double value, const std::array<double, 4>& limits) {
-    const auto reached = std::find_if(limits.begin(), limits.end(), [value](double limit) {
-        return value >= limit - 1e-9;
-    });
+    const auto reached = std::find_if(limits.begin(), limits.end(),
+                                      [value](double limit) { return value >= limit - 1e-9; });
     return static_cast<double>(limits.end() - reached);
 }
 
@@ -141,16 +140,25 @@ GradeParts GradeLine(const LineScan& scan, const std::vector<Element>& elements,
     return parts;
 }
 
+double QuietZone(std::vector<double> widths, LineSource source) {
+    if (source == LineSource::kShapes) return *std::min_element(widths.begin(), widths.end());
+    const auto middle = widths.begin() + static_cast<std::ptrdiff_t>(widths.size() / 2);
+    std::nth_element(widths.begin(), middle, widths.end());
+    return *middle;
+}
+
 }  // namespace
 
-Measures MeasureLines(const std::vector<SymbolLine>& lines, bool isGraded) {
+Measures MeasureLines(const std::vector<SymbolLine>& lines, LineSource source) {
     Measures measures;
     Mean x;
     Mean wide;
     Mean gain;
     std::array<Mean, 6> parts;
-    double quietLeft = std::numeric_limits<double>::max();
-    double quietRight = quietLeft;
+    std::vector<double> quietLeft;
+    std::vector<double> quietRight;
+    quietLeft.reserve(lines.size());
+    quietRight.reserve(lines.size());
     for (const SymbolLine& line : lines) {
         const std::vector<Element> elements = ElementsOf(line);
         const SymbolPattern& pattern = line.pattern;
@@ -165,8 +173,8 @@ Measures MeasureLines(const std::vector<SymbolLine>& lines, bool isGraded) {
         measures.begin = line.scan.elements[low].begin;
         measures.end = line.scan.elements[low + elements.size() - 1].end;
         if (pattern.isReversed) std::swap(before, behind);
-        quietLeft = std::min(quietLeft, before);
-        quietRight = std::min(quietRight, behind);
+        quietLeft.push_back(before);
+        quietRight.push_back(behind);
         const GradeParts graded = GradeLine(line.scan, elements, measured.decodability);
         const std::array<double, 6> values{graded.symbolContrast, graded.edgeContrast,
                                            graded.modulation,     graded.defects,
@@ -178,12 +186,13 @@ Measures MeasureLines(const std::vector<SymbolLine>& lines, bool isGraded) {
     measures.xDimension = x.Value();
     if (wide.Value() > 0) measures.ratio = wide.Value() / x.Value();
     measures.barGain = gain.Value();
-    measures.quietLeft = quietLeft / x.Value();
-    measures.quietRight = quietRight / x.Value();
+    measures.quietLeft = QuietZone(std::move(quietLeft), source) / x.Value();
+    measures.quietRight = QuietZone(std::move(quietRight), source) / x.Value();
+    measures.isExact = source == LineSource::kShapes;
     GradeParts& mean = measures.parts.emplace();
-    mean = {parts[0].Value(), parts[1].Value(), parts[2].Value(), parts[3].Value(), std::nullopt,
-            parts[5].Value()};
-    if (isGraded) {
+    mean = {parts[0].Value(), parts[1].Value(), parts[2].Value(),
+            parts[3].Value(), std::nullopt,     parts[5].Value()};
+    if (source != LineSource::kFewPixels) {
         mean.decodability = parts[4].Value();
     } else {
         // The grade is that of the contrast alone.

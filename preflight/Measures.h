@@ -47,8 +47,16 @@ struct SymbolLine {
     SymbolPattern pattern;
 };
 
-/** Measures a symbol by one or more lines across it: widths and reflectances on the average, quiet
- *  zones where they are smallest. `isGraded` says whether there are enough pixels for it. */
-Measures MeasureLines(const std::vector<SymbolLine>& lines, bool isGraded);
+/** What lines are made of. */
+enum class LineSource {
+    kShapes,
+    /** Enough pixels a module for a grade. */
+    kManyPixels,
+    kFewPixels,
+};
+
+/** Measures a symbol by one or more lines across it: widths and reflectances on the average; quiet
+ *  zones of shapes where they are smallest, of pixels, which may have a speck, on most lines. */
+Measures MeasureLines(const std::vector<SymbolLine>& lines, LineSource source);
 
 }  // namespace linewright

@@ -14,7 +14,7 @@ namespace {
 constexpr int kRows = 5;
 constexpr int kLines = 7;
 /** A number without a check digit must be this long, or else data has to confirm it. */
-constexpr std::size_t kSureDigits = 5;
+constexpr std::size_t kSureDigits = 6;
 /** White beside a symbol, in narrow elements: half of what is usual. */
 constexpr double kLeastQuiet = 5;
 constexpr std::size_t kFewestDigits = 3;
@@ -63,10 +63,13 @@ std::vector<RasterSymbol> ReadMsi(const GreyRaster& picture, double pixelsPerMil
         const double narrow = (end - begin) / (static_cast<double>(count) * 1.5);
         const bool isFree = scan.elements[low - 1].Width() >= kLeastQuiet * narrow &&
                             scan.elements[low + count].Width() >= kLeastQuiet * narrow;
-        if (!isFree && !HasCheckDigit(pattern->digits)) continue;
+        if (!isFree && !HasCheckDigit(pattern->digits) && pattern->digits.size() < kSureDigits) {
+            continue;
+        }
         linesOf[pattern->digits].push_back({begin, end, row, pattern->isReversed});
     }
     std::vector<RasterSymbol> symbols;
+    symbols.reserve(linesOf.size());
     for (const auto& [digits, lines] : linesOf) {
         const bool hasCheckDigit = HasCheckDigit(digits);
         if (lines.size() < (hasCheckDigit ? 2 : 3)) continue;

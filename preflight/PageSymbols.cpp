@@ -56,11 +56,11 @@ class PageReader {
         });
     }
 
-    static std::vector<SymbolLine> PixelLines(const PatternQuery& query, const Area& area,
-                                              bool isTurned, const GreyRaster& red,
-                                              const Area& place, double pixelsPerMillimetre,
-                                              const PageReader& reader) {
-        return reader.LinesOf(area, isTurned, query, [&](double y, double begin, double end) {
+    /** The same in a picture of `place`. */
+    std::vector<SymbolLine> PixelLines(const PatternQuery& query, const Area& area, bool isTurned,
+                                       const GreyRaster& red, const Area& place,
+                                       double pixelsPerMillimetre) const {
+        return LinesOf(area, isTurned, query, [&](double y, double begin, double end) {
             const auto pixel = [&](double position, double origin, int count) {
                 return std::clamp(
                     static_cast<int>(std::lround((position - origin) * pixelsPerMillimetre)), 0,
@@ -82,6 +82,7 @@ class PageReader {
         const double begin = std::max(0.0, area.left - beyond);
         const double end = std::min(isTurned ? page.height : page.width, area.right + beyond);
         std::vector<SymbolLine> lines;
+        lines.reserve(kLines);
         for (int line = 0; line < kLines; ++line) {
             const double y = area.top + area.Height() * (0.1 + 0.8 * (line + 0.5) / kLines);
             SymbolLine found{scanLine(y, begin, end), {}};
@@ -99,11 +100,10 @@ class PageReader {
         if (symbol.symbology == Symbology::kPostnet) query.length = 5 * query.length + 2;
         std::vector<SymbolLine> lines = ShapeLines(query, area, isTurned);
         if (lines.size() >= kFewestLines) {
-            Measures measures = MeasureLines(lines, true);
+            const Measures measures = MeasureLines(lines, LineSource::kShapes);
             const bool doAgree = std::fabs(measures.begin - area.left) < kAgreement &&
                                  std::fabs(measures.end - area.right) < kAgreement;
             if (doAgree) {
-                measures.isExact = true;
                 SetMeasures(symbol, measures);
                 return;
             }
@@ -111,11 +111,11 @@ class PageReader {
         const Area whole{0, 0, isTurned ? page.height : page.width,
                          isTurned ? page.width : page.height};
         double resolution = page.pixelsPerMillimetre;
-        lines = PixelLines(query, area, isTurned, red, whole, resolution, *this);
+        lines = PixelLines(query, area, isTurned, red, whole, resolution);
         if (lines.empty()) return;
-        Measures measures = MeasureLines(lines, false);
+        Measures measures = MeasureLines(lines, LineSource::kFewPixels);
         if (measures.xDimension * resolution >= kLeastPixels) {
-            measures = MeasureLines(lines, true);
+            measures = MeasureLines(lines, LineSource::kManyPixels);
         } else if (auto finer = FinerMeasures(query, area, isTurned, measures.xDimension)) {
             measures = *finer;
         }
@@ -134,9 +134,11 @@ class PageReader {
         if (!red) return std::nullopt;
         if (isTurned) red = Turned(*red);
         const std::vector<SymbolLine> lines =
-            PixelLines(query, area, isTurned, *red, place, resolution, *this);
+            PixelLines(query, area, isTurned, *red, place, resolution);
         if (lines.empty()) return std::nullopt;
-        return MeasureLines(lines, xDimension * resolution >= kLeastPixels);
+        return MeasureLines(lines, xDimension * resolution >= kLeastPixels
+                                       ? LineSource::kManyPixels
+                                       : LineSource::kFewPixels);
     }
 
     static void SetMeasures(FoundSymbol& symbol, Measures measures) {
@@ -199,18 +201,19 @@ class PageReader {
         symbol.height = group.area.Height();
         symbol.degrees = isTurned ? 90 : 0;
         symbol.font = FontAt(symbol.area);
-        auto picture = PictureOf(*page.shapes, group, isTurned);
-        if (!picture) return symbol;
-        std::vector<RasterSymbol> read = ReadSymbols(*picture, kPicturePixels,
-                                                     isTurned);
+        std::vector<RasterSymbol> read;
+        // What stands in a quiet zone can keep scanners from reading.
+        for (const bool isAlone : {false, true}) {
+            auto picture = PictureOf(*page.shapes, group, isTurned, isAlone);
+            if (picture && read.empty()) read = ReadSymbols(*picture, kPicturePixels, isTurned);
+        }
         if (read.empty()) return symbol;
         symbol.symbology = read.front().symbology;
         symbol.reading = std::move(read.front().reading);
         const std::vector<SymbolLine> lines =
             ShapeLines(QueryOf(symbol.symbology, symbol.reading), group.area, isTurned);
         if (!lines.empty()) {
-            symbol.measures = MeasureLines(lines, true);
-            symbol.measures->isExact = true;
+            symbol.measures = MeasureLines(lines, LineSource::kShapes);
             if (lines.front().pattern.isReversed) symbol.degrees += 180;
         }
         return symbol;
@@ -232,10 +235,9 @@ class PageReader {
             (isTurned ? symbol.area.top : symbol.area.left) = symbol.measures->begin;
             (isTurned ? symbol.area.bottom : symbol.area.right) = symbol.measures->end;
         }
-        const bool areBarsSure = raster.isConfirmed && symbol.measures &&
-                                 symbol.height >= kSureHeight &&
-                                 symbol.measures->quietLeft >= kSureQuiet &&
-                                 symbol.measures->quietRight >= kSureQuiet;
+        const bool areBarsSure =
+            raster.isConfirmed && symbol.measures && symbol.height >= kSureHeight &&
+            symbol.measures->quietLeft >= kSureQuiet && symbol.measures->quietRight >= kSureQuiet;
         symbol.isDoubtful = raster.isDoubtful && !areBarsSure;
         symbol.font = FontAt(symbol.area);
         symbols.push_back(std::move(symbol));

@@ -32,8 +32,8 @@ class PdfDocument : public Document {
         }
         const auto read = ReadPdfInfo(result.output);
         if (!result.isDone || !read) {
-            throw Failure(fmt::format("{}: is no PDF file that poppler can read: {}", shown,
-                                      result.error));
+            throw Failure(
+                fmt::format("{}: is no PDF file that poppler can read: {}", shown, result.error));
         }
         facts = *read;
         if (facts.pages == 0) throw Failure(fmt::format("{}: has no pages", shown));
@@ -62,18 +62,17 @@ class PdfDocument : public Document {
 
     std::optional<GreyRaster> ReadRegion(const Page& page, const Area& area,
                                          double pixelsPerMillimetre) const override {
-        const double pixels = area.Width() * area.Height() * pixelsPerMillimetre *
-                              pixelsPerMillimetre;
+        const double pixels =
+            area.Width() * area.Height() * pixelsPerMillimetre * pixelsPerMillimetre;
         if (!(pixels < kMostRegionPixels)) return std::nullopt;
         const auto pixel = [pixelsPerMillimetre](double length) {
             return fmt::format("{:.0f}", length * pixelsPerMillimetre);
         };
-        const std::string ppm =
-            Run({"pdftoppm", "-cropbox", "-r",
-                 fmt::format("{}", pixelsPerMillimetre * kInch / kMillimetre), "-x",
-                 pixel(area.left), "-y", pixel(area.top), "-W", pixel(area.Width()), "-H",
-                 pixel(area.Height())},
-                page.number, {name});
+        const std::string ppm = Run(
+            {"pdftoppm", "-cropbox", "-r",
+             fmt::format("{}", pixelsPerMillimetre * kInch / kMillimetre), "-x", pixel(area.left),
+             "-y", pixel(area.top), "-W", pixel(area.Width()), "-H", pixel(area.Height())},
+            page.number, {name});
         GreyRaster grey;
         GreyRaster red;
         if (!ReadPpm(ppm, grey, red)) return std::nullopt;
@@ -105,9 +104,9 @@ class PdfDocument : public Document {
         const double squareInches = size.width * size.height / kInch / kInch;
         const double most = std::sqrt(kMostPixels / 2 / squareInches);
         if (most < kLeastDotsPerInch) {
-            throw Failure(fmt::format(
-                "{}: page {} is {:.0f} mm by {:.0f} mm, too large to be looked at", shown, number,
-                size.width / kMillimetre, size.height / kMillimetre));
+            throw Failure(
+                fmt::format("{}: page {} is {:.0f} mm by {:.0f} mm, too large to be looked at",
+                            shown, number, size.width / kMillimetre, size.height / kMillimetre));
         }
         return std::min(kDotsPerInch, std::floor(most));
     }
@@ -128,9 +127,9 @@ class PdfDocument : public Document {
         const double height = std::ceil(size.height);
         const double side = std::max({kDrawnSide, width, height});
         const std::string points = fmt::format("{:.0f}", side);
-        const std::string svg = Run({"pdftocairo", "-svg", "-expand", "-paperw",
-                                     points, "-paperh", points},
-                                    number, {name, "-"});
+        const std::string svg =
+            Run({"pdftocairo", "-svg", "-expand", "-paperw", points, "-paperh", points}, number,
+                {name, "-"});
         if (svg.empty()) return std::nullopt;
         const double scale = std::round(side) / std::max(width, height);
         try {
@@ -153,8 +152,8 @@ class PdfDocument : public Document {
 
 std::unique_ptr<Document> OpenPdf(const std::filesystem::path& path, const std::string& shown) {
     // An absolute name is taken for no option.
-    return std::make_unique<PdfDocument>(
-        host::Utf8FromPath(std::filesystem::absolute(path)), shown);
+    return std::make_unique<PdfDocument>(host::Utf8FromPath(std::filesystem::absolute(path)),
+                                         shown);
 }
 
 }  // namespace linewright

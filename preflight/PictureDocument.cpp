@@ -26,15 +26,15 @@ Page PageOf(int number, double width, double height, std::optional<double> pixel
         throw Failure(fmt::format("{}: the picture has no pixels", shown));
     }
     if (width * height > kMostPixels) {
-        throw Failure(fmt::format(
-            "{}: the picture has {:.0f} x {:.0f} pixels, more than can be looked at", shown, width,
-            height));
+        throw Failure(
+            fmt::format("{}: the picture has {:.0f} x {:.0f} pixels, more than can be looked at",
+                        shown, width, height));
     }
     if (dotsPerInch) pixelsPerMillimetre = *dotsPerInch / kMillimetresPerInch;
     const double stated = pixelsPerMillimetre.value_or(0) * kMillimetresPerInch;
     if (!(stated >= kLeastDotsPerInch && stated <= kMostDotsPerInch)) {
-        throw Failure(fmt::format("{}: the picture does not say its resolution; --dpi says it",
-                                  shown));
+        throw Failure(
+            fmt::format("{}: the picture does not say its resolution; --dpi says it", shown));
     }
     Page page;
     page.number = number;
@@ -132,9 +132,7 @@ class TiffDocument : public PictureDocument {
   public:
     TiffDocument(std::filesystem::path filePath, std::string shownName,
                  std::optional<double> wantedDotsPerInch)
-        : path(std::move(filePath)),
-          shown(std::move(shownName)),
-          dotsPerInch(wantedDotsPerInch) {
+        : path(std::move(filePath)), shown(std::move(shownName)), dotsPerInch(wantedDotsPerInch) {
         TIFFSetErrorHandler(nullptr);
         TIFFSetWarningHandler(nullptr);
         const TiffFile file = Open();
@@ -155,8 +153,8 @@ class TiffDocument : public PictureDocument {
         }
         Page page = PageOf(number, width, height, ResolutionOf(file.get()), dotsPerInch, shown);
         std::vector<std::uint32_t> pixels(page.grey.pixels.size());
-        if (TIFFReadRGBAImageOriented(file.get(), width, height, pixels.data(),
-                                      ORIENTATION_TOPLEFT, 1) == 0) {
+        if (TIFFReadRGBAImageOriented(file.get(), width, height, pixels.data(), ORIENTATION_TOPLEFT,
+                                      1) == 0) {
             Refuse();
         }
         for (std::size_t place = 0; place < pixels.size(); ++place) {

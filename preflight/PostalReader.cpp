@@ -43,6 +43,8 @@ Ends EndsOf(const BarChain& chain) {
     }
     const double lean = along > 0 ? across / along : 0;
     Ends ends;
+    ends.tops.reserve(chain.size());
+    ends.bottoms.reserve(chain.size());
     for (const PixelBox& bar : chain) {
         const double line = y + lean * ((bar.left + bar.right) / 2.0 - x);
         ends.tops.push_back(bar.top - line);
@@ -142,10 +144,12 @@ bool ReadPostnet(const Ends& ends, bool isTurned, RasterSymbol& symbol) {
 
 std::vector<RasterSymbol> ReadPostal(const GreyRaster& picture, double pixelsPerMillimetre,
                                      bool isTurned) {
+    const std::vector<BarChain> chains = FindBarChains(picture, pixelsPerMillimetre);
     std::vector<RasterSymbol> symbols;
-    for (const BarChain& chain : FindBarChains(picture, pixelsPerMillimetre)) {
-        const bool isPostnet = std::find(kPostnetBars.begin(), kPostnetBars.end(), chain.size()) !=
-                               kPostnetBars.end();
+    symbols.reserve(chains.size());
+    for (const BarChain& chain : chains) {
+        const bool isPostnet =
+            std::find(kPostnetBars.begin(), kPostnetBars.end(), chain.size()) != kPostnetBars.end();
         if (!isPostnet && chain.size() != kIntelligentMailBars) continue;
         const Ends ends = EndsOf(chain);
         RasterSymbol symbol;

@@ -63,8 +63,8 @@ class Child {
         arguments.reserve(words.size() + 1);
         for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
         arguments.push_back(nullptr);
-        const int failed = ::posix_spawnp(&id, arguments[0], &actions, nullptr, arguments.data(),
-                                          environ);
+        const int failed =
+            ::posix_spawnp(&id, arguments[0], &actions, nullptr, arguments.data(), environ);
         posix_spawn_file_actions_destroy(&actions);
         if (failed == ENOENT) {
             throw Failure(fmt::format(
@@ -114,14 +114,12 @@ ProgramResult RunProgram(const std::vector<std::string>& words, const ProgramLim
     error.CloseInput();
     ProgramResult result;
     const auto end = Clock::now() + limits.time;
-    std::array<pollfd, 2> waiting{
-        {{output.Output(), POLLIN, 0}, {error.Output(), POLLIN, 0}}};
+    std::array<pollfd, 2> waiting{{{output.Output(), POLLIN, 0}, {error.Output(), POLLIN, 0}}};
     while (waiting[0].fd >= 0 || waiting[1].fd >= 0) {
         const auto left =
             std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
         if (left <= 0) {
-            throw Failure(
-                fmt::format("{} took longer than {} s", words[0], limits.time.count()));
+            throw Failure(fmt::format("{} took longer than {} s", words[0], limits.time.count()));
         }
         if (::poll(waiting.data(), waiting.size(), static_cast<int>(left)) < 0 && errno != EINTR) {
             throw Failure(fmt::format("{} cannot be waited for", words[0]));

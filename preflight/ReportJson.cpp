@@ -66,11 +66,11 @@ void AddMeasures(ordered_json& object, const FoundSymbol& symbol) {
     if (measures.ratio) object["ratio"] = Rounded(*measures.ratio);
     object["barGain"] = Rounded(measures.barGain);
     const Dimensions& standard = DimensionsOf(symbol);
-    object["quietZones"] = {{"left", Rounded(measures.quietLeft)},
-                            {"right", Rounded(measures.quietRight)},
-                            {"leftOfStandard", Rounded(standard.quietLeft / standard.modulesPerX)},
-                            {"rightOfStandard",
-                             Rounded(standard.quietRight / standard.modulesPerX)}};
+    object["quietZones"] = {
+        {"left", Rounded(measures.quietLeft)},
+        {"right", Rounded(measures.quietRight)},
+        {"leftOfStandard", Rounded(standard.quietLeft / standard.modulesPerX)},
+        {"rightOfStandard", Rounded(standard.quietRight / standard.modulesPerX)}};
     if (measures.barColour && measures.spaceColour) {
         object["colour"] = ColourText(*measures.barColour);
         object["background"] = ColourText(*measures.spaceColour);
@@ -112,12 +112,9 @@ ordered_json SymbolJson(const FoundSymbol& symbol) {
 }  // namespace
 
 std::string ReportJson(const PreflightReport& report) {
-    ordered_json object{{"document", report.document},
-                        {"pageCount", report.pageCount},
-                        {"hasFaults", report.HasFaults()},
-                        {"pages", ordered_json::array()},
-                        {"symbols", ordered_json::array()},
-                        {"faults", FaultsJson(report.faults)}};
+    ordered_json object{{"document", report.document},      {"pageCount", report.pageCount},
+                        {"hasFaults", report.HasFaults()},  {"pages", ordered_json::array()},
+                        {"symbols", ordered_json::array()}, {"faults", FaultsJson(report.faults)}};
     for (const Page& page : report.pages) {
         object["pages"].push_back({{"page", page.number},
                                    {"width", Rounded(page.width)},

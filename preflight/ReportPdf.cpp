@@ -105,7 +105,7 @@ class PdfReport {
                         area.Height() * kMillimetre + 2 * kBeside);
         cairo_stroke(context);
         const std::string number = std::to_string(place + 1);
-        const auto face = fonts.Text(true);
+        const auto face = fonts.Text({.isBold = true});
         const TextLine line = face->Set(number, kTextSize);
         // Outside, where the quiet zone is.
         const double right = left + kFrame / 2;
@@ -120,9 +120,12 @@ class PdfReport {
         cairo_pdf_surface_set_size(page.Surface(), kPaperWidth, kPaperHeight);
         y = kMargin + kTitleSize;
         ShowLine("Linewright check of " + Readable(report.document), kTitleSize, kText, true);
-        ShowLine(fmt::format("{} of {} symbols with faults, {} rows of data not there",
-                             report.FaultySymbols(), report.symbols.size(), report.faults.size()),
-                 kTextSize, kText);
+        ShowLine(
+            fmt::format(
+                "{} of {} symbols with faults, {} of the data not there", report.FaultySymbols(),
+                report.symbols.size(),
+                report.faults.size() == 1 ? "1 row" : fmt::format("{} rows", report.faults.size())),
+            kTextSize, kText);
         for (const Fault& fault : report.faults) ShowLine(Sentence(fault), kTextSize, kFaulty);
         y += kLeading;
         for (std::size_t place = 0; place < report.symbols.size(); ++place) {
@@ -140,14 +143,13 @@ class PdfReport {
         EndPage();
     }
 
-    void ShowLine(const std::string& text, double size, const Colour& colour,
-                  bool isBold = false) {
+    void ShowLine(const std::string& text, double size, const Colour& colour, bool isBold = false) {
         if (y > kPaperHeight - kMargin) {
             EndPage();
             y = kMargin + kTextSize;
         }
         SetColour(page.Context(), colour);
-        const auto face = fonts.Text(isBold);
+        const auto face = fonts.Text({.isBold = isBold});
         face->Show(page.Context(), face->SetWithin(text, size, kPaperWidth - 2 * kMargin), size,
                    kMargin, y);
         y += std::max(kLeading, size * 1.6);

@@ -58,9 +58,8 @@ std::vector<std::string> SymbolWords(const FoundSymbol& symbol) {
 namespace {
 
 std::string SymbolText(const FoundSymbol& symbol) {
-    std::string text =
-        fmt::format("  {} {}  at {:.1f} mm, {:.1f} mm", NameOf(symbol), ShownData(symbol),
-                    symbol.area.left, symbol.area.top);
+    std::string text = fmt::format("  {} {}  at {:.1f} mm, {:.1f} mm", NameOf(symbol),
+                                   ShownData(symbol), symbol.area.left, symbol.area.top);
     if (symbol.degrees != 0) text += fmt::format(", turned {}°", symbol.degrees);
     if (symbol.line) text += fmt::format("  (line {})", *symbol.line);
     text += '\n';
@@ -75,8 +74,8 @@ std::string ReportText(const PreflightReport& report) {
     std::string text;
     auto symbol = report.symbols.begin();
     for (const Page& page : report.pages) {
-        text += fmt::format("page {}, {:.0f} mm x {:.0f} mm\n", page.number, page.width,
-                            page.height);
+        text +=
+            fmt::format("page {}, {:.0f} mm x {:.0f} mm\n", page.number, page.width, page.height);
         for (; symbol != report.symbols.end() && symbol->page == page.number; ++symbol) {
             text += SymbolText(*symbol);
         }

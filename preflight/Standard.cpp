@@ -49,14 +49,14 @@ void JudgeQuietZones(FoundSymbol& symbol, const Measures& measures, const Dimens
     const double left = standard.quietLeft / standard.modulesPerX;
     const double right = standard.quietRight / standard.modulesPerX;
     if (measures.quietLeft < left - slack) {
-        symbol.faults.push_back({Fault::Kind::kQuietLeft,
-                                 {fmt::format("{:.1f}", measures.quietLeft),
-                                  fmt::format("{:.3g}", left)}});
+        symbol.faults.push_back(
+            {Fault::Kind::kQuietLeft,
+             {fmt::format("{:.1f}", measures.quietLeft), fmt::format("{:.3g}", left)}});
     }
     if (measures.quietRight < right - slack) {
-        symbol.faults.push_back({Fault::Kind::kQuietRight,
-                                 {fmt::format("{:.1f}", measures.quietRight),
-                                  fmt::format("{:.3g}", right)}});
+        symbol.faults.push_back(
+            {Fault::Kind::kQuietRight,
+             {fmt::format("{:.1f}", measures.quietRight), fmt::format("{:.3g}", right)}});
     }
 }
 
@@ -69,13 +69,14 @@ void JudgeGrade(FoundSymbol& symbol, const GradeParts& parts) {
     const double decodability = parts.decodability.value_or(1);
     const bool isDecodability = decodability < 0.37;
     const bool isDefects = !isDecodability && parts.defects > 0.25;
-    symbol.faults.push_back(
-        {Fault::Kind::kGrade,
-         {fmt::format("{:.1f}", parts.grade),
-          isDecodability ? "decodability" : isDefects ? "defects" : "modulation",
-          fmt::format("{:.0f}", 100 * (isDecodability ? decodability
-                                       : isDefects    ? parts.defects
-                                                      : parts.modulation))}});
+    symbol.faults.push_back({Fault::Kind::kGrade,
+                             {fmt::format("{:.1f}", parts.grade),
+                              isDecodability ? "decodability"
+                              : isDefects    ? "defects"
+                                             : "modulation",
+                              fmt::format("{:.0f}", 100 * (isDecodability ? decodability
+                                                           : isDefects    ? parts.defects
+                                                                          : parts.modulation))}});
 }
 
 }  // namespace

@@ -54,9 +54,12 @@ bool TakeCurve(std::string_view& list, Contour& contour) {
 
 Transform Transform::After(const Transform& first) const {
     const Point origin = (*this)({first.x0, first.y0});
-    return {xx * first.xx + xy * first.yx, yx * first.xx + yy * first.yx,
-            xx * first.xy + xy * first.yy, yx * first.xy + yy * first.yy,
-            origin.x,                      origin.y};
+    return {xx * first.xx + xy * first.yx,
+            yx * first.xx + yy * first.yx,
+            xx * first.xy + xy * first.yy,
+            yx * first.xy + yy * first.yy,
+            origin.x,
+            origin.y};
 }
 
 double Transform::Scale() const {

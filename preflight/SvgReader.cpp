@@ -81,9 +81,7 @@ Area AreaOf(const std::vector<Segment>& outline) {
 
 class Reader {
   public:
-    explicit Reader(const pugi::xml_document& document) {
-        Remember(document, 0);
-    }
+    explicit Reader(const pugi::xml_document& document) { Remember(document, 0); }
 
     VectorPage page;
 

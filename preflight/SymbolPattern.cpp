@@ -9,6 +9,7 @@
 #include "standards/CodabarPatterns.h"
 #include "standards/Code128Patterns.h"
 #include "standards/Code39Patterns.h"
+#include "standards/Interleaved2of5Patterns.h"
 
 namespace linewright {
 
@@ -27,7 +28,8 @@ double Distance(Widths widths, double module, std::string_view row) {
     double distance = 0;
     for (std::size_t place = 0; place + 1 < row.size(); ++place) {
         const double like = (widths[place] + widths[place + 1]) / module;
-        distance = std::max(distance, std::fabs(like - (row[place] - '0') - (row[place + 1] - '0')));
+        distance =
+            std::max(distance, std::fabs(like - (row[place] - '0') - (row[place + 1] - '0')));
     }
     // Rows that share these distances differ in their bars.
     const double bar = widths[0] / module - (row[0] - '0');
@@ -137,11 +139,24 @@ bool TwoOfFive(Widths widths, std::size_t first, std::span<int> nominal) {
     return true;
 }
 
-Nominal MatchInterleaved2of5(Widths widths, std::size_t length) {
+/** The digit of five elements; none where they are of none. */
+std::optional<char> DigitOf(std::span<const int> nominal, std::size_t first) {
+    std::string pattern;
+    for (std::size_t place = 0; place < 5; ++place) {
+        pattern += nominal[first + 2 * place] == 2 ? 'w' : 'n';
+    }
+    const auto row =
+        std::find(kInterleaved2of5Patterns.begin(), kInterleaved2of5Patterns.end(), pattern);
+    if (row == kInterleaved2of5Patterns.end()) return std::nullopt;
+    return static_cast<char>('0' + (row - kInterleaved2of5Patterns.begin()));
+}
+
+Nominal MatchInterleaved2of5(Widths widths, std::size_t length, std::string& digits) {
     constexpr std::size_t kPair = 10;
     const std::size_t count = 4 + kPair * (length / 2) + 3;
     if (length < 2 || length % 2 != 0 || widths.size() < count) return std::nullopt;
     std::vector<int> nominal(count, 1);
+    digits.clear();
     const std::span<int> all(nominal);
     const double pair = Sum(widths.subspan(4, kPair));
     for (std::size_t at = 4; at + 3 < count; at += kPair) {
@@ -152,11 +167,16 @@ Nominal MatchInterleaved2of5(Widths widths, std::size_t length) {
             !TwoOfFive(elements, 1, all.subspan(at, kPair))) {
             return std::nullopt;
         }
+        const auto first = DigitOf(all, at);
+        const auto second = DigitOf(all, at + 1);
+        if (!first || !second) return std::nullopt;
+        digits += *first;
+        digits += *second;
     }
     nominal[count - 3] = 2;
     // Of 14 to 18 narrow widths in a pair a start element is one.
-    for (const std::size_t place : {std::size_t{0}, std::size_t{1}, std::size_t{2}, std::size_t{3},
-                                    count - 2, count - 1}) {
+    for (const std::size_t place :
+         {std::size_t{0}, std::size_t{1}, std::size_t{2}, std::size_t{3}, count - 2, count - 1}) {
         if (widths[place] > pair / 7) return std::nullopt;
     }
     if (widths[count - 3] < pair / 11) return std::nullopt;
@@ -230,6 +250,11 @@ Nominal MatchMsi(Widths widths, std::string& digits) {
         bits += isOne ? '1' : '0';
         nominal.insert(nominal.end(), {isOne ? 2 : 1, isOne ? 1 : 2});
     }
+    // What stands in the quiet zone can look like one more pair.
+    while (bits.size() > 6 && (bits.size() % 4 != 2 || bits.back() != '0')) {
+        bits.pop_back();
+        nominal.resize(nominal.size() - 2);
+    }
     if (bits.size() < 6 || bits.size() % 4 != 2 || bits.front() != '1' || bits.back() != '0') {
         return std::nullopt;
     }
@@ -275,7 +300,7 @@ std::optional<SymbolPattern> MatchAt(const PatternQuery& query, Widths widths) {
             nominal = MatchDiscrete(widths, kCodabarPatterns, kCodabarDataCharacters.size());
             break;
         case Symbology::kInterleaved2of5:
-            nominal = MatchInterleaved2of5(widths, query.length);
+            nominal = MatchInterleaved2of5(widths, query.length, pattern.digits);
             break;
         case Symbology::kIntelligentMail:
         case Symbology::kPostnet:
@@ -285,7 +310,9 @@ std::optional<SymbolPattern> MatchAt(const PatternQuery& query, Widths widths) {
         case Symbology::kMsi: nominal = MatchMsi(widths, pattern.digits); break;
         default: break;
     }
-    if (!nominal) return std::nullopt;
+    if (!nominal || (!query.digits.empty() && query.digits != pattern.digits)) {
+        return std::nullopt;
+    }
     pattern.nominal = std::move(*nominal);
     return pattern;
 }

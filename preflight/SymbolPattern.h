@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "types/BarcodeType.h"
@@ -22,7 +23,7 @@ struct SymbolPattern {
     bool hasTwoWidths = false;
     /** Whether all bars are of one width, and their heights say what they stand for. */
     bool hasHeights = false;
-    /** Of MSI: its digits, in the bars' order. */
+    /** Of Interleaved 2 of 5 and MSI: the digits. */
     std::string digits{};
 };
 
@@ -36,6 +37,8 @@ struct PatternQuery {
     /** The characters in the bars, or of postal symbols the bars, as far as they say how many
      *  elements there are. */
     std::size_t length = 0;
+    /** Of Interleaved 2 of 5 and MSI: the digits that it is to have; "" for any. */
+    std::string_view digits{};
 };
 
 /** Looks for a symbol that begins with a bar among the widths of a line's elements (a space, a bar,

@@ -22,6 +22,8 @@ constexpr int kFewestEanUpcModules = 67;
 /** Fewer are read out of hatching and text. */
 constexpr std::size_t kSureDigits = 6;
 constexpr std::size_t kSureCodabar = 4;
+/** Of bars, in mm: in what is lower, grain and corners left over, scanners read things too. */
+constexpr double kLeastHeight = 1;
 /** Pixels of a row that are as dark as those of the row beside it. */
 constexpr double kAlike = 0.88;
 
@@ -78,8 +80,8 @@ class CandidateReader {
     void Read(const PixelBox& candidate) {
         const int along = static_cast<int>(kAlong * pixelsPerMillimetre);
         const int across = static_cast<int>(kAcross * pixelsPerMillimetre);
-        const PixelBox area{candidate.left - along, candidate.top - across,
-                            candidate.right + along, candidate.bottom + across};
+        const PixelBox area{candidate.left - along, candidate.top - across, candidate.right + along,
+                            candidate.bottom + across};
         for (int attempt = 0; attempt < kMostInCandidate; ++attempt) {
             const GreyRaster crop = Cropped(picture, area);
             const std::size_t before = symbols.size();
@@ -102,25 +104,31 @@ class CandidateReader {
     }
 
     void Take(const SpottedSymbol& spotted, const PixelBox& area) {
-        const int row = std::clamp(area.top + (spotted.top + spotted.bottom) / 2, 0,
-                                   picture.height - 1);
+        int row = std::clamp(area.top + (spotted.top + spotted.bottom) / 2, 0, picture.height - 1);
         RasterSymbol symbol;
         symbol.symbology = spotted.symbology;
         symbol.reading = spotted.reading;
         symbol.box.left = std::clamp(area.left + spotted.left, 0, picture.width - 1);
-        symbol.box.right = std::clamp(area.left + spotted.right, symbol.box.left + 1,
-                                      picture.width);
-        const int left = std::max(area.left, 0);
-        const int right = std::min(area.right, picture.width);
+        symbol.box.right =
+            std::clamp(area.left + spotted.right, symbol.box.left + 1, picture.width);
         const double begin = symbol.box.left / pixelsPerMillimetre;
         const double end = symbol.box.right / pixelsPerMillimetre;
         // The darkest and lightest of a good part of the symbol, also where its ends are unsure.
         const double wider = std::max(0.0, 5 - (end - begin)) / 2;
-        const LineScan scan =
-            ScanPixels(picture.Row(row) + left, right - left, left / pixelsPerMillimetre,
-                       pixelsPerMillimetre, begin - wider, end + wider);
-        const auto pattern =
-            PatternIn(scan, QueryOf(spotted.symbology, spotted.reading), begin, end);
+        const PatternQuery query = QueryOf(spotted.symbology, spotted.reading);
+        LineScan scan;
+        std::optional<SymbolPattern> pattern;
+        // Where one row is spoilt another may do.
+        for (const int step : {0, -2, 2, -5, 5, -10, 10}) {
+            const int other = row + step;
+            if (pattern || other < 0 || other >= picture.height) continue;
+            const int left = std::max(area.left, 0);
+            const int right = std::min(area.right, picture.width);
+            scan = ScanPixels(picture.Row(other) + left, right - left, left / pixelsPerMillimetre,
+                              pixelsPerMillimetre, begin - wider, end + wider);
+            pattern = PatternIn(scan, query, begin, end);
+            if (pattern) row = other;
+        }
         symbol.isConfirmed = pattern.has_value();
         if (pattern) {
             const auto count = pattern->nominal.size();
@@ -133,8 +141,9 @@ class CandidateReader {
             symbol.box.left = pixel(scan.elements[low].begin);
             symbol.box.right = pixel(scan.elements[low + count - 1].end);
         }
-        symbol.isDoubtful = IsDoubtful(spotted.symbology, spotted.reading);
         FollowRows(picture, row, symbol.box);
+        symbol.isDoubtful = IsDoubtful(spotted.symbology, spotted.reading) ||
+                            symbol.box.Height() < kLeastHeight * pixelsPerMillimetre;
         if (symbol.symbology == Symbology::kEanUpc) TakeAddOn(symbol);
         PaintOver(symbol.box);
         symbols.push_back(std::move(symbol));
@@ -148,8 +157,8 @@ class CandidateReader {
         PixelBox shown = beside;
         shown.left -= static_cast<int>(pixelsPerMillimetre);
         shown.right += static_cast<int>(pixelsPerMillimetre);
-        const Reading reading = ReadWithZbar(
-            Cropped(picture, shown), {.symbology = Symbology::kEanUpc, .hasAddOn = true});
+        const Reading reading = ReadWithZbar(Cropped(picture, shown),
+                                             {.symbology = Symbology::kEanUpc, .hasAddOn = true});
         if (reading.addOn.empty() || reading.data != symbol.reading.data) return;
         symbol.reading.addOn = reading.addOn;
         PaintOver(beside);
@@ -197,10 +206,18 @@ void JoinParts(std::vector<RasterSymbol>& symbols, double pixelsPerMillimetre) {
         RasterSymbol& whole = symbols[place];
         for (std::size_t other = place + 1; other < symbols.size();) {
             const RasterSymbol& part = symbols[other];
-            const bool isPart = part.symbology == whole.symbology &&
+            const int common =
+                std::min(part.box.right, whole.box.right) - std::max(part.box.left, whole.box.left);
+            // The ends of what is not confirmed are unsure.
+            const bool areSure = part.isConfirmed && whole.isConfirmed &&
+                                 std::min(part.box.Height(), whole.box.Height()) >=
+                                     kLeastHeight * pixelsPerMillimetre;
+            const bool doEndsAgree =
+                areSure ? std::abs(part.box.left - whole.box.left) <= beside &&
+                              std::abs(part.box.right - whole.box.right) <= beside
+                        : 2 * common >= std::min(part.box.Width(), whole.box.Width());
+            const bool isPart = doEndsAgree && part.symbology == whole.symbology &&
                                 part.reading.data == whole.reading.data &&
-                                std::abs(part.box.left - whole.box.left) <= beside &&
-                                std::abs(part.box.right - whole.box.right) <= beside &&
                                 part.box.top - whole.box.bottom <= apart &&
                                 whole.box.top - part.box.bottom <= apart;
             if (!isPart) {
@@ -218,7 +235,10 @@ void JoinParts(std::vector<RasterSymbol>& symbols, double pixelsPerMillimetre) {
 }  // namespace
 
 PatternQuery QueryOf(Symbology symbology, const Reading& reading) {
-    return {symbology, FormOf(reading), reading.data.size()};
+    PatternQuery query{symbology, FormOf(reading), reading.data.size()};
+    const bool areDigits = symbology == Symbology::kInterleaved2of5 || symbology == Symbology::kMsi;
+    if (areDigits) query.digits = reading.data;
+    return query;
 }
 
 std::optional<SymbolPattern> PatternIn(const LineScan& scan, const PatternQuery& query,

@@ -16,7 +16,7 @@ struct TextFaceName {
     std::string family = "DejaVu Sans Mono";
     bool isBold = false;
 
-    auto operator<=>(const TextFaceName&) const = default;
+    auto operator<=>(const TextFaceName&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 /** A face that is there. */

@@ -26,9 +26,6 @@ struct Reading {
     bool isMeant = false;
 };
 
-/** ZXing-C++ and ZBar, or ZBar alone where the other cannot be had. */
-inline constexpr int kScannerCount = LINEWRIGHT_SCANNER_COUNT;
-
 // The scanners. Both look for the symbology of the task alone and never see what is expected.
 
 Reading ReadWithZxing(const GreyRaster& picture, const ScannerTask& task);

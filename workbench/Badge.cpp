@@ -6,7 +6,7 @@ namespace linewright {
 
 namespace {
 
-constexpr int kPadding = 4;
+constexpr int kInnerMargin = 4;
 
 }  // namespace
 
@@ -16,7 +16,7 @@ Badge::Badge(QWidget* parent) : QLabel(parent) {
     setFont(bold);
     setTextFormat(Qt::PlainText);
     setFrameStyle(QFrame::Box | QFrame::Plain);
-    setMargin(kPadding);
+    setMargin(kInnerMargin);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
@@ -30,7 +30,7 @@ void Badge::Show(Tone shownTone, const QString& shownWords, const QString& spoke
 }
 
 QSize Badge::sizeHint() const {
-    const int frame = 2 * (kPadding + frameWidth());
+    const int frame = 2 * (kInnerMargin + frameWidth());
     return {fontMetrics().horizontalAdvance(words) + frame, fontMetrics().height() + frame};
 }
 
@@ -46,7 +46,7 @@ void Badge::changeEvent(QEvent* event) {
 }
 
 void Badge::Fit() {
-    setText(fontMetrics().elidedText(words, Qt::ElideRight, contentsRect().width() - 2 * kPadding));
+    setText(fontMetrics().elidedText(words, Qt::ElideRight, contentsRect().width() - 2 * kInnerMargin));
 }
 
 void Badge::Colour() {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +18,12 @@ using host::WidgetKind;
 using host::WidgetPlace;
 
 namespace {
+
+/** What a window can have of a screen, with room for the frame that a window manager adds. */
+QSize RoomOn(const QScreen& screen) {
+    constexpr QSize kFrame(16, 48);
+    return screen.availableSize() - kFrame;
+}
 
 QRect RectOf(const LayoutBox& box) {
     return {box.left, box.top, box.width, box.height};
@@ -62,6 +69,12 @@ DialogWindow::DialogWindow(host::ShownDialog& shown, QSettings& userSettings,
     notice->setObjectName(QStringLiteral("notice"));
     notice->setTextFormat(Qt::PlainText);
     notice->hide();
+    area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(new QWidget);
+    area->widget()->installEventFilter(this);
     MakeFrames();
     MakeControls();
     NameControls();
@@ -120,16 +133,16 @@ Control* DialogWindow::ControlOf(const ShownWidget* widget) const {
 void DialogWindow::MakeFrames() {
     for (int32 group = 0; group < dialog->CountGroups(); ++group) {
         const QString title = TextFromHost(dialog->GetGroupTitle(group));
-        frames.push_back(title.isEmpty() ? nullptr : new QGroupBox(title, this));
+        frames.push_back(title.isEmpty() ? nullptr : new QGroupBox(title, area->widget()));
         if (frames.back()) frames.back()->installEventFilter(this);
     }
 }
 
 QWidget* DialogWindow::ParentFor(const ShownWidget& widget) {
     const int32 group = widget.GetPlace().group;
-    QWidget* const frame =
-        group == WidgetPlace::kButtonRow ? nullptr : frames[static_cast<std::size_t>(group)];
-    return frame ? frame : this;
+    if (group == WidgetPlace::kButtonRow) return this;
+    QWidget* const frame = frames[static_cast<std::size_t>(group)];
+    return frame ? frame : area->widget();
 }
 
 void DialogWindow::MakeControls() {
@@ -181,31 +194,49 @@ int DialogWindow::NoticeHeight() const {
 
 void DialogWindow::Fit() {
     if (!dialog) return;
-    const LayoutSize needed = LayOutFor({}).size;
-    const bool isSizable = std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
-        return TakesHeight(pair.first->GetKind());
-    });
+    LayoutSize needed = LayOutFor({}).size;
+    const int mostHigh = RoomOn(*screen()).height() - NoticeHeight();
+    const bool isScrolled = needed.height > mostHigh;
+    if (isScrolled) {
+        needed = {.width = needed.width + area->verticalScrollBar()->sizeHint().width(),
+                  .height = mostHigh};
+    }
+    const bool isSizable =
+        isScrolled || std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
+            return TakesHeight(pair.first->GetKind());
+        });
     setMinimumSize(needed.width, needed.height + NoticeHeight());
     if (!isSizable) setMaximumSize(minimumSize());
     setSizeGripEnabled(isSizable);
     Arrange();
 }
 
+/** What does not fit on a screen scrolls; what is done with a dialog stays in sight. */
 void DialogWindow::Arrange() {
     if (!dialog) return;
     const int noticeHeight = NoticeHeight();
     const DialogLayout layout = LayOutFor(size() - QSize(0, noticeHeight));
+    const int hidden = layout.size.height + noticeHeight - height();
     notice->setVisible(noticeHeight > 0);
     notice->setGeometry(noticeHeight / 2, height() - noticeHeight, width() - noticeHeight,
                         noticeHeight);
     for (std::size_t i = 0; i < frames.size(); ++i)
         if (frames[i]) frames[i]->setGeometry(RectOf(layout.groups[i]));
+    int bodyHeight = layout.size.height;
     for (std::size_t i = 0; i < controls.size(); ++i) {
         QWidget* const view = controls[i].second->View();
         const QWidget* const parent = view->parentWidget();
-        const QPoint origin = parent == this ? QPoint() : parent->pos();
-        view->setGeometry(RectOf(layout.widgets[i]).translated(-origin));
+        QRect place = RectOf(layout.widgets[i]);
+        if (parent == this) {
+            bodyHeight = std::min(bodyHeight, place.top());
+            place.translate(0, -hidden);
+        } else if (parent != area->widget()) {
+            place.translate(-parent->pos());
+        }
+        view->setGeometry(place);
     }
+    area->widget()->resize(layout.size.width, bodyHeight);
+    area->setGeometry(0, 0, width(), bodyHeight - hidden);
 }
 
 bool DialogWindow::event(QEvent* event) {
@@ -255,7 +286,7 @@ void DialogWindow::KeepOnScreen() {
     constexpr QSize kUsualSize(660, 620);
     const QRect room = screen()->availableGeometry();
     const bool isPlaced = settings.contains(PlaceKey());
-    if (isSizeGripEnabled()) resize((isPlaced ? size() : kUsualSize).boundedTo(room.size()));
+    if (isSizeGripEnabled()) resize((isPlaced ? size() : kUsualSize).boundedTo(RoomOn(*screen())));
     if (isPlaced && !room.contains(geometry())) {
         move(std::clamp(x(), room.left(), std::max(room.left(), room.right() - width())),
              std::clamp(y(), room.top(), std::max(room.top(), room.bottom() - height())));

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QSettings>
 #include <QVariantMap>
 #include <functional>
@@ -56,7 +57,7 @@ class DialogWindow final : public QDialog, private host::DialogListener {
     void SetStale(bool isStale);
     void KeepOnScreen();
     void MakeFrames();
-    /** The frame of its group, or the window itself. */
+    /** The frame of its group, what scrolls, or for the row of buttons the window itself. */
     QWidget* ParentFor(const host::ShownWidget& widget);
     void MakeControls();
     void NameControls();
@@ -73,6 +74,7 @@ class DialogWindow final : public QDialog, private host::DialogListener {
     RsrcID resource;
     ControlHooks hooks;
     QLabel* notice;
+    QScrollArea* area;  // with all groups
     std::vector<std::pair<host::ShownWidget*, std::unique_ptr<Control>>> controls;
     std::vector<QGroupBox*> frames;  // by group; nullptr for one without a frame
 };

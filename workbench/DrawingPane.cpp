@@ -46,7 +46,7 @@ DrawingPane::DrawingPane(QSettings& userSettings, QWidget* parent)
     connect(zoomBox, &QSpinBox::valueChanged, this, [this](int zoom) { area->SetZoom(zoom); });
     connect(fitButton, &QPushButton::clicked, this, [this](bool on) { area->SetFitted(on); });
     area->SetZoom(settings.value(QLatin1String(kZoomKey), kFirstZoom).toInt());
-    area->SetFitted(settings.value(QLatin1String(kFittedKey), false).toBool());
+    area->SetFitted(settings.value(QLatin1String(kFittedKey), true).toBool());
 }
 
 void DrawingPane::Arrange() {

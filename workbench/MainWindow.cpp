@@ -43,7 +43,9 @@ MainWindow::MainWindow(QSettings& userSettings, std::function<void(const QString
     constexpr QSize kFirstSize(900, 600);
     setWindowTitle(QStringLiteral("Linewright"));
     setWindowIcon(ProgramIcon());
-    resize(kFirstSize.boundedTo(screen()->availableSize()));
+    // A window manager adds a frame.
+    constexpr QSize kFrame(16, 48);
+    resize(kFirstSize.boundedTo(screen()->availableSize() - kFrame));
     restoreGeometry(settings.value(kGeometryKey).toByteArray());
     statusBar()->setSizeGripEnabled(true);
     tabs = new QTabWidget(this);

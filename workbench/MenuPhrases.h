@@ -8,7 +8,7 @@ namespace linewright::phrases {
 
 inline constexpr Phrase kFileMenu{"&File", "&Datei", "&Fichier", "ファイル(&F)"};
 inline constexpr Phrase kQuit{"&Quit", "&Beenden", "&Quitter", "終了(&Q)"};
-inline constexpr Phrase kLanguageMenu{"L&anguage", "&Sprache", "L&angue", "言語(&A)"};
+inline constexpr Phrase kLanguageMenu{"L&anguage", "&Sprache", "Lan&gue", "言語(&A)"};
 inline constexpr Phrase kNoPlugIn{
     "The plug-in could not be started", "Das Zusatzmodul konnte nicht gestartet werden",
     "Le module n’a pas pu démarrer", "プラグインを起動できませんでした"};

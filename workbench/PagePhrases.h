@@ -86,20 +86,20 @@ inline constexpr Phrase kPageFont{"Font", "Schrift", "Police", "フォント"};
 // How large it is shown
 inline constexpr Phrase kPageZoom{"&Zoom:", "&Zoom:", "&Zoom :", "ズーム(&Z):"};
 inline constexpr Phrase kFit{"Fi&t", "Einpassen", "Ajuster", "全体表示(&T)"};
-inline constexpr Phrase kPercentOfPaper{"%1 % of its size on paper", "%1 % der Größe auf Papier",
-                                        "%1 % de sa taille sur papier", "印刷サイズの %1 %"};
+inline constexpr Phrase kPercentOfPaper{"%1 % of paper size", "%1 % der Druckgröße",
+                                        "%1 % de l’imprimé", "印刷サイズの %1 %"};
 
 // The sizes
 inline constexpr Phrase kXDimension{
     "&X-dimension:", "&Modulbreite:", "&Dimension X :", "X 寸法(&X):"};
 inline constexpr Phrase kMagnification{
     "&Magnification:", "Ver&größerung:", "Éc&helle :", "倍率(&M):"};
-inline constexpr Phrase kHeight{"Bar hei&ght:", "Ba&lkenhöhe:", "Haute&ur :", "高さ(&G):"};
-inline constexpr Phrase kQuietZone{"&Quiet zone:", "R&uhezone:", "Zone de &silence :", "余白(&Q):"};
+inline constexpr Phrase kHeight{"Bar hei&ght:", "H&öhe:", "Haute&ur :", "高さ(&G):"};
+inline constexpr Phrase kQuietZone{"&Quiet zone:", "R&uhezone:", "&Silence :", "余白(&Q):"};
 inline constexpr Phrase kReduction{
-    "&Bar reduction:", "Balken&korrektur:", "Réduction &barres :", "バー幅補正(&B):"};
+    "&Bar reduction:", "&Korrektur:", "Réduction &barres :", "バー幅補正(&B):"};
 inline constexpr Phrase kResolution{
-    "Dev&ice dpi:", "Gerät (dp&i):", "Résolut&ion (ppp) :", "解像度 dpi(&I):"};
+    "Dev&ice dpi:", "Gerät (dp&i):", "Résolut&ion :", "解像度 dpi(&I):"};
 inline constexpr Phrase kNoResolution{"any", "beliebig", "toute", "指定なし"};
 inline constexpr Phrase kTextBelow{"Text bel&ow", "Klarschri&ft", "&Texte dessous", "下に文字(&O)"};
 inline constexpr Phrase kBearerBars{"Bearer bars", "Trägerbalken", "Barres porteuses",

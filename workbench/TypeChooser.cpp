@@ -66,6 +66,8 @@ TypeChooser::TypeChooser(QWidget* parent) : QWidget(parent) {
     list = new QTreeView(this);
     list->setObjectName(QStringLiteral("types"));
     list->setHeaderHidden(true);
+    // The line on what a type is for is cut with an ellipsis where there is little room.
+    list->header()->setMinimumSectionSize(1);
     list->setRootIsDecorated(false);
     list->setItemsExpandable(false);
     list->setIndentation(list->indentation() / 2);

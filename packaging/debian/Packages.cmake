@@ -58,8 +58,10 @@ the plug-in for a page-layout application and the host that runs it here."
 )
 linewright_package(linewright-drawing graphics "drawings of barcodes, read back by scanners"
 "Lets the command linewright draw barcodes as PDF, EPS, SVG, PNG and TIFF
-files, proof whole tables of them, and say what two scanners read."
+files, set and proof whole tables of them, say what two scanners read, and
+check finished documents."
     DEPENDS "linewright @" "fonts-linewright @" fonts-dejavu-core
+    RECOMMENDS poppler-utils
 )
 linewright_package(linewright-workbench graphics "window that turns data into barcodes"
 "Draws a barcode while its data is typed, says whether scanners read it,

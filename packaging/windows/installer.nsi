@@ -7,6 +7,8 @@ ManifestSupportedOS all
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
 AllowSkipFiles off
+; Two builds are the same to the byte.
+SetDateSave off
 
 !include "MUI2.nsh"
 !include "WinMessages.nsh"

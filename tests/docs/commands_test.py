@@ -5,6 +5,7 @@ made of what it shows. Each document has a folder of its own, with the samples.
 
 Usage: commands_test.py BIN-FOLDER            all blocks but those below <!-- installs -->
        commands_test.py BIN-FOLDER install    those, which install or build, in a copy of the sources
+Blocks below <!-- tested by NAME --> are left to that test.
 """
 import json
 import os
@@ -18,13 +19,14 @@ from pathlib import Path
 BIN, INSTALLS = Path(sys.argv[1]).resolve(), sys.argv[2:] == ["install"]
 ROOT = Path(__file__).resolve().parents[2]
 DOCUMENTS = [*ROOT.glob("*.md"), *(ROOT / "docs").glob("*.md")]
-BLOCK = re.compile(r"^(<!-- installs -->\n)?```(\w*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
+BLOCK = re.compile(r"^(?:<!-- (installs|tested by \w+) -->\n)?```(\w*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 PROGRAM = str(BIN / "linewright")
 
 
 def blocks(document: Path):
+    """The mark, the language and the lines of each block."""
     for match in BLOCK.finditer(document.read_text(encoding="utf-8")):
-        yield bool(match[1]), match[2], match[3]
+        yield match[1] or "", match[2], match[3]
 
 
 def commands(block: str):
@@ -51,8 +53,8 @@ def run(command: str, folder: Path) -> str:
 class DocumentsTest(unittest.TestCase):
     def follow(self, document: Path, folder: Path) -> int:
         done = 0
-        for installs, _, block in blocks(document):
-            if installs != INSTALLS:
+        for mark, _, block in blocks(document):
+            if mark != ("installs" if INSTALLS else ""):
                 continue
             for command, printed in commands(block):
                 shown = re.fullmatch(r"cat (\S+)", command)
@@ -81,8 +83,12 @@ class DocumentsTest(unittest.TestCase):
         """A block without "$ " may name our scripts, with words that they know; else it has no commands."""
         usages = {name: (ROOT / name).read_text(encoding="utf-8") for name in ("run", "test", "package")}
         for document in DOCUMENTS:
-            for _, language, block in blocks(document):
-                if "$ " in block or language:
+            for mark, language, block in blocks(document):
+                if mark.startswith("tested by "):
+                    with self.subTest(document=document.name, test=mark):
+                        self.assertTrue(any(f"NAME {mark.split()[-1]}\n" in file.read_text(encoding="utf-8")
+                                            for file in (ROOT / "tests").rglob("CMakeLists.txt")))
+                if "$ " in block or language or mark:
                     continue
                 for script, word in re.findall(r"^\./(\w+) *([-\w]*)", block, re.MULTILINE):
                     with self.subTest(document=document.name, command=f"./{script} {word}"):

@@ -139,6 +139,7 @@ TEST_F(DocumentTest, RefusesCutTextWhereItIsStrict) {
     const DrawnBarcode drawn =
         document.Add({.type = "ean13", .data = kPen, .isStrict = true}, {std::string(100, 'm')});
     EXPECT_FALSE(drawn.drawing);
+    ASSERT_TRUE(drawn.outcome.refusal);
     EXPECT_EQ(drawn.outcome.refusal->reason, RefusalReason::kStrict);
     EXPECT_EQ(document.Labels(), 0U);
 }

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Has `linewright check` read documents: sound ones, ones spoilt on purpose, scans, and pages
 without barcodes.
 
@@ -117,6 +117,10 @@ def fill(path, symbols, chance):
         width, height = ((symbol.width, symbol.height) if turn % 180 == 0 else
                          (symbol.height, symbol.width))
         if x + width > 190:
+            context.set_line_width(0.2)
+            context.move_to(15, y + row + 8)
+            context.line_to(195, y + row + 8)
+            context.stroke()
             x, y, row = 20, y + row + 22, 0
         if y + height > 285:
             context.show_page()
@@ -125,10 +129,6 @@ def fill(path, symbols, chance):
         pages.draw(context, Placed(symbol, x, y, turn))
         pages.write(context, f"{symbol.name} {symbol.data}"[:22], x, y - 6, 2)
         row = max(row, height)
-        context.set_line_width(0.2)
-        context.move_to(15, y + row + 8)
-        context.line_to(195, y + row + 8)
-        context.stroke()
         expected.append((symbol.name, symbol.data))
         x += width + 14
         if place % 7 == 3 and x + 20 < 190:

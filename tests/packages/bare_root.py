@@ -43,7 +43,10 @@ class BareRoot:
             folder.mkdir(parents=True)
             output_of("tar", "xf", kept, "-C", folder)
         else:
-            output_of("debootstrap", "--variant=minbase", release[1], folder, address[0])
+            try:
+                output_of("debootstrap", "--variant=minbase", release[1], folder, address[0])
+            except subprocess.CalledProcessError as error:
+                raise Impossible(f"debootstrap ends with\n{error.stdout[-1000:]}{error.stderr[-1000:]}") from error
             output_of("tar", "cf", kept, "-C", folder, "--exclude=./proc/*", ".")
         (folder / "etc/apt/sources.list").write_text(
             "".join(f"deb {uri} {suite} {component}\n" for uri, suite, component in known))

@@ -59,8 +59,10 @@ class Wine:
         self.quietly("wineserver", "-p")
         self.quietly(ROOT / "scripts/wine-run", "wineboot")
         [self.user] = [each for each in (self.prefix / "drive_c/users").iterdir() if each.name != "Public"]
-        # Every Windows has this one.
+        # Every Windows has these.
         (self.user / "AppData/Local/Programs").mkdir(exist_ok=True)
+        for key in (FONTS, str(PureWindowsPath(UNINSTALL).parent)):
+            self.run("reg", "add", key, "/f")
 
     def quietly(self, *command):
         subprocess.run(command, env=self.environment, check=True, stdin=subprocess.DEVNULL,
@@ -70,7 +72,7 @@ class Wine:
         self.quietly("wineserver", "-k")
 
     def run(self, *command, **more) -> subprocess.CompletedProcess:
-        return subprocess.run([ROOT / "scripts/wine-run", *command], env=self.environment, timeout=120,
+        return subprocess.run([ROOT / "scripts/wine-run", *command], env=self.environment, timeout=600,
                               **{"stdin": subprocess.DEVNULL, "stdout": subprocess.PIPE, "stderr": subprocess.PIPE,
                                  "encoding": "utf-8"} | more)
 
@@ -98,13 +100,14 @@ class Wine:
                 if "Temp" not in path.parts and "windows" not in path.parts}
 
     def registry(self) -> set[str]:
-        """Every line of the user's part, under its key."""
+        """Every line of the user's part under its key, but what Wine itself writes."""
         file = self.prefix / "drive_c/exported.reg"
         self.run("reg", "export", "HKCU", r"C:\exported.reg", "/y")
         lines, key = set(), ""
         for line in file.read_text(encoding="utf-16").splitlines():
             key = line if line.startswith("[") else key
-            lines.add(f"{key}{line}")
+            if not key.startswith(r"[HKEY_CURRENT_USER\Software\Wine"):
+                lines.add(f"{key}{line}")
         file.unlink()
         return lines
 
@@ -129,19 +132,18 @@ def unpack(folder: str) -> Path:
     return place / f"linewright-{VERSION}"
 
 
-def setup(installer: Path, *options: str) -> int:
-    return wine.run(installer, "/S", *options).returncode
+def start(program: Path, *options: str) -> int:
+    """Runs an installer or uninstaller, which want folders without quotes: word by word. What shows windows leaves
+    a process behind for a while, which must hold none of our pipes."""
+    words = [word for option in options for word in option.split(" ")]
+    return wine.run(program, "/S", *words, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode
 
 
-def uninstall(folder: Path) -> None:
-    """Starts what the system starts, which goes on in a copy of itself."""
-    wine.run(folder / "uninstall.exe", "/S")
-    end = time.monotonic() + 60
-    # The last that it does is to take its folders away, where nothing else lies in them.
-    while any(file.is_file() for file in folder.rglob("*.exe")) and time.monotonic() < end:
-        time.sleep(0.1)
-    end = time.monotonic() + 5
-    while folder.exists() and time.monotonic() < end:
+def uninstall(folder: Path, left: frozenset[Path] = frozenset()) -> None:
+    """Starts what the system starts, which goes on in a copy of itself until only what is `left` lies there."""
+    start(folder / "uninstall.exe")
+    end = time.monotonic() + 300
+    while (folder.exists() and set(folder.rglob("*")) != left) and time.monotonic() < end:
         time.sleep(0.1)
 
 
@@ -325,7 +327,7 @@ class Installer(unittest.TestCase):
         self.assertEqual(wine.registry() ^ self.registry, set())
 
     def test_installs_works_and_leaves_preferences_only(self):
-        self.assertEqual(setup(SETUP), 0)
+        self.assertEqual(start(SETUP), 0)
         program = self.folder / "bin/linewright.exe"
         run = wine.run(program, "encode", *EAN13)
         self.assertEqual((run.returncode, run.stdout), (0, EAN13_TEXT + "\n"), run.stderr)
@@ -348,7 +350,7 @@ class Installer(unittest.TestCase):
         self.assert_nothing_is_left()
 
     def test_fonts_are_those_that_the_command_installs(self):
-        setup(SETUP)
+        start(SETUP)
         fonts = wine.user / "AppData/Local/Microsoft/Windows/Fonts"
         entries, files = wine.values(FONTS), {path.name: path.read_bytes() for path in fonts.iterdir()}
         self.assertEqual(len(files), 10)
@@ -365,7 +367,7 @@ class Installer(unittest.TestCase):
         for before, kind in ((r"%HOME%\a;;", "REG_EXPAND_SZ"), (long, "REG_SZ")):
             with self.subTest(before):
                 wine.set_path(before, kind)
-                setup(SETUP)
+                start(SETUP)
                 self.assertEqual(wine.path(), (kind, f"{before};{self.installed_bin()}"))
                 wine.set_path(rf"C:\first;{before};{self.installed_bin()};C:\last", kind)
                 uninstall(self.folder)
@@ -377,11 +379,12 @@ class Installer(unittest.TestCase):
         (folder / "bin").mkdir()
         (folder / "bin/mine.txt").write_text("mine")
         self.files = wine.files()
-        self.assertEqual(setup(SETUP, r"/D=C:\Größe 日本 x\Line wright"), 0)
+        self.assertEqual(start(SETUP, r"/D=C:\Größe 日本 x\Line wright"), 0)
         run = wine.run(folder / "bin/linewright.exe", "encode", *EAN13)
         self.assertEqual(run.stdout, EAN13_TEXT + "\n", run.stderr)
-        self.assertIn((self.installed_bin(folder)), wine.path()[1])
-        uninstall(folder)
+        run = wine.run("cmd", "/c", "linewright encode ean13 400638133393")
+        self.assertEqual(run.stdout.strip(), EAN13_TEXT, run.stderr)
+        uninstall(folder, frozenset({folder / "bin", folder / "bin/mine.txt"}))
         self.assertEqual((folder / "bin/mine.txt").read_text(), "mine")
         self.assert_nothing_is_left()
 
@@ -390,14 +393,14 @@ class Installer(unittest.TestCase):
             older = older_setup(Path(temporary))
             for place in (None, r"C:\another place"):
                 with self.subTest(place):
-                    self.assertEqual(setup(older, *([f"/D={place}"] if place else [])), 0)
+                    self.assertEqual(start(older, *([f"/D={place}"] if place else [])), 0)
                     old = wine.place(place) if place else self.folder
                     self.assertTrue((old / "bin/forgotten.dll").is_file())
                     wine.run(old / "bin/linewright.exe", "prefs", "set", "ratio=3")
                     preferences = wine.run(old / "bin/linewright.exe", "prefs").stdout
                     self.assertEqual(wine.values(UNINSTALL)["DisplayVersion"][1], "0.9.0")
 
-                    self.assertEqual(setup(SETUP, f"/D=C:\\{self.folder.relative_to(wine.prefix / 'drive_c')}"
+                    self.assertEqual(start(SETUP, f"/D=C:\\{self.folder.relative_to(wine.prefix / 'drive_c')}"
                                            .replace("/", "\\").replace("\\D=", "/D=", 1)), 0)
                     self.assertFalse((old / "bin/forgotten.dll").exists())
                     self.assertEqual(old.exists(), place is None)
@@ -408,15 +411,14 @@ class Installer(unittest.TestCase):
                     self.assert_nothing_is_left()
 
     def test_says_that_it_is_in_use(self):
-        setup(SETUP)
+        start(SETUP)
         program = self.folder / "bin/linewright.exe"
         with subprocess.Popen([ROOT / "scripts/wine-run", program, "stream"], env=wine.environment,
                               stdin=subprocess.PIPE, stdout=subprocess.PIPE) as running:
             running.stdin.write(json.dumps({"type": "ean13", "data": "400638133393"}).encode() + b"\n")
             running.stdin.flush()
             running.stdout.readline()
-            status = wine.run(self.folder / "uninstall.exe", "/S",
-                              f"_?=C:\\{PureWindowsPath(self.folder.relative_to(wine.prefix / 'drive_c'))}").returncode
+            status = start(self.folder / "uninstall.exe", f"_?=C:\\{PureWindowsPath(self.folder.relative_to(wine.prefix / 'drive_c'))}")
             self.assertEqual(status, 2)
             self.assertIn("UninstallString", wine.values(UNINSTALL))
             running.stdin.close()

@@ -192,6 +192,14 @@ class ResourcesTest(unittest.TestCase):
 
         self.check_layouts(test)
 
+    def test_buttons_end_where_groups_do(self):
+        def test(dialog, locale, widgets):
+            buttons = [box_of(each, locale) for each in widgets if each["kind"] == "button"]
+            self.assertEqual(sorted(buttons), buttons)
+            self.assertEqual(box_of(dialog["groups"][0], locale)[2], buttons[-1][2])
+
+        self.check_layouts(test)
+
     def test_languages_have_places_of_their_own(self):
         for dialog in self.told["dialogs"]:
             boxes = {json.dumps([each["boxes"].get(locale) for each in dialog["widgets"]])

@@ -17,8 +17,7 @@ QByteArray OnClipboard(const QString& type) {
     QProcess xclip;
     xclip.start("xclip", {"-selection", "clipboard", "-o", "-t", type});
     // The window has to answer meanwhile.
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return xclip.state() == QProcess::NotRunning; }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return xclip.state() == QProcess::NotRunning; }, 10000));
     return xclip.readAllStandardOutput();
 }
 
@@ -81,8 +80,8 @@ TEST_F(DesktopTest, ACellOfAnotherProgramLosesItsLineBreak) {
     ASSERT_TRUE(xclip.waitForStarted());
     xclip.write("CELL\n");
     xclip.closeWriteChannel();
-    ASSERT_TRUE(QTest::qWaitFor(
-        [] { return QApplication::clipboard()->text() == "CELL\n"; }, 10000));
+    ASSERT_TRUE(
+        QTest::qWaitFor([] { return QApplication::clipboard()->text() == "CELL\n"; }, 10000));
     QTest::keyClick(&Named<QLineEdit>("data"), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Named<QLineEdit>("data").text(), "CELL");
     xclip.kill();

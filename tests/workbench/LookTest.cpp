@@ -78,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(Looks, LookTest, testing::ValuesIn(Looks()), [](const a
 TEST_P(LookTest, TextIsReadableAndPicturesAreTaken) {
     Start(QLatin1String(GetParam().locale));
     MainWindow& window = workbench->Window();
-    window.resize(QSize(900, 600).boundedTo(window.screen()->availableSize()));
+    window.resize(900, 600);
     const auto expectReadable = [&](const char* when) {
         const QColor ground = window.palette().color(QPalette::Window);
         for (const QLabel* const label : window.findChildren<QLabel*>()) {
@@ -106,7 +106,8 @@ TEST_P(LookTest, TextIsReadableAndPicturesAreTaken) {
         Save(window, QStringLiteral("page-") + QLatin1String(name));
     }
     DialogWindow& utility = OpenUtility();
-    TypeData(utility, "1");
+    linewright::ChooseType(utility, "EAN-13");
+    TypeData(utility, "400638133393");
     QTest::keyClick(&At<QLineEdit>(utility, kData), Qt::Key_Return);
     Save(utility, QStringLiteral("utility"));
     utility.close();
@@ -114,6 +115,7 @@ TEST_P(LookTest, TextIsReadableAndPicturesAreTaken) {
         Save(dialog, QStringLiteral("preferences"));
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
+    ChooseType("Code 128");
     TypeIn("1");
     DuringModal<QDialog>([this] { Action("export").trigger(); },
                          [this](QDialog& dialog) {

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTest>
 
 #include <sys/resource.h>
@@ -282,6 +283,7 @@ TEST_F(OutputTest, TwentyRecentBarcodesAreKeptAndClearedOnRequest) {
     }
     Action("copyText").trigger();
     QMenu& menu = *Action("recent").menu();
+    QMetaObject::invokeMethod(&menu, "aboutToShow");
     // A separator and the entry that clears follow.
     ASSERT_EQ(menu.actions().size(), 22);
     EXPECT_EQ(menu.actions().first()->text(), "code128  1021");

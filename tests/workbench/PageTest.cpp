@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 
 #include "tests/workbench/PageFixture.h"
+#include "text/FontText.h"
 #include "types/BarcodeTypes.h"
 
 namespace linewright {
@@ -176,7 +177,7 @@ TEST_F(PageTest, ZoomsByKeysByTheWheelAndToFit) {
     TypeIn("A much longer text that wants more room than the other one had");
     EXPECT_LT(zoom.value(), fitting);
     EXPECT_TRUE(Named<QPushButton>("fit").isChecked());
-    EXPECT_TRUE(Named<QLabel>("percent").text().contains("% of its size on paper"));
+    EXPECT_TRUE(Named<QLabel>("percent").text().contains("% of paper size"));
 }
 
 TEST_F(PageTest, FollowsThePreferences) {

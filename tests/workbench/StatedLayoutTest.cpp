@@ -57,15 +57,15 @@ TEST_P(StatedLayoutTest, NoTextIsClipped) {
     // Pixels that a widget of a kind needs beside its text, at the least
     const QMap<QString, int> beside{{"label", 0}, {"checkBox", 20}, {"button", 16}, {"popUp", 30}};
     int texts = 0;
-    for (const QJsonValue& dialog : told["dialogs"].toArray()) {
-        for (const QJsonValue& group : dialog["groups"].toArray())
+    for (const QJsonValue dialog : told["dialogs"].toArray()) {
+        for (const QJsonValue group : dialog["groups"].toArray())
             if (group["title"].isString())
                 ExpectRoom(TextOf(group["title"].toString()), RoomIn(group), 16);
-        for (const QJsonValue& widget : dialog["widgets"].toArray()) {
+        for (const QJsonValue widget : dialog["widgets"].toArray()) {
             const QString kind = widget["kind"].toString();
             if (!beside.contains(kind) || !widget["visible"].toBool()) continue;
             QStringList keys;
-            for (const QJsonValue& item : widget["items"].toArray()) keys += item.toString();
+            for (const QJsonValue item : widget["items"].toArray()) keys += item.toString();
             if (widget["text"].isString()) keys += widget["text"].toString();
             if (keys.isEmpty()) keys = strings.keys().filter("UtilityTypePopupItem");
             for (const QString& key : keys) ExpectRoom(TextOf(key), RoomIn(widget), beside[kind]);

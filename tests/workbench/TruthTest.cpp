@@ -79,7 +79,10 @@ TEST_F(TruthTest, ABadgeIsNeverThatOfOtherData) {
         // Scanners have not said anything of it yet, or it is of this.
         const QString words = Named<Badge>("badge").Words();
         EXPECT_NE(words, "Scans");
-        if (i % 4 == 0) EXPECT_EQ(Verdict(), "Scans; the bars say 4006381333931");
+        const bool isAwaited = i % 4 == 0;
+        if (isAwaited) {
+            EXPECT_EQ(Verdict(), "Scans; the bars say 4006381333931");
+        }
         TypeIn("x");
         QTest::qWait(i);
         EXPECT_EQ(Named<Badge>("badge").Words(), "Refused");
@@ -106,9 +109,6 @@ TEST_F(TruthTest, NothingMovesWhenAMessageComes) {
         QTest::qWait(0);
         look(data);
     }
-    ChooseType("Code 39 Full ASCII (Classic)");
-    QTest::qWait(0);
-    look("Code 39");
 }
 
 TEST_F(TruthTest, TheBadgeIsReadAloud) {

@@ -241,6 +241,7 @@ TEST_F(UtilityWindowTest, AResultThatIsNotThatOfTheDataCannotBeCopied) {
     EXPECT_FALSE(copy.isEnabled());
     ChooseType(dialog, "Code 39");
     const auto convert = [&] {
+        At<QLineEdit>(dialog, kData).setFocus();
         QTest::keyClick(&At<QLineEdit>(dialog, kData), Qt::Key_Return);
         EXPECT_TRUE(copy.isEnabled());
         EXPECT_TRUE(ResultLine(dialog).isEnabled());
