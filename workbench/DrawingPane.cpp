@@ -45,8 +45,11 @@ DrawingPane::DrawingPane(QSettings& userSettings, QWidget* parent)
     area->zoomChanged = [this] { ShowZoom(); };
     connect(zoomBox, &QSpinBox::valueChanged, this, [this](int zoom) { area->SetZoom(zoom); });
     connect(fitButton, &QPushButton::clicked, this, [this](bool on) { area->SetFitted(on); });
-    area->SetZoom(settings.value(QLatin1String(kZoomKey), kFirstZoom).toInt());
-    area->SetFitted(settings.value(QLatin1String(kFittedKey), true).toBool());
+    // Both are stored when either changes.
+    const int kept = settings.value(QLatin1String(kZoomKey), kFirstZoom).toInt();
+    const bool isFitted = settings.value(QLatin1String(kFittedKey), true).toBool();
+    area->SetZoom(kept);
+    area->SetFitted(isFitted);
 }
 
 void DrawingPane::Arrange() {

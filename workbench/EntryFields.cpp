@@ -84,11 +84,11 @@ void EntryFields::Arrange() {
     grid->setHorizontalSpacing(kSpacing);
     grid->setVerticalSpacing(kSpacing / 2);
     grid->setColumnStretch(1, 1);
-    grid->addWidget(heading, 0, 0, 1, 5);
+    grid->addWidget(heading, 0, 0, 1, 2);
+    grid->addWidget(sampleButton, 0, 2, 1, 3, Qt::AlignRight);
     grid->addWidget(usage, 1, 0, 1, 5);
     grid->addWidget(dataLabel, 2, 0);
     grid->addWidget(dataBox, 2, 1, 1, 4);
-    grid->addWidget(sampleButton, 3, 1, Qt::AlignLeft);
     grid->addWidget(checkDigitBox, 3, 2);
     grid->addWidget(ratioLabel, 3, 3);
     grid->addWidget(ratioBox, 3, 4);

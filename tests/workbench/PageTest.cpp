@@ -221,6 +221,16 @@ TEST_F(PageTest, FindsWhatWasThereAgainAfterARestart) {
     EXPECT_EQ(Verdict(), "Lesbar");
 }
 
+TEST_F(PageTest, FitsAtFirstAndRemembersWhetherItDoes) {
+    Start();
+    EXPECT_TRUE(Named<QPushButton>("fit").isChecked());
+    Start();
+    EXPECT_TRUE(Named<QPushButton>("fit").isChecked());
+    QTest::mouseClick(&Named<QPushButton>("fit"), Qt::LeftButton);
+    Start();
+    EXPECT_FALSE(Named<QPushButton>("fit").isChecked());
+}
+
 TEST_F(PageTest, SaysWhereTheFontsAreNot) {
     Start("enUS", folder.path());
     EXPECT_TRUE(Message().startsWith("Error: ")) << qUtf8Printable(Message());
