@@ -46,7 +46,8 @@ void Badge::changeEvent(QEvent* event) {
 }
 
 void Badge::Fit() {
-    setText(fontMetrics().elidedText(words, Qt::ElideRight, contentsRect().width() - 2 * kInnerMargin));
+    setText(
+        fontMetrics().elidedText(words, Qt::ElideRight, contentsRect().width() - 2 * kInnerMargin));
 }
 
 void Badge::Colour() {

@@ -97,8 +97,8 @@ QString ShellLine(const QStringList& program, const TakenBarcode& barcode,
     const bool isStandardInput = data == QLatin1String("-");
     QStringList words = program;
     words << QStringLiteral("draw") << WordsOf(barcode.wish)
-          << WordsOf(barcode.drawing, *barcode.drawn.outcome.type)
-          << WordsOf(barcode, choice) << QStringLiteral("-o") << file << QStringLiteral("--")
+          << WordsOf(barcode.drawing, *barcode.drawn.outcome.type) << WordsOf(barcode, choice)
+          << QStringLiteral("-o") << file << QStringLiteral("--")
           << QString::fromLatin1(type.data(), static_cast<qsizetype>(type.size())) << data;
     for (QString& word : words) word = ShellWord(word);
     const QString line = words.join(' ');
