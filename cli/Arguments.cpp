@@ -7,7 +7,6 @@
 #include <map>
 #include <memory>
 
-#include "cli/Description.h"
 #include "cli/DialogArguments.h"
 #include "cli/DrawingArguments.h"
 #include "cli/RowArguments.h"
@@ -110,8 +109,11 @@ void AddStream(CLI::App& app) {
         "| linewright stream");
 }
 
-/** How the rows of a file are read, and what is wanted of them. */
-void AddRowWishes(CLI::App& command, RowOptions& rows) {
+/** What all commands have that work on the rows of a file. */
+void AddRows(CLI::App& command, Arguments& arguments) {
+    RowOptions& rows = arguments.batch.rows;
+    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
+        ->required();
     AddColumns(command, rows);
     command.add_flag("--check", rows.isCheckWanted, "Add the check character in all rows");
     AddRatio(command, [&rows](const CLI::results_t& results) {
@@ -120,12 +122,6 @@ void AddRowWishes(CLI::App& command, RowOptions& rows) {
     });
     command.add_flag("--strict", rows.isStrict, "Refuse rows that there is a warning about");
     AddGtin(command, rows.isArticleNumber);
-}
-
-void AddRows(CLI::App& command, Arguments& arguments) {
-    command.add_option("IN", arguments.batchFiles.input, "CSV file, - for standard input")
-        ->required();
-    AddRowWishes(command, arguments.batch.rows);
 }
 
 void AddBatch(CLI::App& app, Arguments& arguments) {
@@ -137,7 +133,6 @@ void AddBatch(CLI::App& app, Arguments& arguments) {
         ->check(NamesAFile())
         ->type_name("OUT");
     AddResults(command, arguments.batch);
-    AddRefusals(command, arguments.batch);
     AddScale(command, arguments.batch);
     command.add_flag("--verify", arguments.batch.isVerified, "Add what scanners read of each");
     command.footer(
@@ -163,7 +158,6 @@ void AddDraw(CLI::App& app, Arguments& arguments) {
     command.callback([&draw, data] { draw.hasData = data->count() > 0; });
     AddColumns(command, draw.rows);
     AddFile(command, draw);
-    AddPreset(command, draw);
     AddDrawing(command, draw.drawing);
     AddSurroundings(command, draw.drawing);
     AddText(command, draw.drawing);
@@ -179,7 +173,6 @@ void AddVerify(CLI::App& app, Arguments& arguments) {
     CLI::App& command =
         *app.add_subcommand("verify", "Say what scanners read of a barcode (Linux)");
     AddBarcode(command, draw.encode);
-    AddPreset(command, draw);
     AddDrawing(command, draw.drawing);
     AddResolution(command, draw);
     command.footer("Example:  linewright verify code128 \"(10)AB-123(21)7\"");
@@ -196,53 +189,11 @@ void AddProof(CLI::App& app, Arguments& arguments) {
     command.add_option("--title", arguments.batch.rows.titleColumn, "Column of titles")
         ->type_name("NAME");
     command.add_flag("--letter", arguments.draw.isLetter, "Letter paper in place of A4");
-    AddPreset(command, arguments.draw);
     AddDrawing(command, arguments.draw.drawing);
     AddText(command, arguments.draw.drawing);
     command.add_flag("--verify", arguments.draw.isVerified,
                      "Exit status 4 when one does not scan as it is meant");
     command.footer("Example:  linewright proof labels.csv -o proof.pdf");
-}
-
-void AddDocument(CLI::App& app, Arguments& arguments) {
-    CLI::App& command = *app.add_subcommand(
-        "document", "Set the rows of a CSV file as labels with live barcodes (Linux)");
-    AddRows(command, arguments);
-    command
-        .add_option("-o,--output", arguments.batchFiles.output,
-                    "Document to write: .pdf, .idml, .odt or .fodt")
-        ->check(NamesAFile())
-        ->type_name("F")
-        ->required();
-    command.add_option("--layout", arguments.draw.layout, "TOML file, or a sheet such as a4-3x8")
-        ->type_name("L");
-    command.add_option("--title", arguments.batch.rows.titleColumn, "Column of titles")
-        ->type_name("NAME");
-    AddPreset(command, arguments.draw);
-    AddXDimension(command, arguments.draw.drawing);
-    AddRefusals(command, arguments.batch);
-    command.footer("Example:  linewright document labels.csv -o labels.pdf --layout a4-2x7");
-}
-
-void AddCheck(CLI::App& app, Arguments& arguments) {
-    CheckOptions& check = arguments.check;
-    CLI::App& command = *app.add_subcommand(
-        "check", "Read the barcodes of a finished PDF, PNG or TIFF back (Linux)");
-    command.add_option("DOCUMENT", check.document, "PDF, PNG or TIFF file")->required();
-    command.add_option("--data", check.data, "CSV file that says what the document holds")
-        ->type_name("IN");
-    command.add_option("--page", check.page, "Look at one page alone")
-        ->type_name("N")
-        ->check(CLI::PositiveNumber.description(""));
-    command.add_option("--dpi", check.dotsPerInch, "Resolution of a picture that states none")
-        ->type_name("N")
-        ->check(CLI::Range(20, 20000).description(""));
-    command.add_flag("--json", check.isJson, "Print a JSON object");
-    command.add_option("-o,--output", check.output, "PDF file with the pages and what was found")
-        ->check(NamesAFile())
-        ->type_name("F");
-    AddRowWishes(command, arguments.batch.rows);
-    command.footer("Example:  linewright check labels.pdf --data labels.csv -o report.pdf");
 }
 
 void AddFonts(CLI::App& app, Arguments& arguments) {
@@ -254,13 +205,6 @@ void AddFonts(CLI::App& app, Arguments& arguments) {
     list.footer("Example:  linewright fonts list --json --x-dimension 0.25mm");
     command.add_subcommand("install", "Install them for this user")->fallthrough();
     command.footer("Example:  linewright fonts install");
-}
-
-void AddResources(CLI::App& app) {
-    CLI::App& command = *app.add_subcommand(
-        "resources", "Describe the plug-in for the resource files of another host");
-    command.add_flag("--json")->description("Print a JSON object")->required();
-    command.footer("Example:  linewright resources --json");
 }
 
 /** The command that the words name, or as much of it as they do. */
@@ -293,21 +237,12 @@ std::string WhatIsWrong(const CLI::App& app, const CLI::ParseError& error) {
 Arguments::Command CommandOf(const CLI::App& app) {
     using Command = Arguments::Command;
     const std::map<std::string, Command> commands{
-        {"types", Command::kTypes},
-        {"encode", Command::kEncode},
-        {"stream", Command::kStream},
-        {"batch", Command::kBatch},
-        {"prefs", Command::kPrefs},
-        {"prefs set", Command::kPrefsSet},
-        {"dialog", Command::kDialog},
-        {"draw", Command::kDraw},
-        {"verify", Command::kVerify},
-        {"proof", Command::kProof},
-        {"check", Command::kCheck},
-        {"fonts list", Command::kFontsList},
-        {"fonts install", Command::kFontsInstall},
-        {"document", Command::kDocument},
-        {"resources", Command::kResources},
+        {"types", Command::kTypes},          {"encode", Command::kEncode},
+        {"stream", Command::kStream},        {"batch", Command::kBatch},
+        {"prefs", Command::kPrefs},          {"prefs set", Command::kPrefsSet},
+        {"dialog", Command::kDialog},        {"draw", Command::kDraw},
+        {"verify", Command::kVerify},        {"proof", Command::kProof},
+        {"fonts list", Command::kFontsList}, {"fonts install", Command::kFontsInstall},
     };
     const CLI::App& chosen = *app.get_subcommands().front();
     const auto parts = chosen.get_subcommands();
@@ -324,11 +259,6 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     app.formatter(std::make_shared<HelpFormatter>());
     app.get_formatter()->column_width(kNameColumn);
     app.set_version_flag("--version", "linewright " LINEWRIGHT_VERSION, "Print the version");
-    app.add_flag_callback(
-           "--describe",
-           [&app] { throw CLI::CallForVersion(DescriptionOf(app, LINEWRIGHT_VERSION), 0); })
-        ->group("")
-        ->configurable(false);
     app.require_subcommand(1);
     AddHostOptions(app, result->host, result->fonts);
     AddTypes(app, *result);
@@ -340,10 +270,7 @@ std::optional<Arguments> ParseArguments(std::vector<std::string> arguments, Cons
     AddDraw(app, *result);
     AddVerify(app, *result);
     AddProof(app, *result);
-    AddDocument(app, *result);
-    AddCheck(app, *result);
     AddFonts(app, *result);
-    AddResources(app);
     for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
     app.footer(
         "Example:  linewright encode ean13 4006381333931    (each command has its own --help)");

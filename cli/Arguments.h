@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "cli/BatchCommand.h"
-#include "cli/CheckCommand.h"
 #include "cli/Console.h"
 #include "cli/DialogCommand.h"
 #include "cli/DrawCommand.h"
@@ -27,11 +26,8 @@ struct Arguments {
         kDraw,
         kVerify,
         kProof,
-        kDocument,
-        kCheck,
         kFontsList,
         kFontsInstall,
-        kResources,
     };
 
     Command command = Command::kTypes;
@@ -44,7 +40,6 @@ struct Arguments {
     std::vector<std::string> assignments;
     DialogOptions dialog;
     DrawOptions draw;
-    CheckOptions check;
     /** The folder of the fonts' files; where it is not stated it is found from the program. */
     std::string fonts;
 };

@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "cli/Modules.h"
+#include "cli/DrawingModule.h"
 #include "cli/Progress.h"
 #include "words/Words.h"
 
@@ -30,8 +30,7 @@ ExitStatus RunBatch(Service& service, const MergeFiles& files, const MergeOption
             .language = console.language,
             .show = [&progress](const RowFile& file, auto rows) { progress.Show(file, rows); },
         };
-        if (options.isVerified)
-            place.scan = Opened<DrawingModule>().scanner(service, options.fonts);
+        if (options.isVerified) place.scan = OpenDrawingModule().scanner(service, options.fonts);
         result = MergeFile(place, files, options);
     }
     console.err << Summary(result.counts) << '\n';

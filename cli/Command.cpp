@@ -9,17 +9,15 @@
 #include "cli/Arguments.h"
 #include "cli/DialogCommand.h"
 #include "cli/DrawingAdvice.h"
+#include "cli/DrawingModule.h"
 #include "cli/FontsCommand.h"
 #include "cli/Installation.h"
-#include "cli/Modules.h"
 #include "cli/PrefsCommand.h"
 #include "cli/TypesCommand.h"
 #include "host/runtime/Paths.h"
 #include "merge/Failure.h"
-#include "presets/Preset.h"
 #include "stream/AnswerLines.h"
 #include "text/Readable.h"
-#include "views/ResourceDescription.h"
 
 namespace linewright {
 
@@ -38,28 +36,17 @@ ExitStatus RunOne(Service& service, DialogUser& user, const Arguments& arguments
         case Arguments::Command::kPrefs: return RunPrefs(console);
         case Arguments::Command::kPrefsSet: return RunPrefsSet(arguments.assignments, console);
         case Arguments::Command::kDraw:
-            return Opened<DrawingModule>().draw(service, arguments.draw, console);
+            return OpenDrawingModule().draw(service, arguments.draw, console);
         case Arguments::Command::kVerify:
-            return Opened<DrawingModule>().verify(service, arguments.draw, console);
+            return OpenDrawingModule().verify(service, arguments.draw, console);
         case Arguments::Command::kProof:
-            return Opened<PdfModule>().proof(service, arguments.batchFiles, arguments.batch.rows,
+            return OpenDrawingModule().proof(service, arguments.batchFiles, arguments.batch.rows,
                                              arguments.draw, console);
-        case Arguments::Command::kDocument:
-            return Opened<DocumentModule>().document(service, arguments.batchFiles, arguments.batch,
-                                                     arguments.draw, console);
-        case Arguments::Command::kCheck:
-            return Opened<CheckModule>().check(service, arguments.check, arguments.batch.rows,
-                                               console);
         case Arguments::Command::kFontsList:
             return arguments.isFontsJson
                        ? RunFontsListJson(arguments.draw.drawing.xDimension, console)
                        : RunFontsList(arguments.fonts, console);
         case Arguments::Command::kFontsInstall: return RunFontsInstall(arguments.fonts, console);
-        case Arguments::Command::kResources:
-            console.out << DescribeResources(host::PathFromUtf8(arguments.host.plugin),
-                                             LINEWRIGHT_VERSION)
-                        << '\n';
-            return kDone;
         case Arguments::Command::kDialog: return RunDialog(user, arguments.dialog, console);
     }
     return kTrouble;
@@ -85,9 +72,6 @@ ExitStatus Run(const std::vector<std::string>& words, Console& console) {
     if (arguments->fonts.empty()) arguments->fonts = host::Utf8FromPath(FontFolder());
     arguments->draw.fonts = arguments->fonts;
     arguments->batch.fonts = arguments->fonts;
-    arguments->check.fonts = arguments->fonts;
-    DrawOptions& draw = arguments->draw;
-    if (!draw.preset.empty()) draw.drawing = Combined(ReadPreset(draw.preset), draw.drawing);
     DialogUser user;
     if (arguments->command == Arguments::Command::kDialog) arguments->host.frontEnd = &user;
     Service service(arguments->host);
@@ -108,8 +92,6 @@ int RunCommand(const std::vector<std::string>& arguments, Console& console) noex
         return SayTrouble(Sentence(failure, console.language), console);
     } catch (const DrawingFailure& failure) {
         return SayTrouble(AdvisedSentence(failure, console.language), console);
-    } catch (const PresetFailure& failure) {
-        return SayTrouble(Sentence(failure, console.language), console);
     } catch (const std::bad_alloc&) {
         return SayTrouble("there is not enough memory", console);
     } catch (const std::length_error&) {

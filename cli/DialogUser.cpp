@@ -30,6 +30,19 @@ const char* NameOf(host::AlertKind kind) {
     return "";
 }
 
+const char* NameOf(WidgetKind kind) {
+    switch (kind) {
+        case WidgetKind::kLabel: return "label";
+        case WidgetKind::kEditBox: return "editBox";
+        case WidgetKind::kResultBox: return "resultBox";
+        case WidgetKind::kDescription: return "description";
+        case WidgetKind::kCheckBox: return "checkBox";
+        case WidgetKind::kPopUp: return "popUp";
+        case WidgetKind::kButton: return "button";
+    }
+    return "";
+}
+
 std::string HexID(WidgetID id) {
     return fmt::format("0x{:X}", id);
 }

@@ -5,12 +5,11 @@
 #include <memory>
 
 #include "cli/DrawnFile.h"
-#include "cli/Modules.h"
 #include "cli/ScannedBarcode.h"
+#include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
 #include "merge/Failure.h"
 #include "merge/OutputFile.h"
-#include "scanners/VerdictWords.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -27,7 +26,6 @@ void PrintVerification(const Verification& verification, std::ostream& out) {
                             : "reads nothing";
         out << fmt::format("  {:9}  {}\n", reading.scanner, found);
     }
-    if (verification.readings.size() == 1) out << "  one scanner looked\n";
 }
 
 /** At the pixels a module that a person's picture will have, or a usual number. */
@@ -59,8 +57,6 @@ void Write(const std::string& name, const std::string& content, Console& console
 
 ExitStatus RunDraw(Service& service, const DrawOptions& options, Console& console) {
     const FileWish file = FileWishOf(options);
-    // Where there are none, nothing is written.
-    if (options.isVerified) Opened<ScannersModule>();
     if (!options.hasData) return RunDrawRows(service, options, file, console);
     Fonts fonts(host::PathFromUtf8(options.fonts));
     const BarcodeWish wish = WishOf(options.encode, console);
@@ -81,7 +77,6 @@ ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& cons
 }
 
 MakeScanned BarcodeScanner(Service& service, const std::string& fonts) {
-    Opened<ScannersModule>();
     const auto runFonts = std::make_shared<Fonts>(host::PathFromUtf8(fonts));
     return [&service, runFonts](const BarcodeWish& wish) -> ScannedBarcode {
         DrawnBarcode drawn = DrawBarcode(service, *runFonts, wish, {.isTextWanted = false});

@@ -10,13 +10,11 @@
 
 namespace linewright {
 
-// What draws barcodes and reads them back; see cli/Modules.h for how to get there.
+// What draws barcodes and reads them back; see cli/DrawingModule.h for how to get there.
 
 struct DrawOptions {
     EncodeOptions encode;
     DrawingWish drawing;
-    /** The file of a preset that `drawing` stands upon; "" for none. */
-    std::string preset;
     /** The folder that holds the fonts' files, UTF-8. */
     std::string fonts;
     /** Its ending says what is written; "-" is standard output. */
@@ -33,8 +31,6 @@ struct DrawOptions {
     RowOptions rows;
     /** Of a proof. */
     bool isLetter = false;
-    /** Of a document: a file of TOML, or the name of a sheet. */
-    std::string layout;
 };
 
 /** Draws one barcode into a file, or the rows of a CSV file each into one of its own, in whose name
@@ -49,10 +45,5 @@ ExitStatus RunVerify(Service& service, const DrawOptions& options, Console& cons
  *  refused; with `isVerified` kDoesNotScan when a barcode does not scan as it is meant. */
 ExitStatus RunProof(Service& service, const MergeFiles& files, const RowOptions& options,
                     const DrawOptions& drawing, Console& console);
-
-/** A document with the barcodes of a CSV file as text in their fonts. kRowsRefused when rows were
- *  refused, which have no place in it. */
-ExitStatus RunDocument(Service& service, const MergeFiles& files, const MergeOptions& options,
-                       const DrawOptions& drawing, Console& console);
 
 }  // namespace linewright

@@ -5,12 +5,11 @@
 #include "cli/DrawingAdvice.h"
 #include "cli/DrawnFile.h"
 #include "cli/Progress.h"
+#include "cli/VerdictWords.h"
 #include "host/runtime/Paths.h"
 #include "merge/Failure.h"
 #include "merge/OutputFile.h"
 #include "merge/RowFile.h"
-#include "scanners/VerdictWords.h"
-#include "text/FileNamePart.h"
 #include "text/Readable.h"
 
 namespace linewright {
@@ -27,6 +26,15 @@ struct Counts {
     }
 };
 
+/** What a row says, fit to be part of a file's name. */
+std::string NamePart(std::string_view text) {
+    std::string part = Readable(text);
+    for (char& byte : part) {
+        if (std::string_view("/\\:*?\"<>|").find(byte) != std::string_view::npos) byte = '_';
+    }
+    return part;
+}
+
 std::string Replaced(std::string text, std::string_view place, const std::string& part) {
     for (std::size_t at = text.find(place); at != text.npos; at = text.find(place, at)) {
         text.replace(at, place.size(), part);
@@ -37,8 +45,8 @@ std::string Replaced(std::string text, std::string_view place, const std::string
 
 std::string NameOf(const std::string& pattern, const Record& row, const BarcodeWish& wish) {
     std::string name = Replaced(pattern, "{line}", std::to_string(row.line));
-    name = Replaced(name, "{type}", FileNamePart(wish.type));
-    return Replaced(name, "{data}", FileNamePart(wish.data));
+    name = Replaced(name, "{type}", NamePart(wish.type));
+    return Replaced(name, "{data}", NamePart(wish.data));
 }
 
 /** Draws rows until there are no more. */

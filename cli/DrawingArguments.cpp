@@ -74,11 +74,6 @@ void AddFile(CLI::App& command, DrawOptions& draw) {
     command.add_flag("--grey", draw.isGrey, "Pictures of 8 bits a pixel, with smooth text");
 }
 
-void AddPreset(CLI::App& command, DrawOptions& draw) {
-    command.add_option("--preset", draw.preset, "TOML file of these, which options go before")
-        ->type_name("F");
-}
-
 void AddSurroundings(CLI::App& command, DrawingWish& wish) {
     command.add_flag("--bearer", wish.hasBearerBars, "Bearer bars around i2of5");
     command.add_flag("--margin-marks", wish.hasMarginMarks, "< and > beside EAN");

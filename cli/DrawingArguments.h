@@ -23,8 +23,6 @@ void AddResolution(CLI::App& command, DrawOptions& draw);
 void AddFile(CLI::App& command, DrawOptions& draw);
 /** What stands around the bars. */
 void AddSurroundings(CLI::App& command, DrawingWish& wish);
-/** A file that says how bars are drawn. */
-void AddPreset(CLI::App& command, DrawOptions& draw);
 /** Whether there is text below the bars. */
 void AddText(CLI::App& command, DrawingWish& wish);
 

@@ -1,22 +1,8 @@
-#include "cli/Modules.h"
-
-namespace linewright {
-
-// What a drawing leaves to other modules.
-
-std::string PdfOf(const BarcodeDrawing& drawing, const ExportOptions& options) {
-    return Opened<PdfModule>().file(drawing, options);
-}
-
-std::string TiffOf(const BarcodeDrawing& drawing, const ExportOptions& options) {
-    return Opened<TiffModule>().file(drawing, options);
-}
-
-}  // namespace linewright
+#include "cli/DrawingModule.h"
 
 /** The library's entry. */
-extern "C" EXPORTED_DECL const void* GetModule() {
+extern "C" EXPORTED_DECL const linewright::DrawingModule* GetDrawingModule() {
     using namespace linewright;
-    static constexpr DrawingModule kModule{RunDraw, RunVerify, BarcodeScanner};
+    static constexpr DrawingModule kModule{RunDraw, RunVerify, RunProof, BarcodeScanner};
     return &kModule;
 }

@@ -3,16 +3,27 @@
 #include <fmt/format.h>
 
 #include <cmath>
+#include <filesystem>
 #include <nlohmann/json.hpp>
+#include <system_error>
 
+#include "cli/UserFonts.h"
+#include "files/NewFile.h"
 #include "host/runtime/Paths.h"
+#include "merge/ByteSource.h"
 #include "merge/Failure.h"
+#include "merge/ReadAll.h"
 #include "types/BarcodeTypes.h"
-#include "userfonts/UserFonts.h"
 
 namespace linewright {
 
+namespace fs = std::filesystem;
+
 namespace {
+
+fs::path FileOf(const std::string& fonts, const BarcodeFace& face) {
+    return host::PathFromUtf8(fonts) / (std::string(face.fileStem) + ".ttf");
+}
 
 /** The types of a font by their short names, and the size that they are drawn at. */
 std::pair<std::string, double> TypesOf(const BarcodeFace* face) {
@@ -63,10 +74,22 @@ ExitStatus RunFontsList(const std::string& fonts, Console& console) {
 }
 
 ExitStatus RunFontsInstall(const std::string& fonts, Console& console) {
-    const InstalledFonts installed = InstallUserFonts(host::PathFromUtf8(fonts));
-    if (!installed.error.empty()) throw Failure(installed.error);
-    console.out << fmt::format("{} fonts in {}\n", installed.count,
-                               host::Utf8FromPath(installed.folder));
+    const fs::path folder = UserFontFolder();
+    if (folder.empty()) throw Failure("the system names no folder for a user's fonts");
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) throw Failure(fmt::format("{}: {}", host::Utf8FromPath(folder), error.message()));
+    for (const BarcodeFace* const face : kBarcodeFaces) {
+        const fs::path file = FileOf(fonts, *face);
+        const fs::path installed = folder / file.filename();
+        files::NewFile copy(installed, {.startsAfresh = true});
+        copy.Write(ReadAll(*OpenInput(host::Utf8FromPath(file))));
+        if (!copy.Keep())
+            throw Failure(fmt::format("{}: {}", host::Utf8FromPath(installed), copy.Error()));
+        AnnounceFont(installed, std::string(face->family));
+    }
+    console.out << fmt::format("{} fonts in {}\n", kBarcodeFaces.size(),
+                               host::Utf8FromPath(folder));
     return kDone;
 }
 

@@ -136,9 +136,6 @@ void AddResults(CLI::App& command, MergeOptions& merge) {
     AddParsed(command, "--x-dimension", "LENGTH", merge.xDimension, XDimensionOf,
               "Narrowest bar, for the size: 0.33mm, 10mil, 0.7pt");
     command.add_flag("--drop-input{false}", merge.keepsInput, "Write the results alone");
-}
-
-void AddRefusals(CLI::App& command, MergeOptions& merge) {
     command
         .add_option("--rejects", merge.rejects, "CSV file for refused rows, with line and reason")
         ->check(NamesAFile())

@@ -1,7 +1,6 @@
 # What a built file brings against its own mistakes; tests/HardeningTest.py reads it back from the
-# files. For what is optimised and runs without the sanitizers, which bring more. Microsoft's compiler
-# does it unasked.
-if(MSVC OR LINEWRIGHT_SANITIZE OR NOT CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
+# files. For what is optimised and runs without the sanitizers, which bring more.
+if(LINEWRIGHT_SANITIZE OR NOT CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
     return()
 endif()
 

@@ -1,8 +1,6 @@
 # What other projects build against: headers, a CMake package and files for pkg-config.
 include(CMakePackageConfigHelpers)
 
-set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME liblinewright-dev)
-
 set(headers ${CMAKE_INSTALL_INCLUDEDIR}/linewright-service)
 add_library(linewright_service INTERFACE)
 add_library(Linewright::service ALIAS linewright_service)
@@ -16,16 +14,8 @@ install(FILES core/IORTALinewright.h core/LinewrightRequest.h core/PluginID.h co
 install(FILES host/runtime/FrontEnd.h host/runtime/Host.h DESTINATION ${headers}/host/runtime)
 install(DIRECTORY host/sdk DESTINATION ${headers}/host)
 
-install(TARGETS linewright_library EXPORT c
-        RUNTIME COMPONENT liblinewright0
-        LIBRARY COMPONENT liblinewright0 NAMELINK_COMPONENT liblinewright-dev
-        ARCHIVE
-)
-install(TARGETS linewright_service linewright_host EXPORT service
-        RUNTIME COMPONENT linewright
-        LIBRARY COMPONENT linewright
-        ARCHIVE
-)
+install(TARGETS linewright_library EXPORT c RUNTIME LIBRARY ARCHIVE)
+install(TARGETS linewright_service linewright_host EXPORT service RUNTIME LIBRARY ARCHIVE)
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Linewright)
 foreach(component c service)
     install(EXPORT ${component} NAMESPACE Linewright:: DESTINATION ${package} FILE Linewright-${component}.cmake)
@@ -47,4 +37,3 @@ foreach(name linewright linewright-service)
     configure_file(cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endforeach()
-set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME linewright)

@@ -38,7 +38,7 @@ macro(linewright_require name text)
     endforeach()
 endmacro()
 
-linewright_part(DRAWING "Build what draws barcodes (Cairo, FreeType, fontconfig, QPDF, libpng, libtiff, libzip, pugixml)")
+linewright_part(DRAWING "Build what draws barcodes (Cairo, FreeType, fontconfig, QPDF, libpng, libtiff)")
 linewright_part(SCANNERS "Build what reads drawings back (ZXing-C++, ZBar); the command draws with it only")
 linewright_part(WORKBENCH "Build the desktop window (Qt 6)")
 linewright_part(PYTHON_MODULE "Build the module for Python (pybind11)")

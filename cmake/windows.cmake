@@ -12,10 +12,9 @@ set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
 set(CMAKE_MODULE_LINKER_FLAGS_INIT -static)
 
 # What pkg-config knows of this system is not for Windows.
-set(LINEWRIGHT_WINDOWS_LIBRARIES /usr/x86_64-w64-mingw32 CACHE PATH "Where scripts/windows-libraries put what draws")
-set(ENV{PKG_CONFIG_LIBDIR} ${LINEWRIGHT_WINDOWS_LIBRARIES}/lib/pkgconfig)
+set(ENV{PKG_CONFIG_LIBDIR} /usr/x86_64-w64-mingw32/lib/pkgconfig)
 
-set(CMAKE_FIND_ROOT_PATH ${LINEWRIGHT_WINDOWS_LIBRARIES} /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

@@ -14,8 +14,8 @@ int32 OpenPluginDialog(int32 resourceID, IDialog::DialogType kind) {
     const InterfacePtr<IApplication> application(session ? session->QueryApplication() : nullptr);
     const InterfacePtr<IDialogMgr> manager(application ? application->QueryDialogMgr() : nullptr);
     if (!manager) return 0;
-    constexpr RsrcType kView = 0x56494557;  // VIEW
-    const RsrcSpec resource{WLocaleSetting::GetLocale(), kLinewrightPluginID, kView, resourceID};
+    const RsrcSpec resource{WLocaleSetting::GetLocale(), kLinewrightPluginID,
+                            FourCharCode('V', 'I', 'E', 'W'), resourceID};
     IDialog* const dialog = manager->CreateNewDialog(resource, kind, kTrue);
     if (!dialog) return 0;
     dialog->Open();

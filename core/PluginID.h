@@ -4,58 +4,52 @@
 
 namespace linewright {
 
-/** Every id of the plug-in is this and a small number. A host's types of ids are made from numbers,
- *  but perhaps not by the compiler: so the ids are not constexpr. */
-constexpr uint32 kLinewrightPrefix = 0x122100;
-
-const PluginID kLinewrightPluginID(kLinewrightPrefix);
+constexpr PluginID kLinewrightPluginID = 0x122100;
 
 // Classes
-const ClassID kLinewrightActionComponentBoss(kLinewrightPrefix + 0x00);
-const ClassID kLinewrightPrefsDialogBoss(kLinewrightPrefix + 0x01);
-const ClassID kLinewrightUtilityDialogBoss(kLinewrightPrefix + 0x02);
-const ClassID kLinewrightStartupShutdownBoss(kLinewrightPrefix + 0x03);
-const ClassID kLinewrightServiceBoss(kLinewrightPrefix + 0x04);
-const ClassID kLinewrightAppPrefsBoss(kLinewrightPrefix + 0x05);
+constexpr ClassID kLinewrightActionComponentBoss = kLinewrightPluginID + 0x00;
+constexpr ClassID kLinewrightPrefsDialogBoss = kLinewrightPluginID + 0x01;
+constexpr ClassID kLinewrightUtilityDialogBoss = kLinewrightPluginID + 0x02;
+constexpr ClassID kLinewrightStartupShutdownBoss = kLinewrightPluginID + 0x03;
+constexpr ClassID kLinewrightServiceBoss = kLinewrightPluginID + 0x04;
+constexpr ClassID kLinewrightAppPrefsBoss = kLinewrightPluginID + 0x05;
 
-// Interfaces, whose kDefaultIID is a number
-constexpr uint32 kIORTALinewrightNumber = kLinewrightPrefix + 0x00;
-constexpr uint32 kILWRAppPrefsNumber = kLinewrightPrefix + 0x01;
-const PMIID IID_IORTALINEWRIGHT(kIORTALinewrightNumber);
-const PMIID IID_ILWRAPPPREFS(kILWRAppPrefsNumber);
+// Interfaces
+constexpr PMIID IID_IORTALINEWRIGHT = kLinewrightPluginID + 0x00;
+constexpr PMIID IID_ILWRAPPPREFS = kLinewrightPluginID + 0x01;
 
 // Implementations
-const ImplementationID kLWRActionComponentImpl(kLinewrightPrefix + 0x00);
-const ImplementationID kLWRPrefsDialogControllerImpl(kLinewrightPrefix + 0x01);
-const ImplementationID kLWRPrefsDialogObserverImpl(kLinewrightPrefix + 0x02);
-const ImplementationID kLWRUtilityDialogControllerImpl(kLinewrightPrefix + 0x03);
-const ImplementationID kLWRUtilityDialogObserverImpl(kLinewrightPrefix + 0x04);
-const ImplementationID kORTALinewrightImpl(kLinewrightPrefix + 0x05);
-const ImplementationID kLWRAppPrefsImpl(kLinewrightPrefix + 0x06);
-const ImplementationID kLWRStartupShutdownImpl(kLinewrightPrefix + 0x07);
+constexpr ImplementationID kLWRActionComponentImpl = kLinewrightPluginID + 0x00;
+constexpr ImplementationID kLWRPrefsDialogControllerImpl = kLinewrightPluginID + 0x01;
+constexpr ImplementationID kLWRPrefsDialogObserverImpl = kLinewrightPluginID + 0x02;
+constexpr ImplementationID kLWRUtilityDialogControllerImpl = kLinewrightPluginID + 0x03;
+constexpr ImplementationID kLWRUtilityDialogObserverImpl = kLinewrightPluginID + 0x04;
+constexpr ImplementationID kORTALinewrightImpl = kLinewrightPluginID + 0x05;
+constexpr ImplementationID kLWRAppPrefsImpl = kLinewrightPluginID + 0x06;
+constexpr ImplementationID kLWRStartupShutdownImpl = kLinewrightPluginID + 0x07;
 
 // Actions
-const ActionID kPreferencesActionID(kLinewrightPrefix + 0x04);
-const ActionID kUtilityActionID(kLinewrightPrefix + 0x05);
+constexpr ActionID kPreferencesActionID = kLinewrightPluginID + 0x04;
+constexpr ActionID kUtilityActionID = kLinewrightPluginID + 0x05;
 
 // Widgets of the preferences dialog
-const WidgetID kShowErrorAlertsWidgetID(kLinewrightPrefix + 0x02);
-const WidgetID kCode39CheckModeWidgetID(kLinewrightPrefix + 0x07);
-const WidgetID kCode39UseAsteriskWidgetID(kLinewrightPrefix + 0x08);
-const WidgetID kI2of5CheckDigitWidgetID(kLinewrightPrefix + 0x0B);
-const WidgetID kMsiFirstCheckWidgetID(kLinewrightPrefix + 0x0F);
-const WidgetID kMsiSecondCheckWidgetID(kLinewrightPrefix + 0x11);
+constexpr WidgetID kShowErrorAlertsWidgetID = kLinewrightPluginID + 0x02;
+constexpr WidgetID kCode39CheckModeWidgetID = kLinewrightPluginID + 0x07;
+constexpr WidgetID kCode39UseAsteriskWidgetID = kLinewrightPluginID + 0x08;
+constexpr WidgetID kI2of5CheckDigitWidgetID = kLinewrightPluginID + 0x0B;
+constexpr WidgetID kMsiFirstCheckWidgetID = kLinewrightPluginID + 0x0F;
+constexpr WidgetID kMsiSecondCheckWidgetID = kLinewrightPluginID + 0x11;
 
 // Widgets of the utility dialog
-const WidgetID kSpareButtonWidgetID(kLinewrightPrefix + 0x15);
-const WidgetID kPreferencesButtonWidgetID(kLinewrightPrefix + 0x16);
-const WidgetID kDataWidgetID(kLinewrightPrefix + 0x19);
-const WidgetID kResultWidgetID(kLinewrightPrefix + 0x1B);
-const WidgetID kTypeWidgetID(kLinewrightPrefix + 0x1D);
-const WidgetID kDescriptionWidgetID(kLinewrightPrefix + 0x1E);
-const WidgetID kCheckDigitWidgetID(kLinewrightPrefix + 0x21);
-const WidgetID kRatioLabelWidgetID(kLinewrightPrefix + 0x22);
-const WidgetID kRatioWidgetID(kLinewrightPrefix + 0x23);
+constexpr WidgetID kSpareButtonWidgetID = kLinewrightPluginID + 0x15;
+constexpr WidgetID kPreferencesButtonWidgetID = kLinewrightPluginID + 0x16;
+constexpr WidgetID kDataWidgetID = kLinewrightPluginID + 0x19;
+constexpr WidgetID kResultWidgetID = kLinewrightPluginID + 0x1B;
+constexpr WidgetID kTypeWidgetID = kLinewrightPluginID + 0x1D;
+constexpr WidgetID kDescriptionWidgetID = kLinewrightPluginID + 0x1E;
+constexpr WidgetID kCheckDigitWidgetID = kLinewrightPluginID + 0x21;
+constexpr WidgetID kRatioLabelWidgetID = kLinewrightPluginID + 0x22;
+constexpr WidgetID kRatioWidgetID = kLinewrightPluginID + 0x23;
 
 // View resources
 constexpr int32 kPrefsDialogResourceID = 250;

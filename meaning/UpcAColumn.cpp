@@ -1,6 +1,7 @@
 #include "meaning/UpcAColumn.h"
 
 #include "core/Word.h"
+#include "standards/CheckDigits.h"
 
 namespace linewright {
 
@@ -10,14 +11,9 @@ void UpcAColumn::Take(const BarcodeType* type, std::string_view data) {
         type && (type->code == TypeCode::kEan13 || type->code == TypeCode::kJan13 ||
                  type->code == TypeCode::kClassicEan13 || type->code == TypeCode::kClassicJan13);
     if (!isEan13 || data.size() != kUpcA) return;
-    const Word firstEight = Load<Word>(data.data());
-    const Word lastEight = Load<Word>(data.data() + kUpcA - kWordSize);
-    if (!AreDigits(firstEight) || !AreDigits(lastEight)) return;
+    if (!AreDigits(LoadWord(data)) || !AreDigits(LoadWord(data.substr(kUpcA - kWordSize)))) return;
     ++numbers.of;
-    // The check digit completes the sum of the others to a multiple of ten.
-    const std::size_t sum = WeightedSum(DigitValues(firstEight), 3, 1) +
-                            WeightedSum(DigitValues(lastEight >> 32), 3, 1);
-    if (sum % 10 == 0) ++numbers.count;
+    if (Modulo10CheckDigit(data.substr(0, kUpcA - 1)) == data.back()) ++numbers.count;
 }
 
 void UpcAColumn::Add(const UpcAColumn& following) {

@@ -39,19 +39,10 @@ char DelimiterFinder::Found() const {
 }
 
 std::uint64_t CountLineEnds(std::string_view text) {
-    if (text.empty()) return 0;
-    std::uint64_t lines = kLineEnds.find(text.back()) == std::string_view::npos ? 0 : 1;
-    // As many as a byte counts, without a branch: the compiler takes sixteen at a time.
-    constexpr std::size_t kPiece = 255;
-    while (text.size() > 1) {
-        const std::size_t size = std::min(text.size() - 1, kPiece);
-        std::uint8_t count = 0;
-        for (std::size_t i = 0; i < size; ++i) {
-            const int isLoneReturn = (text[i] == '\r' ? 1 : 0) & (text[i + 1] != '\n' ? 1 : 0);
-            count = static_cast<std::uint8_t>(count + ((text[i] == '\n' ? 1 : 0) | isLoneReturn));
-        }
-        lines += count;
-        text.remove_prefix(size);
+    std::uint64_t lines = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        if (kLineEnds.find(text[i]) != std::string_view::npos && !isPair) ++lines;
     }
     return lines;
 }

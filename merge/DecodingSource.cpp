@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "merge/EncodingFailure.h"
+#include "merge/Failure.h"
 
 namespace linewright {
 
@@ -57,9 +57,9 @@ void DecodingSource::CountLines(std::string_view text) {
 }
 
 void DecodingSource::FailAt(std::string_view bytes) const {
-    throw EncodingFailure(
-        fmt::format("line {}: byte {} of the file, 0x{:02X}, is no character of {}", line,
-                    position + 1, static_cast<unsigned char>(bytes.front()), NameOf(encoding)));
+    throw Failure(fmt::format("line {}: byte {} of the file, 0x{:02X}, is no character of {}", line,
+                              position + 1, static_cast<unsigned char>(bytes.front()),
+                              NameOf(encoding)));
 }
 
 }  // namespace linewright

@@ -119,16 +119,12 @@ class Run : public AnswerTaker {
     void TakeInWorkers() try {
         while (!stoppedAt && NextRow()) {
             const Record& row = file.Row();
-            const std::size_t wanted = place.scan ? kVerifiedChunk : kChunk;
             if (chunk.text.empty()) chunk.line = row.line;
             // At once, or a long row would be copied twice.
             chunk.text.reserve(chunk.text.size() + row.text.size() + row.ending.size());
             chunk.text.append(row.text).append(row.ending);
-            if (chunk.text.size() < wanted) {
-                chunk.text.append(walk.NextLines(wanted - chunk.text.size()));
-            }
             chunk.end = walk.Position();
-            if (chunk.text.size() < wanted) continue;
+            if (chunk.text.size() < (place.scan ? kVerifiedChunk : kChunk)) continue;
             GiveChunk();
             if (place.show) place.show(file, counts.rows);
         }
@@ -172,10 +168,6 @@ class Run : public AnswerTaker {
 
     /** In a process of its own, which has a copy of all this. */
     void Work(ChunkPipe& chunks, AnswerPipe& answers) {
-        answers.SendFailure(place.language, [&] { Answer(chunks, answers); });
-    }
-
-    void Answer(ChunkPipe& chunks, AnswerPipe& answers) {
         AnswerSink outSink(answers, FrameKind::kOutput);
         AnswerSink rejectSink(answers, FrameKind::kRejects);
         BlockWriter outWriter(outSink, encoding);
@@ -188,21 +180,24 @@ class Run : public AnswerTaker {
             rejectWriter.Flush();
             answers.Send(FrameKind::kCounts, JsonOf(merge.HandOverCounts()), refusedLine);
         };
-        try {
-            while (const auto line = chunks.Next()) {
-                reader.SetLine(*line);
-                while (reader.Next()) {
-                    file.Named([&] { merge.Take(reader.Current()); });
-                    // The run may end with this row.
-                    if (options.stopAt && merge.Counts().refused > 0) answer(reader.Current().line);
+        answers.SendFailure(place.language, [&] {
+            try {
+                while (const auto line = chunks.Next()) {
+                    reader.SetLine(*line);
+                    while (reader.Next()) {
+                        file.Named([&] { merge.Take(reader.Current()); });
+                        // The run may end with this row.
+                        if (options.stopAt && merge.Counts().refused > 0)
+                            answer(reader.Current().line);
+                    }
+                    answer(0);
+                    answers.Send(FrameKind::kEnd);
                 }
+            } catch (const Failure&) {
                 answer(0);
-                answers.Send(FrameKind::kEnd);
+                throw;
             }
-        } catch (const Failure&) {
-            answer(0);
-            throw;
-        }
+        });
     }
 
     void TakeOutput(std::string_view bytes) override {

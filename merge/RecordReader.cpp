@@ -9,7 +9,7 @@
 #include <new>
 
 #include "merge/Csv.h"
-#include "merge/EncodingFailure.h"
+#include "merge/Failure.h"
 #include "text/Utf8.h"
 
 namespace linewright {
@@ -113,19 +113,6 @@ bool RecordReader::Next() {
     return true;
 }
 
-std::string_view RecordReader::TakeLines(std::size_t most) {
-    // Rows are like the one before them: quotes are followed by quotes, and where lines end
-    // otherwise, a line feed would be looked for after each in vain.
-    const bool isLikely = closingQuote == nullptr && record.ending.ends_with('\n');
-    const std::string_view ahead = isLikely ? Ahead().substr(0, std::min(most, maxLength)) : "";
-    const std::string_view bare = ahead.substr(0, ahead.find('"'));
-    const std::string_view lines = bare.substr(0, bare.rfind('\n') + 1);
-    if (lines.empty() || FirstInvalidUtf8(lines)) return {};
-    nextLine += CountLineEnds(lines);
-    Skip(lines.size());
-    return lines;
-}
-
 inline void RecordReader::Suspend(const char* at, const char* fieldBegin, std::size_t fieldCount,
                                   bool isInside, std::uint32_t aboveAscii) {
     scanned = at;
@@ -208,7 +195,7 @@ void RecordReader::RequireUtf8() const {
     if (!invalid) return;
     const std::string_view before = record.text.substr(0, *invalid);
     const std::size_t lineStart = before.find_last_of("\r\n") + 1;
-    throw EncodingFailure(fmt::format(
+    throw Failure(fmt::format(
         "line {}: byte {}, 0x{:02X}, is not UTF-8; --encoding says what the file is in, such as "
         "--encoding windows-1252",
         record.line + CountLineEnds(before), *invalid - lineStart + 1,

@@ -64,10 +64,6 @@ class RecordReader {
      *  closed, a record above the limit, and bytes that are not UTF-8. */
     bool Next();
     const Record& Current() const { return record; }
-    /** Whole lines that follow, were read already and are records of which nothing is wrong: at
-     * most so many bytes of them, passed all at once. "" where the next one has a quote, or may be
-     *  wrong. */
-    std::string_view TakeLines(std::size_t most);
     /** Where the next record begins, in bytes of the text. */
     std::uint64_t Position() const { return position; }
 

@@ -6,7 +6,6 @@
 
 #include "merge/Csv.h"
 #include "merge/DecodingSource.h"
-#include "merge/EncodingFailure.h"
 #include "merge/OutputFailure.h"
 #include "text/Readable.h"
 
@@ -52,9 +51,7 @@ class HeadSource : public ByteSource {
 
 void RowFile::FailNamed(const Failure& failure) const {
     if (dynamic_cast<const OutputFailure*>(&failure) != nullptr) throw;
-    const std::string named = fmt::format("{}: {}", Readable(name), failure.what());
-    if (dynamic_cast<const EncodingFailure*>(&failure) != nullptr) throw EncodingFailure(named);
-    throw Failure(named);
+    throw Failure(fmt::format("{}: {}", Readable(name), failure.what()));
 }
 
 RowFile::RowFile(const std::string& fileName, std::istream& standardInput,

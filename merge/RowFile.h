@@ -28,8 +28,6 @@ class RowFile {
     /** The next row, blank lines too; false at the end. */
     bool Next();
     const Record& Row() const { return reader->Current(); }
-    /** Rows that follow, all at once, as RecordReader takes them. */
-    std::string_view TakeLines(std::size_t most) { return reader->TakeLines(most); }
     /** Lets go of the file, from which nothing is read any more: one that is open cannot be
      * replaced everywhere. */
     void Close() { file.reset(); }

@@ -1,16 +1,8 @@
 #include "merge/RowWalk.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace linewright {
-
-namespace {
-
-constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
-constexpr std::uint64_t kNowhere = std::numeric_limits<std::uint64_t>::max();
-
-}  // namespace
 
 RowWalk::RowWalk(RowFile& borrowed, const std::optional<Shard>& wanted)
     : file(borrowed), shard(wanted) {
@@ -48,27 +40,12 @@ bool RowWalk::Next() {
         const std::uint64_t part = PartOf(begin, position);
         if (part == shard->part) return true;
         if (part > shard->part) return false;
-        LinesBefore(EndOf(shard->part - 1), kAll);
     }
     return false;
 }
 
-std::string_view RowWalk::NextLines(std::size_t most) {
-    return LinesBefore(shard ? EndOf(shard->part) : kNowhere, most);
-}
-
-/** A byte of UTF-8 is at most two of another encoding. */
-std::string_view RowWalk::LinesBefore(std::uint64_t end, std::size_t most) {
-    if (position >= end) return {};
-    const std::uint64_t room = (end - position) / 2;
-    const std::string_view lines =
-        file.TakeLines(static_cast<std::size_t>(std::min<std::uint64_t>(most, room)));
-    position += SizeIn(file.FileEncoding(), lines);
-    return lines;
-}
-
 void RowWalk::GoTo(std::uint64_t end) {
-    while (position < end && Read()) LinesBefore(end, kAll);
+    while (position < end && Read()) continue;
     if (position != end) file.Named([] { throw Failure("is not the file that it was"); });
 }
 

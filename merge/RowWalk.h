@@ -24,9 +24,6 @@ class RowWalk {
 
     /** The next row of the part, blank lines too; false at its end. */
     bool Next();
-    /** Rows of the part that follow, as UTF-8, at most so many bytes: those that nobody has to look
-     *  at to know where they end. */
-    std::string_view NextLines(std::size_t most);
     /** Where in the file the row ends that came last, in bytes. */
     std::uint64_t Position() const { return position; }
     /** Goes on behind the row that ends there. Throws Failure where none does. */
@@ -36,10 +33,6 @@ class RowWalk {
     bool Read();
     std::uint64_t SizeOf(const Record& row) const;
     std::uint64_t PartOf(std::uint64_t begin, std::uint64_t end) const;
-    /** Where a part ends, as if rows had no length: no row that ends before it is of a later one.
-     */
-    std::uint64_t EndOf(std::uint64_t part) const { return part * length / shard->of; }
-    std::string_view LinesBefore(std::uint64_t end, std::size_t most);
 
     RowFile& file;
     std::optional<Shard> shard;

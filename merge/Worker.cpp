@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <exception>
-#include <new>
 
 namespace linewright {
 
@@ -41,8 +40,6 @@ void AnswerPipe::SendFailure(Language language, const std::function<void()>& wor
         sentence = Sentence(failure, language);
     } catch (const DrawingFailure& failure) {
         sentence = Sentence(failure, language);
-    } catch (const std::bad_alloc&) {
-        sentence = "there is not enough memory";
     } catch (const std::exception& failure) {
         sentence = failure.what();
     }

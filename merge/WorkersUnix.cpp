@@ -159,12 +159,7 @@ Workers::Workers(unsigned count, AnswerTaker& taker, const Work& work)
             WorkerPipe pipe(forChunks.read.Get(), forAnswers.write.Get());
             ChunkPipe chunks(pipe);
             AnswerPipe answer(pipe);
-            try {
-                work(chunks, answer);
-            } catch (...) {
-                // What is on the stack is the other process's to end.
-                std::_Exit(EXIT_FAILURE);
-            }
+            work(chunks, answer);
             std::_Exit(EXIT_SUCCESS);
         }
         worker->chunks = std::move(forChunks.write);

@@ -6,7 +6,7 @@
 /** One opaque block of bytes that the application database keeps. Main thread only. */
 class ILWRAppPrefs : public IPMUnknown {
   public:
-    enum { kDefaultIID = linewright::kILWRAppPrefsNumber };
+    enum { kDefaultIID = linewright::IID_ILWRAPPPREFS };
 
     /** A copy of the block, which the caller owns, and its size; nullptr and 0 when nothing is
      *  stored or there is no memory. */

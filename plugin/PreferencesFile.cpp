@@ -13,7 +13,7 @@ namespace linewright {
 
 namespace {
 
-constexpr OSType kAnyType = 0x3F3F3F3F;  // ????
+constexpr OSType kAnyType = FourCharCode('?', '?', '?', '?');
 constexpr auto kRecordSize = static_cast<int32>(sizeof(LinewrightPrefsRecord));
 
 bool useLocalConfig = false;

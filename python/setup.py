@@ -1,6 +1,5 @@
 """Builds the libraries for the package with CMake: those of the folder in LINEWRIGHT_BUILD, or anew."""
 import os
-import re
 import subprocess
 from pathlib import Path
 
@@ -37,5 +36,4 @@ class PlatformDistribution(Distribution):
         return True
 
 
-VERSION = re.search(r"^project\(Linewright VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text(), re.MULTILINE)
-setup(version=VERSION[1], cmdclass={"build_py": BuildWithLibraries}, distclass=PlatformDistribution)
+setup(cmdclass={"build_py": BuildWithLibraries}, distclass=PlatformDistribution)

@@ -75,12 +75,6 @@ double HeightPercentOf(const BarcodeType& type, double module, std::optional<dou
     return *percent;
 }
 
-/** How high a line of a font is above its baseline, in modules; nothing is below. Fonts that print
- *  digits have room for those above an add-on. */
-double LineHeightOf(const BarcodeFace& face) {
-    return face.printsText ? 79.125 : face.modulesPerEm;
-}
-
 double ReductionOf(double percent) {
     const auto reduction = Within(percent, 0, kMostReduction);
     if (!reduction) throw DrawingFailure(Reason::kReduction, {Decimal(kMostReduction, 0)});
@@ -92,12 +86,11 @@ void CheckKind(const BarcodeType& type, const DrawingOptions& options) {
     if (type.face == nullptr && (options.height || options.barWidthReduction != 0)) {
         throw DrawingFailure(Reason::kNoBars);
     }
-    if (options.hasBearerBars && !type.MayHaveBearerBars()) {
+    if (options.hasBearerBars && type.symbology != Symbology::kInterleaved2of5) {
         throw DrawingFailure(Reason::kNoBearer);
     }
-    if (options.hasMarginMarks && !type.MayHaveMarginMarks()) {
-        throw DrawingFailure(Reason::kNoMarginMarks);
-    }
+    const bool isEan = type.trait == Trait::kLargeFirstDigit || type.code == TypeCode::kEan8;
+    if (options.hasMarginMarks && !isEan) throw DrawingFailure(Reason::kNoMarginMarks);
 }
 
 }  // namespace
@@ -137,14 +130,6 @@ BarcodeDrawing BarcodeDrawing::Make(Fonts& fonts, const BarcodeType& type,
 
 double BarcodeDrawing::FontSize() const {
     return face == nullptr ? 0 : module * face->modulesPerEm;
-}
-
-BarcodeDrawing::TextPlace BarcodeDrawing::PlaceOfText() const {
-    if (face == nullptr) {
-        return {textX, textY, textSize * module, kAscent * textSize * module};
-    }
-    if (glyphs.empty()) return {};
-    return {glyphs.front().x, glyphs.front().y, FontSize(), LineHeightOf(*face) * module};
 }
 
 void BarcodeDrawing::FindModule(const BarcodeType& type, const DrawingOptions& options) {

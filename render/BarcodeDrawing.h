@@ -56,15 +56,6 @@ class BarcodeDrawing {
     double BarHeight() const { return barHeight; }
     /** The size of the font in points; 0 without a font. */
     double FontSize() const;
-    /** Where the string, set as text, begins on its baseline, and of its font in points the size
-     *  and how high a line is above its baseline. */
-    struct TextPlace {
-        double x = 0;
-        double baseline = 0;
-        double size = 0;
-        double ascent = 0;
-    };
-    TextPlace PlaceOfText() const;
     /** The resolution that it was made for. */
     std::optional<double> DotsPerInch() const { return dotsPerInch; }
     /** Whether bars' sides lie on halves of modules (the ratio 2.5). */

@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "render/BarcodeDrawing.h"
+#include "render/CairoPage.h"
 #include "render/FreeType.h"
 
 namespace linewright {
@@ -100,6 +101,16 @@ void PaintTile(const Outline& outline, GreyRaster& raster, const Tile& tile) {
 }
 
 }  // namespace
+
+void BarcodeDrawing::PaintArgb(std::uint32_t* pixels, int pictureWidth, int pictureHeight,
+                               int rowBytes, double pixelsPerModule, double x, double y) const {
+    CairoPage page(cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(pixels),
+                                                       CAIRO_FORMAT_ARGB32, pictureWidth,
+                                                       pictureHeight, rowBytes));
+    cairo_translate(page.Context(), x, y);
+    FillShapes(page.Context(), InDots(pixelsPerModule));
+    page.Finish();
+}
 
 GreyRaster BarcodeDrawing::Raster(double pixelsPerModule) const {
     const double most = kMostPixels;

@@ -40,9 +40,6 @@ struct DrawingProblem {
         kNoMarginMarks,
         /** A kind of file knows no ink but black: its ending. */
         kInk,
-        /** It does not fit on its label: width and height that it needs with its lines of text, and
-         *  those that there are. */
-        kLabel,
         /** A library that draws or writes could not do its work: its own words. */
         kLibrary,
     };

@@ -19,8 +19,6 @@ struct DrawingWarning {
         kLowBars,
         /** The reduction is no whole number of dots at 600 dpi, and no resolution was given. */
         kReductionLost,
-        /** A text beside the bars is too wide for its place and was cut: it, and by how much. */
-        kTextCut,
     };
 
     Kind kind{};

@@ -1,6 +1,7 @@
 #include "render/Export.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace linewright {
@@ -37,6 +38,22 @@ std::string FileOf(const BarcodeDrawing& drawing, FileFormat format, const Expor
         case FileFormat::kTiff: break;
     }
     return TiffOf(drawing, options);
+}
+
+double PixelsPerModule(const BarcodeDrawing& drawing, std::optional<double> askedFor) {
+    const int step = drawing.HasHalfModules() ? 2 : 1;
+    if (askedFor) {
+        if (std::fmod(*askedFor, step) == 0) return *askedFor;
+        throw DrawingFailure(DrawingProblem::Reason::kOddPixels);
+    }
+    if (drawing.DotsPerInch()) return drawing.Module() / kInch * *drawing.DotsPerInch();
+    constexpr double kUsualResolution = 300;
+    const double steps = drawing.Module() / kInch * kUsualResolution / step;
+    return step * std::max(1.0, std::round(steps));
+}
+
+double DotsPerInch(const BarcodeDrawing& drawing, double pixelsPerModule) {
+    return pixelsPerModule / drawing.Module() * kInch;
 }
 
 }  // namespace linewright

@@ -1,14 +1,15 @@
 #include "render/FontFile.h"
 
+#include <cairo/cairo-ft.h>
 #include <freetype/ftmm.h>
 #include <freetype/ftoutln.h>
 
 #include <array>
 #include <cmath>
-#include <mutex>
 #include <string>
 
-#include "render/FontFileFace.h"
+#include "render/CairoPage.h"
+#include "render/FreeType.h"
 
 namespace linewright {
 
@@ -52,34 +53,52 @@ FT_Library FreeTypeLibrary() {
     return library;
 }
 
-/** Opening and closing a face changes the library, which threads share. */
-std::mutex& LibraryMutex() {
-    static std::mutex mutex;
-    return mutex;
-}
+struct FontFile::Face {
+    Face() = default;
+    Face(const Face&) = delete;
+    Face& operator=(const Face&) = delete;
+    ~Face() {
+        if (cairoFace != nullptr) {
+            cairo_font_face_destroy(cairoFace);
+        } else if (file != nullptr) {
+            FT_Done_Face(file);
+        }
+    }
 
-void CloseFace(FT_Face file) {
-    const std::lock_guard lock(LibraryMutex());
-    FT_Done_Face(file);
-}
+    void Load(unsigned int glyph) const {
+        CheckFreeType(FT_Load_Glyph(file, glyph, FT_LOAD_NO_SCALE));
+    }
+    cairo_font_face_t* CairoFace();
 
-FontFile::Face::~Face() {
-    if (file != nullptr) CloseFace(file);
-}
-
-void FontFile::Face::Load(unsigned int glyph) const {
-    CheckFreeType(FT_Load_Glyph(file, glyph, FT_LOAD_NO_SCALE));
-}
+    FT_Face file = nullptr;
+    /** Made when it is first shown, and then the owner of the file: Cairo leaks the axes of a
+     *  variable font, which is never shown by it. */
+    cairo_font_face_t* cairoFace = nullptr;
+};
 
 FontFile::FontFile(const std::filesystem::path& path, const DrawingProblem& missing)
     : face(std::make_unique<Face>()) {
-    const std::lock_guard lock(LibraryMutex());
-    if (OpenFace(path, face->file) != 0) {
+    if (FT_New_Face(FreeTypeLibrary(), path.c_str(), 0, &face->file) != 0) {
         throw DrawingFailure(missing);
     }
 }
 
 FontFile::~FontFile() = default;
+
+cairo_font_face_t* FontFile::Face::CairoFace() {
+    if (cairoFace != nullptr) return cairoFace;
+    cairo_font_face_t* const made = cairo_ft_font_face_create_for_ft_face(file, FT_LOAD_NO_HINTING);
+    // Cairo's caches may keep the face for longer than we do; the file goes with it.
+    static constexpr cairo_user_data_key_t kFile{};
+    const cairo_status_t status = cairo_font_face_set_user_data(
+        made, &kFile, file, [](void* done) { FT_Done_Face(static_cast<FT_Face>(done)); });
+    if (status != CAIRO_STATUS_SUCCESS) {
+        cairo_font_face_destroy(made);
+        CheckCairo(status);
+    }
+    cairoFace = made;
+    return made;
+}
 
 bool FontFile::SetBarHeight(double percent) {
     // The axes in the order in which the fonts have them: BHGT, BWRD.
@@ -124,6 +143,21 @@ Outline FontFile::OutlineOf(unsigned int glyph) const {
     Pen pen{{}, static_cast<double>(face->file->units_per_EM)};
     CheckFreeType(FT_Outline_Decompose(&face->file->glyph->outline, &functions, &pen));
     return pen.outline;
+}
+
+void FontFile::Select(cairo_t* context, double width, double height) const {
+    cairo_font_options_t* const options = cairo_font_options_create();
+    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
+    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+    cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+    cairo_set_font_options(context, options);
+    const cairo_status_t status = cairo_font_options_status(options);
+    cairo_font_options_destroy(options);
+    CheckCairo(status);
+    cairo_set_font_face(context, face->CairoFace());
+    cairo_matrix_t size;
+    cairo_matrix_init_scale(&size, width, height);
+    cairo_set_font_matrix(context, &size);
 }
 
 }  // namespace linewright

@@ -23,16 +23,16 @@ class Fonts {
         return font;
     }
 
-    std::shared_ptr<const TextFace> Text(const TextFaceName& name = {}) {
-        auto& face = texts[name];
-        if (!face) face = std::make_shared<const TextFace>(name);
+    std::shared_ptr<const TextFace> Text(bool isBold = false) {
+        auto& face = texts[isBold];
+        if (!face) face = std::make_shared<const TextFace>(isBold);
         return face;
     }
 
   private:
     std::filesystem::path folder;
     std::map<std::pair<const BarcodeFace*, double>, std::shared_ptr<const BarcodeFont>> barcodes;
-    std::map<TextFaceName, std::shared_ptr<const TextFace>> texts;
+    std::map<bool, std::shared_ptr<const TextFace>> texts;
 };
 
 }  // namespace linewright

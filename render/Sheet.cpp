@@ -127,7 +127,7 @@ void Sheet::Show(const SheetEntry& entry, double x, double top, double width, do
 
 void Sheet::ShowLine(const std::string& text, double x, double baseline, double size, double width,
                      bool isBold) {
-    const auto face = fonts.Text({.isBold = isBold});
+    const auto face = fonts.Text(isBold);
     face->Show(page->Context(), face->SetWithin(text, size, width), size, x, baseline);
 }
 

@@ -11,30 +11,13 @@
 
 namespace linewright {
 
-/** A face for text as it is asked for. */
-struct TextFaceName {
-    std::string family = "DejaVu Sans Mono";
-    bool isBold = false;
-
-    auto operator<=>(const TextFaceName&) const = default;  // NOLINT(modernize-use-nullptr)
-};
-
-/** A face that is there. */
-struct InstalledFace {
-    std::filesystem::path file;
-    /** The names by which a layout program knows it in its family, and alone. */
-    std::string style{};
-    std::string postScriptName{};
-};
-
-/** Finds a face for text; another one that stands in for it is none. Throws a DrawingFailure where
- *  it is not there. */
-InstalledFace FindTextFace(const TextFaceName& name);
+/** Where the face for text lies; another one that stands in for it is none. Throws a DrawingFailure
+ *  where it is not there. */
+std::filesystem::path TextFaceFile(bool isBold);
 /** Where a TrueType face with a character lies, as like the one for text as there is one. */
-std::optional<std::filesystem::path> OtherTextFaceFile(const TextFaceName& name,
-                                                       char32_t character);
-/** What is wrong where a face for text cannot be had. */
-DrawingProblem MissingTextFace(const TextFaceName& name);
+std::optional<std::filesystem::path> OtherTextFaceFile(bool isBold, char32_t character);
+/** What is wrong where the face for text cannot be had. */
+DrawingProblem MissingTextFace();
 
 /** Text of one line, set in a face that it must not outlive: its glyphs from the baseline's start.
  */
@@ -48,20 +31,16 @@ struct TextLine {
     double width = 0;
 };
 
-/** A face for text that a barcode font does not print, below bars DejaVu Sans Mono, and no other
- * one in its place, so that the same drawing has the same text on every machine. Characters that it
- *  lacks, as those of Japanese, come from another TrueType face of the system, if one has them. */
+/** The face for text that a barcode font does not print: DejaVu Sans Mono, and no other one in its
+ *  place, so that the same drawing has the same text on every machine. Characters that it lacks, as
+ *  those of Japanese, come from another TrueType face of the system, if one has them. */
 class TextFace {
   public:
-    explicit TextFace(TextFaceName faceName);
-
-    const TextFaceName& Name() const { return name; }
-    const InstalledFace& Installed() const { return installed; }
+    explicit TextFace(bool isBoldFace);
 
     /** Sets UTF-8 text at a size. */
     TextLine Set(const std::string& text, double size) const;
     /** The text or, where it is wider than `width`, as much of it as fits with "…" behind. */
-    std::string Fitted(const std::string& text, double size, double width) const;
     TextLine SetWithin(const std::string& text, double size, double width) const;
 
     /** Shows a line that was set at this size. */
@@ -73,8 +52,7 @@ class TextFace {
     TextLine Set(const std::u32string& characters, double size) const;
     const FontFile& FileWith(char32_t character) const;
 
-    TextFaceName name;
-    InstalledFace installed;
+    bool isBold;
     FontFile file;
     /** Other faces by their files, as they are first wanted. */
     mutable std::map<std::filesystem::path, FontFile> others;

@@ -10,28 +10,24 @@ namespace linewright {
 
 namespace {
 
+constexpr const char* kFamily = "DejaVu Sans Mono";
+
 using Pattern = std::unique_ptr<FcPattern, decltype(&FcPatternDestroy)>;
 
-/** What the pattern says under a name, at one of its places; "" where it says nothing. */
-std::string TextOf(const Pattern& pattern, const char* name, int place = 0) {
+/** What the pattern says under a name; fails where it says nothing. */
+std::string TextOf(const Pattern& pattern, const char* name) {
     FcChar8* text = nullptr;
-    if (FcPatternGetString(pattern.get(), name, place, &text) != FcResultMatch) return "";
+    if (FcPatternGetString(pattern.get(), name, 0, &text) != FcResultMatch) {
+        throw DrawingFailure(MissingTextFace());
+    }
     return reinterpret_cast<const char*>(text);
 }
 
-Pattern FaceOf(const TextFaceName& name) {
-    return {FcPatternBuild(nullptr, FC_FAMILY, FcTypeString, name.family.c_str(), FC_WEIGHT,
-                           FcTypeInteger, name.isBold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR,
-                           FC_SLANT, FcTypeInteger, FC_SLANT_ROMAN, nullptr),
+Pattern FaceOf(bool isBold) {
+    return {FcPatternBuild(nullptr, FC_FAMILY, FcTypeString, kFamily, FC_WEIGHT, FcTypeInteger,
+                           isBold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR, FC_SLANT, FcTypeInteger,
+                           FC_SLANT_ROMAN, nullptr),
             FcPatternDestroy};
-}
-
-/** A font may have several names. */
-bool HasFamily(const Pattern& pattern, const std::string& family) {
-    for (int place = 0;; ++place) {
-        const std::string name = TextOf(pattern, FC_FAMILY, place);
-        if (name.empty() || name == family) return !name.empty();
-    }
 }
 
 /** The installed face that is nearest; none without memory or fonts. */
@@ -46,28 +42,24 @@ Pattern Match(const Pattern& wanted) {
 
 }  // namespace
 
-DrawingProblem MissingTextFace(const TextFaceName& name) {
-    return {DrawingProblem::Reason::kNoTextFace, {name.family}};
+DrawingProblem MissingTextFace() {
+    return {DrawingProblem::Reason::kNoTextFace, {kFamily}};
 }
 
-InstalledFace FindTextFace(const TextFaceName& name) {
-    const Pattern found = Match(FaceOf(name));
+std::filesystem::path TextFaceFile(bool isBold) {
+    const Pattern found = Match(FaceOf(isBold));
     int weight = 0;
-    int place = 0;
-    const bool isIt = found && HasFamily(found, name.family) &&
+    const bool isIt = found && TextOf(found, FC_FAMILY) == kFamily &&
                       FcPatternGetInteger(found.get(), FC_WEIGHT, 0, &weight) == FcResultMatch &&
-                      (weight >= FC_WEIGHT_BOLD) == name.isBold &&
-                      FcPatternGetInteger(found.get(), FC_INDEX, 0, &place) == FcResultMatch &&
-                      place == 0;
-    if (!isIt) throw DrawingFailure(MissingTextFace(name));
-    return {TextOf(found, FC_FILE), TextOf(found, FC_STYLE), TextOf(found, FC_POSTSCRIPT_NAME)};
+                      (weight >= FC_WEIGHT_BOLD) == isBold;
+    if (!isIt) throw DrawingFailure(MissingTextFace());
+    return TextOf(found, FC_FILE);
 }
 
-std::optional<std::filesystem::path> OtherTextFaceFile(const TextFaceName& name,
-                                                       char32_t character) {
+std::optional<std::filesystem::path> OtherTextFaceFile(bool isBold, char32_t character) {
     const std::unique_ptr<FcCharSet, decltype(&FcCharSetDestroy)> characters(FcCharSetCreate(),
                                                                              FcCharSetDestroy);
-    const Pattern wanted = FaceOf(name);
+    const Pattern wanted = FaceOf(isBold);
     const bool isAsked =
         characters && wanted && FcCharSetAddChar(characters.get(), character) == FcTrue &&
         FcPatternAddCharSet(wanted.get(), FC_CHARSET, characters.get()) == FcTrue &&

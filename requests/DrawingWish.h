@@ -16,8 +16,6 @@ struct Length {
 struct DrawingWish {
     /** In points. */
     std::optional<double> xDimension{};
-    /** In per cent of the type's usual X-dimension; in place of the above. */
-    std::optional<double> magnification{};
     std::optional<Length> height{};
     std::optional<Length> quietZone{};
     /** How much narrower each bar is. */

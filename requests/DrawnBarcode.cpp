@@ -1,7 +1,5 @@
 #include "requests/DrawnBarcode.h"
 
-#include <utility>
-
 #include "requests/PrintedText.h"
 
 namespace linewright {
@@ -11,13 +9,12 @@ namespace {
 DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeOutcome& outcome,
                          const BarcodeWish& barcode) {
     const BarcodeType& type = *outcome.type;
-    const std::optional<double> xDimension = XDimensionOf(wish, type);
-    DrawingOptions options{.xDimension = xDimension,
+    DrawingOptions options{.xDimension = wish.xDimension,
                            .dotsPerInch = wish.dotsPerInch,
                            .isFitted = wish.isFitted,
                            .hasBearerBars = wish.hasBearerBars,
                            .hasMarginMarks = wish.hasMarginMarks};
-    const double x = xDimension.value_or(type.dimensions.xDimension);
+    const double x = wish.xDimension.value_or(type.dimensions.xDimension);
     if (wish.height) options.height = wish.height->Points(x);
     if (wish.quietZone) options.quietZone = wish.quietZone->Points(x);
     if (wish.barWidthReduction) {
@@ -30,19 +27,9 @@ DrawingOptions OptionsOf(const DrawingWish& wish, const BarcodeOutcome& outcome,
 
 }  // namespace
 
-std::optional<double> XDimensionOf(const DrawingWish& wish, const BarcodeType& type) {
-    if (wish.xDimension || !wish.magnification) return wish.xDimension;
-    return type.dimensions.xDimension * *wish.magnification / 100;
-}
-
 DrawnBarcode DrawBarcode(Service& service, Fonts& fonts, const BarcodeWish& wish,
                          const DrawingWish& drawing) {
-    return DrawOutcome(fonts, MakeBarcodeLeniently(service, wish), wish, drawing);
-}
-
-DrawnBarcode DrawOutcome(Fonts& fonts, BarcodeOutcome outcome, const BarcodeWish& wish,
-                         const DrawingWish& drawing) {
-    DrawnBarcode drawn{std::move(outcome)};
+    DrawnBarcode drawn{MakeBarcodeLeniently(service, wish)};
     if (!drawn.outcome.IsMade()) return drawn;
     std::vector<Warning>& warnings = drawn.outcome.meaning.warnings;
     if (drawn.outcome.type->symbology == Symbology::kText) {

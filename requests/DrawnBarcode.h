@@ -18,17 +18,9 @@ struct DrawnBarcode {
     std::vector<DrawingWarning> warnings{};
 };
 
-/** The X-dimension that is wished for, in points; none where the type's own will do. */
-std::optional<double> XDimensionOf(const DrawingWish& wish, const BarcodeType& type);
-
 /** Makes and draws; a strict wish has warnings about the drawing refused too. Throws RequestFailure
  *  and DrawingFailure. */
 DrawnBarcode DrawBarcode(Service& service, Fonts& fonts, const BarcodeWish& wish,
-                         const DrawingWish& drawing);
-
-/** The second half of it: draws what was made leniently. On any thread, with fonts of its own.
- *  Throws DrawingFailure. */
-DrawnBarcode DrawOutcome(Fonts& fonts, BarcodeOutcome outcome, const BarcodeWish& wish,
                          const DrawingWish& drawing);
 
 }  // namespace linewright

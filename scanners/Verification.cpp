@@ -49,9 +49,7 @@ Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning, doubl
     if (!HasScanner(meaning.task.symbology)) return {};
     const GreyRaster picture = drawing.Raster(pixelsPerModule);
     Verification result;
-    // ZXing-C++ and ZBar, or ZBar alone where the other cannot be had.
-    if (LINEWRIGHT_SCANNER_COUNT > 1)
-        result.readings.push_back(ReadWithZxing(picture, meaning.task));
+    result.readings.push_back(ReadWithZxing(picture, meaning.task));
     result.readings.push_back(ReadWithZbar(
         picture, meaning.task, {.isEnlarged = pixelsPerModule == 1, .skipsRows = true}));
     for (Reading& reading : result.readings) reading.isMeant = IsMeant(reading, meaning);

@@ -31,7 +31,7 @@ bool IsMeant(const Reading& reading, const Meaning& meaning);
 /** The characters of a reading for people: with its add-on, and control characters as pictures. */
 std::string ShownData(const Reading& reading);
 
-/** Draws in memory and reads with all scanners. It scans when one of them reads what is meant and
+/** Draws in memory and reads with both scanners. It scans when one of them reads what is meant and
  *  none reads anything else. `pixelsPerModule` as for BarcodeDrawing::Raster. */
 Verification Verify(const BarcodeDrawing& drawing, const Meaning& meaning,
                     double pixelsPerModule = 4);

@@ -4,7 +4,6 @@
 
 #include "scanners/EanUpcNumber.h"
 #include "scanners/Reading.h"
-#include "scanners/SpottedSymbol.h"
 
 namespace linewright {
 
@@ -27,36 +26,7 @@ void AllowLength(zbar::zbar_image_scanner_t* scanner, zbar::zbar_symbol_type_t t
     zbar::zbar_image_scanner_set_config(scanner, type, zbar::ZBAR_CFG_MAX_LEN, 0);
 }
 
-void Enable(zbar::zbar_image_scanner_t* scanner, const ScannerTask& task) {
-    switch (task.symbology) {
-        case Symbology::kCode128: Enable(scanner, zbar::ZBAR_CODE128); break;
-        case Symbology::kCode39:
-            Enable(scanner, zbar::ZBAR_CODE39);
-            AllowLength(scanner, zbar::ZBAR_CODE39, 1);
-            break;
-        case Symbology::kCodabar:
-            Enable(scanner, zbar::ZBAR_CODABAR);
-            AllowLength(scanner, zbar::ZBAR_CODABAR, 1);
-            break;
-        case Symbology::kInterleaved2of5:
-            Enable(scanner, zbar::ZBAR_I25);
-            AllowLength(scanner, zbar::ZBAR_I25, 2);
-            break;
-        case Symbology::kEanUpc:
-            for (const auto type :
-                 {zbar::ZBAR_EAN13, zbar::ZBAR_EAN8, zbar::ZBAR_UPCA, zbar::ZBAR_UPCE}) {
-                Enable(scanner, type);
-            }
-            if (task.hasAddOn) {
-                Enable(scanner, zbar::ZBAR_EAN2);
-                Enable(scanner, zbar::ZBAR_EAN5);
-            }
-            break;
-        default: break;
-    }
-}
-
-Scanner ScannerFor(const std::vector<ScannerTask>& tasks, int rowDistance) {
+Scanner ScannerFor(const ScannerTask& task, int rowDistance) {
     Scanner scanner(zbar::zbar_image_scanner_create(), zbar::zbar_image_scanner_destroy);
     zbar::zbar_image_scanner_set_config(scanner.get(), zbar::ZBAR_NONE, zbar::ZBAR_CFG_ENABLE, 0);
     // A barcode is read along its rows.
@@ -64,30 +34,33 @@ Scanner ScannerFor(const std::vector<ScannerTask>& tasks, int rowDistance) {
                                         0);
     zbar::zbar_image_scanner_set_config(scanner.get(), zbar::ZBAR_NONE, zbar::ZBAR_CFG_Y_DENSITY,
                                         rowDistance);
-    for (const ScannerTask& task : tasks) Enable(scanner.get(), task);
-    return scanner;
-}
-
-/** Has the scanner look at a picture, which outlives what it finds. */
-Image ScannedImage(const Scanner& scanner, const GreyRaster& picture) {
-    Image image(zbar::zbar_image_create(), zbar::zbar_image_destroy);
-    constexpr auto kGrey = static_cast<unsigned long>('Y' | '8' << 8 | '0' << 16 | '0' << 24);
-    zbar::zbar_image_set_format(image.get(), kGrey);
-    zbar::zbar_image_set_size(image.get(), static_cast<unsigned>(picture.width),
-                              static_cast<unsigned>(picture.height));
-    zbar::zbar_image_set_data(image.get(), picture.pixels.data(), picture.pixels.size(), nullptr);
-    zbar::zbar_scan_image(scanner.get(), image.get());
-    return image;
-}
-
-Symbology SymbologyOf(zbar::zbar_symbol_type_t type) {
-    switch (type) {
-        case zbar::ZBAR_CODE128: return Symbology::kCode128;
-        case zbar::ZBAR_CODE39: return Symbology::kCode39;
-        case zbar::ZBAR_CODABAR: return Symbology::kCodabar;
-        case zbar::ZBAR_I25: return Symbology::kInterleaved2of5;
-        default: return Symbology::kEanUpc;
+    switch (task.symbology) {
+        case Symbology::kCode128: Enable(scanner.get(), zbar::ZBAR_CODE128); break;
+        case Symbology::kCode39:
+            Enable(scanner.get(), zbar::ZBAR_CODE39);
+            AllowLength(scanner.get(), zbar::ZBAR_CODE39, 1);
+            break;
+        case Symbology::kCodabar:
+            Enable(scanner.get(), zbar::ZBAR_CODABAR);
+            AllowLength(scanner.get(), zbar::ZBAR_CODABAR, 1);
+            break;
+        case Symbology::kInterleaved2of5:
+            Enable(scanner.get(), zbar::ZBAR_I25);
+            AllowLength(scanner.get(), zbar::ZBAR_I25, 2);
+            break;
+        case Symbology::kEanUpc:
+            for (const auto type :
+                 {zbar::ZBAR_EAN13, zbar::ZBAR_EAN8, zbar::ZBAR_UPCA, zbar::ZBAR_UPCE}) {
+                Enable(scanner.get(), type);
+            }
+            if (task.hasAddOn) {
+                Enable(scanner.get(), zbar::ZBAR_EAN2);
+                Enable(scanner.get(), zbar::ZBAR_EAN5);
+            }
+            break;
+        default: break;
     }
+    return scanner;
 }
 
 GreyRaster Enlarged(const GreyRaster& picture) {
@@ -137,38 +110,19 @@ Reading ReadWithZbar(const GreyRaster& picture, const ScannerTask& task, ZbarVie
     if (!HasScanner(task.symbology) || picture.pixels.empty()) return reading;
     const GreyRaster shown = view.isEnlarged ? Enlarged(picture) : picture;
     const Scanner scanner =
-        ScannerFor({task}, view.skipsRows && shown.height >= kLeastToSkip ? 8 : 1);
-    const Image image = ScannedImage(scanner, shown);
+        ScannerFor(task, view.skipsRows && shown.height >= kLeastToSkip ? 8 : 1);
+    const Image image(zbar::zbar_image_create(), zbar::zbar_image_destroy);
+    constexpr unsigned long kGrey = 'Y' | '8' << 8 | '0' << 16 | '0' << 24;
+    zbar::zbar_image_set_format(image.get(), kGrey);
+    zbar::zbar_image_set_size(image.get(), static_cast<unsigned>(shown.width),
+                              static_cast<unsigned>(shown.height));
+    zbar::zbar_image_set_data(image.get(), shown.pixels.data(), shown.pixels.size(), nullptr);
+    zbar::zbar_scan_image(scanner.get(), image.get());
     for (const zbar::zbar_symbol_t* symbol = zbar::zbar_image_first_symbol(image.get());
          symbol != nullptr; symbol = zbar::zbar_symbol_next(symbol)) {
         TakeAll(symbol, reading);
     }
     return reading;
-}
-
-std::vector<SpottedSymbol> SpotWithZbar(const GreyRaster& picture) {
-    static const Scanner scanner = ScannerFor({{Symbology::kCode128},
-                                               {Symbology::kCode39},
-                                               {Symbology::kCodabar},
-                                               {Symbology::kInterleaved2of5},
-                                               {Symbology::kEanUpc}},
-                                              1);
-    std::vector<SpottedSymbol> spotted;
-    const Image image = ScannedImage(scanner, picture);
-    for (const zbar::zbar_symbol_t* symbol = zbar::zbar_image_first_symbol(image.get());
-         symbol != nullptr; symbol = zbar::zbar_symbol_next(symbol)) {
-        SpottedSymbol found;
-        found.reading.scanner = "ZBar";
-        found.symbology = SymbologyOf(zbar::zbar_symbol_get_type(symbol));
-        Take(symbol, found.reading);
-        const unsigned points = zbar::zbar_symbol_get_loc_size(symbol);
-        for (unsigned point = 0; point < points; ++point) {
-            found.Include(zbar::zbar_symbol_get_loc_x(symbol, point),
-                          zbar::zbar_symbol_get_loc_y(symbol, point));
-        }
-        if (points > 0) spotted.push_back(std::move(found));
-    }
-    return spotted;
 }
 
 }  // namespace linewright

@@ -4,7 +4,6 @@
 
 #include "scanners/EanUpcNumber.h"
 #include "scanners/Reading.h"
-#include "scanners/SpottedSymbol.h"
 
 namespace linewright {
 
@@ -39,65 +38,29 @@ ZXing::DecodeHints HintsOf(const ScannerTask& task) {
                                          : ZXing::EanAddOnSymbol::Ignore);
 }
 
-ZXing::ImageView ViewOf(const GreyRaster& picture) {
-    return {picture.pixels.data(), picture.width, picture.height, ZXing::ImageFormat::Lum};
-}
+}  // namespace
 
-Symbology SymbologyOf(BarcodeFormat format) {
-    switch (format) {
-        case BarcodeFormat::Code128: return Symbology::kCode128;
-        case BarcodeFormat::Code39: return Symbology::kCode39;
-        case BarcodeFormat::Codabar: return Symbology::kCodabar;
-        case BarcodeFormat::ITF: return Symbology::kInterleaved2of5;
-        default: return Symbology::kEanUpc;
-    }
-}
-
-Reading ReadingOf(const ZXing::Result& result, bool isTranslated) {
+Reading ReadWithZxing(const GreyRaster& picture, const ScannerTask& task) {
     Reading reading;
     reading.scanner = "ZXing-C++";
+    if (!HasScanner(task.symbology) || picture.pixels.empty()) return reading;
+    const ZXing::ImageView view(picture.pixels.data(), picture.width, picture.height,
+                                ZXing::ImageFormat::Lum);
+    const ZXing::Result result = ZXing::ReadBarcode(view, HintsOf(task));
     if (!result.isValid()) return reading;
     reading.isFound = true;
     reading.symbology = ToString(result.format());
     reading.data = result.bytes().asString();
     reading.said = reading.data;
     reading.isGs1 = result.symbologyIdentifier() == "]C1";
-    reading.isTranslated = isTranslated;
-    if (SymbologyOf(result.format()) == Symbology::kEanUpc) {
+    reading.isTranslated = task.isFullAscii;
+    if (task.symbology == Symbology::kEanUpc) {
         const std::size_t space = reading.data.find(' ');
         if (space != std::string::npos) reading.addOn = reading.data.substr(space + 1);
         reading.said = reading.data.substr(0, space);
         reading.data = EanUpcNumber(reading.said, result.format() == BarcodeFormat::UPCE);
     }
     return reading;
-}
-
-}  // namespace
-
-Reading ReadWithZxing(const GreyRaster& picture, const ScannerTask& task) {
-    if (!HasScanner(task.symbology) || picture.pixels.empty()) return ReadingOf({}, false);
-    return ReadingOf(ZXing::ReadBarcode(ViewOf(picture), HintsOf(task)), task.isFullAscii);
-}
-
-std::optional<SpottedSymbol> SpotWithZxing(const GreyRaster& picture, bool isLocal) {
-    const auto hints =
-        ZXing::DecodeHints()
-            .setFormats(BarcodeFormat::Code128 | BarcodeFormat::Code39 | BarcodeFormat::Codabar |
-                        BarcodeFormat::ITF | FormatsOf(Symbology::kEanUpc))
-            .setTryHarder(true)
-            .setTryRotate(false)
-            .setTryDownscale(false)
-            .setBinarizer(isLocal ? ZXing::Binarizer::LocalAverage
-                                  : ZXing::Binarizer::FixedThreshold)
-            .setReturnCodabarStartEnd(true)
-            .setEanAddOnSymbol(ZXing::EanAddOnSymbol::Ignore);
-    const ZXing::Result result = ZXing::ReadBarcode(ViewOf(picture), hints);
-    if (!result.isValid()) return std::nullopt;
-    SpottedSymbol spotted;
-    spotted.reading = ReadingOf(result, false);
-    spotted.symbology = SymbologyOf(result.format());
-    for (const ZXing::PointI point : result.position()) spotted.Include(point.x, point.y);
-    return spotted;
 }
 
 }  // namespace linewright

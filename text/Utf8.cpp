@@ -1,8 +1,5 @@
 #include "text/Utf8.h"
 
-#include <cstdint>
-#include <cstring>
-
 namespace linewright {
 
 namespace {
@@ -52,17 +49,6 @@ bool IsScalarValue(char32_t character) {
     return character < 0xD800 || (character > 0xDFFF && character <= 0x10FFFF);
 }
 
-/** How many bytes are ASCII as far as it goes by eight at a time. */
-std::size_t AsciiEights(std::string_view bytes) {
-    constexpr std::uint64_t kHighest = 0x8080'8080'8080'8080;
-    std::size_t count = 0;
-    for (std::uint64_t eight = 0; count + sizeof eight <= bytes.size(); count += sizeof eight) {
-        std::memcpy(&eight, bytes.data() + count, sizeof eight);
-        if ((eight & kHighest) != 0) break;
-    }
-    return count;
-}
-
 }  // namespace
 
 void AppendUtf8(std::string& text, char32_t character) {
@@ -87,12 +73,11 @@ void AppendUtf8(std::string& text, char32_t character) {
 }
 
 std::optional<std::size_t> FirstInvalidUtf8(std::string_view bytes) {
-    std::size_t position = AsciiEights(bytes);
+    std::size_t position = 0;
     while (position < bytes.size()) {
         const auto character = FirstCharacter(bytes.substr(position));
         if (!character) return position;
         position += character->length;
-        position += AsciiEights(bytes.substr(position));
     }
     return std::nullopt;
 }

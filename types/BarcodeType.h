@@ -96,12 +96,6 @@ struct BarcodeType {
     constexpr double Module() const { return dimensions.xDimension / dimensions.modulesPerX; }
     /** Postal bars have the heights of their standards. */
     constexpr bool HasFixedHeight() const { return dimensions.modulesPerX > 1; }
-    /** A frame against the press plate's pressure is usual around these bars. */
-    constexpr bool MayHaveBearerBars() const { return symbology == Symbology::kInterleaved2of5; }
-    /** "<" and ">" keep the quiet zones of these free. */
-    constexpr bool MayHaveMarginMarks() const {
-        return trait == Trait::kLargeFirstDigit || code == TypeCode::kEan8;
-    }
 };
 
 }  // namespace linewright

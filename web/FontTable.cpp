@@ -153,16 +153,15 @@ Outline FontFile::OutlineOf(unsigned int glyph) const {
     return outline;
 }
 
-InstalledFace FindTextFace(const TextFaceName& /*name*/) {
+std::filesystem::path TextFaceFile(bool /*isBold*/) {
     return "DejaVuSansMono";
 }
 
-std::optional<std::filesystem::path> OtherTextFaceFile(const TextFaceName& /*name*/,
-                                                       char32_t /*character*/) {
+std::optional<std::filesystem::path> OtherTextFaceFile(bool /*isBold*/, char32_t /*character*/) {
     return std::nullopt;
 }
 
-DrawingProblem MissingTextFace(const TextFaceName& /*name*/) {
+DrawingProblem MissingTextFace() {
     return {DrawingProblem::Reason::kNoTextFace, {"DejaVu Sans Mono"}};
 }
 

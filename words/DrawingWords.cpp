@@ -92,16 +92,6 @@ constexpr Translations TranslationsOf(DrawingProblem::Reason reason) {
                     "diese Art von Datei kennt nur Schwarz; PDF und EPS kennen andere Farben",
                     "ce type de fichier ne connaît que le noir ; PDF et EPS ont d’autres encres",
                     "この形式は黒だけです。ほかのインクは PDF と EPS で使えます"};
-        case Reason::kLabel:
-            return {
-                "with its lines of text the symbol needs {0} mm × {1} mm, the label has room for "
-                "{2} mm × {3} mm",
-                "mit seinen Textzeilen braucht das Symbol {0} mm × {1} mm, das Etikett hat Platz "
-                "für {2} mm × {3} mm",
-                "avec ses lignes de texte, le symbole demande {0} mm × {1} mm ; l’étiquette offre "
-                "{2} mm × {3} mm",
-                "シンボルと文字の行には {0} mm × {1} mm が必要ですが、ラベルには {2} mm × {3} mm "
-                "しかありません"};
         case Reason::kLibrary:
             return {"the drawing could not be made: {0}",
                     "die Zeichnung konnte nicht gemacht werden: {0}",
@@ -139,11 +129,6 @@ constexpr Translations TranslationsOf(DrawingWarning::Kind kind) {
             return {"at 600 dpi this reduction is lost",
                     "bei 600 dpi geht diese Korrektur verloren",
                     "à 600 dpi, cette réduction se perd", "600 dpi ではこの補正は失われます"};
-        case Kind::kTextCut:
-            return {"the text \"{0}\" is {1} mm too wide for its line and was cut",
-                    "der Text „{0}“ ist {1} mm zu breit für seine Zeile und wurde gekürzt",
-                    "le texte « {0} » dépasse sa ligne de {1} mm et a été coupé",
-                    "文字列「{0}」は行の幅を {1} mm 超えるため切り詰められました"};
     }
     return {};
 }

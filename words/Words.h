@@ -5,7 +5,6 @@
 
 #include "meaning/UpcAColumn.h"
 #include "meaning/Warning.h"
-#include "presets/PresetFailure.h"
 #include "render/DrawingFailure.h"
 #include "render/DrawingWarning.h"
 #include "requests/BarcodeOutcome.h"
@@ -30,7 +29,5 @@ std::string WhyRefused(const BarcodeOutcome& outcome, Language language);
 std::string Sentence(const RequestFailure& failure, Language language);
 std::string Sentence(const DrawingFailure& failure, Language language);
 std::string Sentence(const DrawingWarning& warning, Language language);
-/** With the file and the line in front. */
-std::string Sentence(const PresetFailure& failure, Language language);
 
 }  // namespace linewright

@@ -1,15 +1,27 @@
 #include "workbench/BarcodePage.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
-#include <utility>
+#include <QLocale>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <array>
+#include <cmath>
 
 #include "host/runtime/Paths.h"
+#include "render/Export.h"
+#include "requests/DrawnBarcode.h"
+#include "scanners/Verification.h"
+#include "text/FontText.h"
 #include "types/BarcodeTypes.h"
 #include "words/Words.h"
-#include "workbench/Keep.h"
-#include "workbench/OutputPhrases.h"
-#include "workbench/PagePhrases.h"
+#include "workbench/Text.h"
 
 namespace linewright {
 
@@ -17,230 +29,290 @@ namespace {
 
 constexpr auto kTypeKey = "page/type";
 constexpr auto kDataKey = "page/data";
-constexpr auto kSplitKey = "page/split";
+constexpr auto kZoomKey = "page/zoom";
+constexpr std::array kRatios{2.0, 2.5, 3.0};
 
 // What is there when the window opens for the first time.
 constexpr auto kFirstType = "_QVT_BARCODE_EAN13_";
 constexpr auto kFirstData = "4006381333931";
+constexpr int kFirstZoom = 3;
+
+QString FromUtf8(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::string FileContent(const BarcodeDrawing& drawing, const QString& file) {
+    return FileOf(drawing, FormatOf(file.toStdString()).value_or(FileFormat::kPdf), {});
+}
 
 }  // namespace
 
-BarcodePage::BarcodePage(Service& plugIn, QSettings& userSettings, const Surroundings& surroundings,
-                         std::function<void(const QString&)> cellsPasted)
+BarcodePage::BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
+                         const QString& locale)
     : service(plugIn),
       settings(userSettings),
-      fonts(host::PathFromUtf8(surroundings.fonts)),
-      scanCheck([this](const Verification* verification) { HearVerdict(verification); }) {
-    chooser = new TypeChooser(this);
-    entry = new EntryFields(this);
-    entry->Data().cellsPasted = std::move(cellsPasted);
-    pane = new DrawingPane(settings, this);
-    sizes = new SizeStrip(settings, this);
-    output = new OutputActions(barcode, settings, surroundings.command, this);
-    copyButton = new QPushButton(this);
-    copyButton->setObjectName(QStringLiteral("copy"));
-    copyAsButton = new QPushButton(this);
-    copyAsButton->setObjectName(QStringLiteral("copyAs"));
-    copyAsButton->setMenu(output->CopyAs());
-    exportButton = new QPushButton(this);
-    exportButton->setObjectName(QStringLiteral("export"));
-    MakeViewActions();
+      fonts(host::PathFromUtf8(fontFolder)),
+      language(locale),
+      types(plugIn.Types()) {
+    MakeFields();
+    MakeActions();
     Arrange();
     Restore();
     Connect();
-}
-
-BarcodePage::~BarcodePage() {
-    if (!texts.empty()) Store();
-}
-
-void BarcodePage::MakeViewActions() {
-    const auto make = [this](const QKeySequence& keys, auto act) {
-        auto* const action = new QAction(this);
-        action->setShortcut(keys);
-        connect(action, &QAction::triggered, this, act);
-        return action;
-    };
-    findType = make(QKeySequence::Find, [this] { chooser->StartSearch(); });
-    goToData = make(QKeySequence(QStringLiteral("Ctrl+D")), [this] {
-        entry->Data().setFocus();
-        entry->Data().selectAll();
-    });
-    zoomIn = make(QKeySequence::ZoomIn, [this] { pane->Area().SetZoom(pane->Area().Zoom() + 1); });
-    zoomOut =
-        make(QKeySequence::ZoomOut, [this] { pane->Area().SetZoom(pane->Area().Zoom() - 1); });
-    fit = make(QKeySequence(QStringLiteral("Ctrl+0")), [this] { pane->Area().SetFitted(true); });
-}
-
-void BarcodePage::Arrange() {
-    constexpr int kMargin = 10;
-    constexpr int kSpacing = 8;
-    constexpr int kChooserWidth = 270;
-    constexpr int kRestWidth = 630;
-    auto* const inner = new QWidget(this);
-    auto* const rows = new QVBoxLayout(inner);
-    rows->setContentsMargins({});
-    rows->setSpacing(kSpacing);
-    rows->addWidget(entry);
-    rows->addWidget(pane, 1);
-    rows->addWidget(sizes);
-    // On a small screen the rest can be moved; what is done with a barcode stays in sight.
-    auto* const area = new QScrollArea(this);
-    area->setWidget(inner);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    auto* const buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton* const button : {copyButton, copyAsButton, exportButton}) {
-        buttons->addWidget(button);
-    }
-    auto* const right = new QWidget(this);
-    auto* const column = new QVBoxLayout(right);
-    column->setContentsMargins({});
-    column->setSpacing(kSpacing);
-    column->addWidget(area, 1);
-    column->addLayout(buttons);
-    splitter = new QSplitter(this);
-    splitter->addWidget(chooser);
-    splitter->addWidget(right);
-    splitter->setChildrenCollapsible(false);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({kChooserWidth, kRestWidth});
-    auto* const page = new QHBoxLayout(this);
-    page->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    page->addWidget(splitter);
-    setTabOrder(entry, pane);
-    setTabOrder(pane, sizes);
-    setTabOrder(sizes, copyButton);
-    setTabOrder(copyButton, copyAsButton);
-    setTabOrder(copyAsButton, exportButton);
-    setFocusProxy(entry);
-}
-
-void BarcodePage::Connect() {
-    constexpr int kQuietTime = 1000;
-    storing.setSingleShot(true);
-    storing.setInterval(kQuietTime);
-    connect(&storing, &QTimer::timeout, this, [this] { Store(); });
-    chooser->typeChosen = [this] { ChangeType(); };
-    entry->changed = [this] { Refresh(); };
-    sizes->changed = [this] { Refresh(); };
-    output->chosenAgain = [this](const BarcodeWish& wish) { Choose(wish); };
-    output->recentChanged = [this] { chooser->SetRecent(output->Recent().Types()); };
-    connect(copyButton, &QPushButton::clicked, output->CopyText(), &QAction::trigger);
-    connect(exportButton, &QPushButton::clicked, output->Export(), &QAction::trigger);
-    connect(&entry->Data(), &QLineEdit::returnPressed, output->CopyText(), &QAction::trigger);
-}
-
-void BarcodePage::Restore() {
-    const QString name = settings.value(QLatin1String(kTypeKey), kFirstType).toString();
-    const BarcodeType* const type = FindTypeByPrefix(name.toStdString());
-    chooser->Choose(type != nullptr ? type : FindTypeByPrefix(kFirstType));
-    chooser->SetRecent(output->Recent().Types());
-    entry->Data().SetData(settings.value(QLatin1String(kDataKey), kFirstData).toString());
-    splitter->restoreState(settings.value(QLatin1String(kSplitKey)).toByteArray());
-}
-
-void BarcodePage::Store() {
-    storing.stop();
-    const std::string_view type = chooser->Chosen().type->name;
-    Keep(settings, QLatin1String(kTypeKey),
-         QString::fromLatin1(type.data(), static_cast<qsizetype>(type.size())));
-    Keep(settings, QLatin1String(kDataKey), entry->Data().text());
-    Keep(settings, QLatin1String(kSplitKey), splitter->saveState());
-}
-
-void BarcodePage::Speak(const QString& locale) {
-    language = locale;
-    texts = TextsOfTypes(service);
-    chooser->Speak(texts, locale);
-    entry->Speak(locale);
-    pane->Speak(locale);
-    sizes->Speak(locale);
-    output->Speak(locale);
-    copyButton->setText(Say(phrases::kPageCopy, locale));
-    copyAsButton->setText(Say(phrases::kCopyAs, locale));
-    exportButton->setText(Say(phrases::kPageExport, locale));
-    findType->setText(Say(phrases::kMenuFindType, locale));
-    goToData->setText(Say(phrases::kMenuTypeData, locale));
-    zoomIn->setText(Say(phrases::kMenuZoomIn, locale));
-    zoomOut->setText(Say(phrases::kMenuZoomOut, locale));
-    fit->setText(Say(phrases::kMenuFit, locale));
     ChangeType();
 }
 
-QList<QAction*> BarcodePage::Actions(MenuPlace menu) const {
-    switch (menu) {
-        case MenuPlace::kFile: return output->FileActions();
-        case MenuPlace::kEdit: return output->EditActions();
-        case MenuPlace::kView: return {findType, goToData, zoomIn, zoomOut, fit};
+void BarcodePage::MakeFields() {
+    typeBox = new QComboBox(this);
+    typeBox->setObjectName(QStringLiteral("type"));
+    typeBox->setMaxVisibleItems(static_cast<int>(types.size()));
+    for (const TypeDescription& type : types) typeBox->addItem(FromUtf8(type.displayText));
+    dataBox = new QLineEdit(this);
+    dataBox->setObjectName(QStringLiteral("data"));
+    dataBox->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    checkDigitBox = new QCheckBox(Words(Phrase::kPageCheckDigit), this);
+    checkDigitBox->setObjectName(QStringLiteral("checkDigit"));
+    ratioBox = new QComboBox(this);
+    ratioBox->setObjectName(QStringLiteral("ratio"));
+    for (const double ratio : kRatios)
+        ratioBox->addItem(NumberText(ratio, 1, language) + QLatin1String(" : 1"));
+    message = new QLabel(this);
+    message->setObjectName(QStringLiteral("message"));
+    message->setWordWrap(true);
+    message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    message->setMinimumHeight(2 * message->fontMetrics().lineSpacing());
+}
+
+void BarcodePage::MakeActions() {
+    constexpr int kLargestZoom = 8;
+    view = new BarcodeView(this);
+    view->setObjectName(QStringLiteral("drawing"));
+    fontLabel = new QLabel(this);
+    fontLabel->setObjectName(QStringLiteral("font"));
+    fontLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    badge = new QLabel(this);
+    badge->setObjectName(QStringLiteral("badge"));
+    zoomSlider = new QSlider(Qt::Horizontal, this);
+    zoomSlider->setObjectName(QStringLiteral("zoom"));
+    zoomSlider->setRange(1, kLargestZoom);
+    zoomSlider->setPageStep(1);
+    copyButton = new QPushButton(Words(Phrase::kPageCopy), this);
+    copyButton->setObjectName(QStringLiteral("copy"));
+    exportButton = new QPushButton(Words(Phrase::kPageExport), this);
+    exportButton->setObjectName(QStringLiteral("export"));
+}
+
+void BarcodePage::Arrange() {
+    constexpr int kMargin = 16;
+    constexpr int kSpacing = 12;
+    const auto labelFor = [this](Phrase phrase, QWidget* named) {
+        auto* const label = new QLabel(Words(phrase), this);
+        label->setBuddy(named);
+        named->setAccessibleName(SpokenText(label->text()));
+        return label;
+    };
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(kSpacing);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(labelFor(Phrase::kPageType, typeBox), 0, 0);
+    grid->addWidget(typeBox, 0, 1);
+    grid->addWidget(labelFor(Phrase::kPageRatio, ratioBox), 0, 2);
+    grid->addWidget(ratioBox, 0, 3);
+    grid->addWidget(labelFor(Phrase::kPageData, dataBox), 1, 0);
+    grid->addWidget(dataBox, 1, 1);
+    grid->addWidget(checkDigitBox, 1, 2, 1, 2);
+    grid->addWidget(message, 2, 1, 1, 3);
+
+    auto* const area = new QScrollArea(this);
+    area->setObjectName(QStringLiteral("area"));
+    area->setWidget(view);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::StrongFocus);
+    area->setAccessibleName(SpokenText(Words(Phrase::kPageDrawing)));
+
+    auto* const state = new QHBoxLayout;
+    state->setSpacing(kSpacing);
+    state->addWidget(badge);
+    state->addWidget(fontLabel);
+    state->addStretch();
+    state->addWidget(labelFor(Phrase::kPageZoom, zoomSlider));
+    state->addWidget(zoomSlider);
+    auto* const buttons = new QHBoxLayout;
+    buttons->addStretch();
+    for (QPushButton* const button : {copyButton, exportButton})
+        button->setMinimumWidth(button->sizeHint().width() + 2 * kSpacing);
+    buttons->addWidget(copyButton);
+    buttons->addWidget(exportButton);
+
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kSpacing);
+    column->addLayout(grid);
+    column->addWidget(area, 1);
+    column->addLayout(state);
+    column->addLayout(buttons);
+
+    QWidget* last = typeBox;
+    for (QWidget* const next : std::initializer_list<QWidget*>{
+             dataBox, ratioBox, checkDigitBox, area, zoomSlider, copyButton, exportButton}) {
+        setTabOrder(last, next);
+        last = next;
     }
-    return {};
+    setFocusProxy(dataBox);
+}
+
+void BarcodePage::Connect() {
+    connect(typeBox, &QComboBox::currentIndexChanged, this, [this] { ChangeType(); });
+    connect(dataBox, &QLineEdit::textChanged, this, [this] { Refresh(); });
+    connect(checkDigitBox, &QCheckBox::toggled, this, [this] { Refresh(); });
+    connect(ratioBox, &QComboBox::currentIndexChanged, this, [this] { Refresh(); });
+    connect(zoomSlider, &QSlider::valueChanged, this, [this] { Refresh(); });
+    connect(copyButton, &QPushButton::clicked, this,
+            [this] { QApplication::clipboard()->setText(fontText); });
+    connect(exportButton, &QPushButton::clicked, this, [this] { AskForExport(); });
+}
+
+void BarcodePage::Restore() {
+    const std::string name = settings.value(kTypeKey, kFirstType).toString().toStdString();
+    const auto found = std::find_if(types.begin(), types.end(),
+                                    [&](const auto& type) { return type.typeName == name; });
+    if (found != types.end()) typeBox->setCurrentIndex(static_cast<int>(found - types.begin()));
+    dataBox->setText(settings.value(kDataKey, kFirstData).toString());
+    zoomSlider->setValue(settings.value(kZoomKey, kFirstZoom).toInt());
 }
 
 void BarcodePage::ChangeType() {
-    entry->ShowType(chooser->Chosen());
-    sizes->ShowType(*chooser->Chosen().type);
+    // The flags: the check digit can be chosen, it is on at first, the ratio can be chosen.
+    const std::array<uint16, 3> flags =
+        types[static_cast<std::size_t>(typeBox->currentIndex())].optionFlags.value_or(
+            std::array<uint16, 3>{});
+    {
+        const QSignalBlocker checkDigit(checkDigitBox);
+        const QSignalBlocker ratio(ratioBox);
+        checkDigitBox->setEnabled(flags[0] != 0);
+        checkDigitBox->setChecked(flags[1] != 0);
+        ratioBox->setEnabled(flags[2] != 0);
+        ratioBox->setCurrentIndex(0);
+    }
     Refresh();
 }
 
-void BarcodePage::Choose(const BarcodeWish& wish) {
-    chooser->Choose(FindTypeByPrefix(wish.type));
-    entry->ShowType(chooser->Chosen());
-    sizes->ShowType(*chooser->Chosen().type);
-    entry->SetWish(wish);
-}
-
 void BarcodePage::Refresh() {
-    storing.start();
-    scanCheck.Forget();
-    barcode.reset();
-    const StatusWords words(chooser->Chosen(), language);
+    const TypeDescription& type = types[static_cast<std::size_t>(typeBox->currentIndex())];
+    const BarcodeWish wish{
+        .type = type.typeName,
+        .data = dataBox->text().toStdString(),
+        .isUtf8 = true,
+        .checkCharacter = static_cast<uint8>(checkDigitBox->isChecked() ? 1 : 0),
+        .ratio = kRatios[static_cast<std::size_t>(ratioBox->currentIndex())],
+    };
+    settings.setValue(kTypeKey, FromUtf8(type.typeName));
+    settings.setValue(kDataKey, dataBox->text());
+    settings.setValue(kZoomKey, zoomSlider->value());
     const Language spoken = LanguageOf(language.toStdString());
     try {
-        Draw(entry->Wish());
+        DrawnBarcode drawn = DrawBarcode(service, fonts, wish, {});
+        const bool isMade = drawn.outcome.IsMade();
+        ShowMessage(FromUtf8(isMade ? JoinedWarnings(drawn.outcome, spoken)
+                                    : WhyRefused(drawn.outcome, spoken)),
+                    !isMade);
+        Show(drawn);
     } catch (const RequestFailure& failure) {
-        Show(words.OfFailure(Sentence(failure, spoken)));
+        ShowFailure(Sentence(failure, spoken));
     } catch (const DrawingFailure& failure) {
-        Show(words.OfFailure(Sentence(failure, spoken)));
+        ShowFailure(Sentence(failure, spoken));
     }
 }
 
-void BarcodePage::Draw(const BarcodeWish& wish) {
-    const StatusWords words(chooser->Chosen(), language);
-    if (wish.data.empty()) {
-        Show(words.OfNothing());
-        return;
-    }
-    const DrawingWish drawing = sizes->Wish();
-    DrawnBarcode drawn = DrawBarcode(service, fonts, wish, drawing);
-    if (!drawn.drawing) {
-        Show(words.OfRefusal(drawn.outcome));
-        return;
-    }
-    barcode = TakenBarcode{wish, drawing, std::move(drawn)};
-    Show(words.OfDrawn(barcode->drawn));
-    scanCheck.Check(*barcode->drawn.drawing, barcode->drawn.outcome.meaning);
+void BarcodePage::ShowFailure(const std::string& sentence) {
+    ShowMessage(FromUtf8(sentence), true);
+    DrawnBarcode nothing{};
+    Show(nothing);
 }
 
-void BarcodePage::Show(BarcodeStatus newStatus) {
-    status = std::move(newStatus);
-    entry->ShowMessage(status);
-    pane->ShowDrawing(barcode ? &barcode->drawn : nullptr);
-    pane->ShowBadge(status);
-    sizes->ShowDrawing(barcode ? &*barcode->drawn.drawing : nullptr);
-    output->Follow();
-    for (QPushButton* const button : {copyButton, copyAsButton, exportButton}) {
-        button->setEnabled(barcode.has_value());
+void BarcodePage::Show(DrawnBarcode& drawn) {
+    const BarcodeOutcome& outcome = drawn.outcome;
+    ShowBadge(drawn);
+    fontText = FromUtf8(FontText(outcome.bytes));
+    copyButton->setEnabled(!fontText.isEmpty());
+    exportButton->setEnabled(drawn.drawing.has_value());
+    fontLabel->clear();
+    double pixelsPerModule = 1;
+    if (drawn.drawing) {
+        const BarcodeType& type = *outcome.type;
+        pixelsPerModule = static_cast<double>(zoomSlider->value()) / type.dimensions.modulesPerX;
+        if (type.face != nullptr)
+            fontLabel->setText(QString::fromUtf8(type.face->family.data(),
+                                                 static_cast<qsizetype>(type.face->family.size())) +
+                               QLatin1String(", ") +
+                               NumberText(drawn.drawing->FontSize(), 2, language) +
+                               QLatin1String(" pt"));
     }
+    view->SetDrawing(std::move(drawn.drawing), pixelsPerModule);
 }
 
-void BarcodePage::HearVerdict(const Verification* verification) {
-    if (!barcode) return;
-    StatusWords(chooser->Chosen(), language)
-        .AddVerdict(status, barcode->drawn.outcome, barcode->wish, verification);
-    pane->ShowBadge(status);
+void BarcodePage::ShowMessage(const QString& text, bool isRefusal) {
+    message->setText(text);
+    QPalette colours = palette();
+    constexpr QColor kRefusal(0xB0, 0x1E, 0x1E);
+    constexpr QColor kWarning(0x7A, 0x4F, 0x00);
+    colours.setColor(QPalette::WindowText, isRefusal ? kRefusal : kWarning);
+    message->setPalette(colours);
+}
+
+void BarcodePage::ShowBadge(const DrawnBarcode& drawn) {
+    badge->setVisible(drawn.drawing.has_value());
+    if (!drawn.drawing) return;
+    const Verification verification = Verify(*drawn.drawing, drawn.outcome.meaning);
+    const char* colour = "#666666";
+    switch (verification.verdict) {
+        case Verdict::kScans:
+            badge->setText(Words(Phrase::kScans));
+            colour = "#1B7F3B";
+            break;
+        case Verdict::kScansAs:
+            badge->setText(Words(Phrase::kScansAs).arg(FromUtf8(verification.WhatWasRead())));
+            colour = "#9A5B00";
+            break;
+        case Verdict::kDoesNotScan:
+            badge->setText(Words(Phrase::kDoesNotScan));
+            colour = "#B01E1E";
+            break;
+        case Verdict::kNoScanner: badge->setText(Words(Phrase::kNoScanner)); break;
+    }
+    badge->setStyleSheet(
+        QStringLiteral("background: %1; color: white; padding: 3px 8px; border-radius: 3px;")
+            .arg(QLatin1String(colour)));
+}
+
+bool BarcodePage::Export(const QString& name) const {
+    if (!view->Drawing()) return false;
+    std::string content;
+    try {
+        content = FileContent(*view->Drawing(), name);
+    } catch (const DrawingFailure&) {
+        return false;
+    }
+    QSaveFile file(name);
+    return file.open(QIODevice::WriteOnly) &&
+           file.write(content.data(), static_cast<qint64>(content.size())) ==
+               static_cast<qint64>(content.size()) &&
+           file.commit();
+}
+
+void BarcodePage::AskForExport() {
+    QFileDialog dialog(this);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({QStringLiteral("PDF (*.pdf)"), QStringLiteral("SVG (*.svg)"),
+                           QStringLiteral("PNG (*.png)")});
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+        dialog.setDefaultSuffix(filter.left(3).toLower());
+    });
+    if (dialog.exec() != QDialog::Accepted) return;
+    const QString file = dialog.selectedFiles().constFirst();
+    if (!Export(file))
+        QMessageBox::critical(this, window()->windowTitle(), Words(Phrase::kCannotWrite).arg(file));
 }
 
 }  // namespace linewright

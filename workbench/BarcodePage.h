@@ -1,85 +1,73 @@
 #pragma once
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSettings>
-#include <QSplitter>
-#include <QTimer>
-#include <functional>
-#include <optional>
+#include <QSlider>
+#include <QWidget>
 #include <string>
 #include <vector>
 
 #include "render/Fonts.h"
 #include "requests/Service.h"
-#include "workbench/DrawingPane.h"
-#include "workbench/EntryFields.h"
-#include "workbench/OutputActions.h"
-#include "workbench/Page.h"
-#include "workbench/ScanCheck.h"
-#include "workbench/SizeStrip.h"
-#include "workbench/Surroundings.h"
-#include "workbench/TypeChooser.h"
+#include "workbench/BarcodeView.h"
+#include "workbench/Language.h"
 
 namespace linewright {
 
+struct DrawnBarcode;
+
 /** The page of the window: data goes in, a barcode is drawn while it is typed, and can be taken
- *  along as text for its font, as a picture or as a file. */
-class BarcodePage final : public Page {
+ *  along as text for its font or as a file. */
+class BarcodePage final : public QWidget {
   public:
-    /** Service and settings outlive it; the settings keep type, data and sizes. `cellsPasted` hears
-     *  of several cells of a spreadsheet. */
-    BarcodePage(Service& plugIn, QSettings& userSettings, const Surroundings& surroundings,
-                std::function<void(const QString&)> cellsPasted);
-    ~BarcodePage() override;
+    /** Service and settings outlive it; the settings keep type and data. `fontFolder` is the
+     *  folder of the barcode fonts, UTF-8. */
+    BarcodePage(Service& plugIn, QSettings& userSettings, const std::string& fontFolder,
+                const QString& locale);
 
-    void Speak(const QString& locale) override;
-    void Refresh() override;
-    QList<QAction*> Actions(MenuPlace menu) const override;
-
-    SizeStrip& Sizes() { return *sizes; }
-    /** The barcode that is shown; none where nothing was drawn. */
-    const std::optional<TakenBarcode>& Shown() const { return barcode; }
+    /** Makes the barcode anew, since the preferences may be others. */
+    void Refresh();
+    /** Writes the drawing; the ending of the name says how. False when that does not work. */
+    bool Export(const QString& name) const;
 
   private:
+    void MakeFields();
+    void MakeActions();
     void Arrange();
-    void MakeViewActions();
     void Connect();
     void Restore();
-    void Store();
+
     void ChangeType();
-    /** Shows a barcode that was made before. */
-    void Choose(const BarcodeWish& wish);
-    void Draw(const BarcodeWish& wish);
-    /** Shows what became of the data; the barcode, if there is one, is the one that is kept. */
-    void Show(BarcodeStatus newStatus);
-    void HearVerdict(const Verification* verification);
+    void Show(DrawnBarcode& drawn);
+    void ShowFailure(const std::string& sentence);
+    void ShowMessage(const QString& text, bool isRefusal);
+    void ShowBadge(const DrawnBarcode& drawn);
+    void AskForExport();
+    QString Words(Phrase phrase) const { return Say(phrase, language); }
 
     Service& service;
     QSettings& settings;
     Fonts fonts;
     QString language;
-    std::vector<TypeTexts> texts;
-    std::optional<TakenBarcode> barcode;
-    BarcodeStatus status;
-    ScanCheck scanCheck;
-    /** Nothing is written while somebody types. */
-    QTimer storing;
+    std::vector<TypeDescription> types;
 
-    QSplitter* splitter;
-    TypeChooser* chooser;
-    EntryFields* entry;
-    DrawingPane* pane;
-    SizeStrip* sizes;
-    OutputActions* output;
+    QComboBox* typeBox;
+    QLineEdit* dataBox;
+    QCheckBox* checkDigitBox;
+    QComboBox* ratioBox;
+    QLabel* message;
+    BarcodeView* view;
+    QLabel* fontLabel;
+    QLabel* badge;
+    QSlider* zoomSlider;
     QPushButton* copyButton;
-    QPushButton* copyAsButton;
     QPushButton* exportButton;
-    QAction* findType;
-    QAction* goToData;
-    QAction* zoomIn;
-    QAction* zoomOut;
-    QAction* fit;
+    QString fontText;
 };
 
 }  // namespace linewright

@@ -14,7 +14,6 @@ class BarcodeView final : public QWidget {
 
     /** Nothing, or a drawing at so many pixels a module. */
     void SetDrawing(std::optional<BarcodeDrawing> shown, double pixels);
-    void SetScale(double pixels);
     const std::optional<BarcodeDrawing>& Drawing() const { return drawing; }
 
   protected:

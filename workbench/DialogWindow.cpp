@@ -1,13 +1,10 @@
 #include "workbench/DialogWindow.h"
 
 #include <QCloseEvent>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QResizeEvent>
-#include <QScreen>
-#include <QScrollBar>
 #include <algorithm>
-#include <utility>
 
 #include "workbench/Text.h"
 
@@ -19,71 +16,33 @@ using host::WidgetPlace;
 
 namespace {
 
-/** What a window can have of a screen, with room for the frame that a window manager adds. */
-QSize RoomOn(const QScreen& screen) {
-    constexpr QSize kFrame(16, 48);
-    return screen.availableSize() - kFrame;
+// In pixels
+constexpr int kMargin = 16;
+constexpr int kGroupSpacing = 16;
+constexpr int kColumnSpacing = 12;
+constexpr int kRowSpacing = 8;
+
+bool TakesRoom(const ShownWidget& widget) {
+    return widget.GetKind() == WidgetKind::kDescription;
 }
 
-QRect RectOf(const LayoutBox& box) {
-    return {box.left, box.top, box.width, box.height};
-}
-
-/** What a view needs at least. */
-LayoutSize NeededBy(const QWidget& view) {
-    const QSize size = view.sizeHint().expandedTo(view.minimumSize());
-    return {size.width(), size.height()};
-}
-
-LayoutGroup MeasuresOf(const QGroupBox* frame) {
-    if (!frame) return {};
-    const QMargins margins = frame->contentsMargins();
-    return {.isFramed = true,
-            .left = margins.left(),
-            .top = margins.top(),
-            .right = margins.right(),
-            .bottom = margins.bottom(),
-            .minimumWidth = frame->minimumSizeHint().width()};
+bool FillsItsColumn(const ShownWidget& widget) {
+    return widget.GetKind() != WidgetKind::kCheckBox && widget.GetKind() != WidgetKind::kLabel;
 }
 
 }  // namespace
 
-DialogWindow::DialogWindow(host::ShownDialog& shown, QSettings& userSettings,
-                           std::function<void(const QString&)> cellsPasted, QWidget* parent)
-    : QDialog(parent),
-      dialog(&shown),
-      settings(userSettings),
-      resource(shown.GetResourceID()),
-      hooks{.used = [this] { SetStale(true); },
-            .pressed =
-                [this](const ShownWidget& button) {
-                    // What it does is to make the result anew.
-                    if (dialog != nullptr && &button == dialog->GetDefaultButton()) SetStale(false);
-                },
-            .said = [this](const QString& sentence) { notice->setText(sentence); },
-            .cellsPasted = std::move(cellsPasted)} {
+DialogWindow::DialogWindow(host::ShownDialog& shown, QSettings& userSettings, QWidget* parent)
+    : QDialog(parent), dialog(&shown), settings(userSettings), resource(shown.GetResourceID()) {
     setObjectName(QStringLiteral("dialog%1").arg(resource));
     setWindowTitle(TextFromHost(shown.GetTitle()));
     setModal(shown.GetType() == IDialog::kMovableModal);
-    notice = new QLabel(this);
-    notice->setObjectName(QStringLiteral("notice"));
-    notice->setTextFormat(Qt::PlainText);
-    notice->hide();
-    area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setWidget(new QWidget);
-    area->widget()->installEventFilter(this);
-    MakeFrames();
     MakeControls();
     NameControls();
+    Arrange();
     OrderTabs();
-    Fit();
-    resize(minimumSize());
     shown.SetListener(this);
     restoreGeometry(settings.value(PlaceKey()).toByteArray());
-    KeepOnScreen();
 }
 
 DialogWindow::~DialogWindow() {
@@ -130,27 +89,11 @@ Control* DialogWindow::ControlOf(const ShownWidget* widget) const {
     return found == controls.end() ? nullptr : found->second.get();
 }
 
-void DialogWindow::MakeFrames() {
-    for (int32 group = 0; group < dialog->CountGroups(); ++group) {
-        const QString title = TextFromHost(dialog->GetGroupTitle(group));
-        frames.push_back(title.isEmpty() ? nullptr : new QGroupBox(title, area->widget()));
-        if (frames.back()) frames.back()->installEventFilter(this);
-    }
-}
-
-QWidget* DialogWindow::ParentFor(const ShownWidget& widget) {
-    const int32 group = widget.GetPlace().group;
-    if (group == WidgetPlace::kButtonRow) return this;
-    QWidget* const frame = frames[static_cast<std::size_t>(group)];
-    return frame ? frame : area->widget();
-}
-
 void DialogWindow::MakeControls() {
     for (int32 i = 0; i < dialog->CountWidgets(); ++i) {
         ShownWidget* const shown = dialog->GetWidget(i);
         if (!shown->IsVisible()) continue;
-        controls.emplace_back(shown,
-                              MakeControl(*shown, ParentFor(*shown), hooks, RunningLocale()));
+        controls.emplace_back(shown, MakeControl(*shown, this));
         controls.back().second->View()->setObjectName(
             QStringLiteral("widget%1").arg(shown->GetID(), 0, 16));
     }
@@ -167,91 +110,72 @@ void DialogWindow::NameControls() {
         if (!labelled) continue;
         static_cast<QLabel*>(control->View())->setBuddy(labelled->View());
         labelled->View()->setAccessibleName(SpokenText(caption));
-        if (QWidget* const inner = labelled->View()->focusProxy())
-            inner->setAccessibleName(SpokenText(caption));
     }
 }
 
-DialogLayout DialogWindow::LayOutFor(QSize size) const {
-    std::vector<LayoutGroup> groups;
-    groups.reserve(frames.size());
-    for (const QGroupBox* const frame : frames) groups.push_back(MeasuresOf(frame));
-    std::vector<LayoutWidget> widgets;
-    widgets.reserve(controls.size());
-    for (const auto& [shown, control] : controls)
-        widgets.push_back({shown->GetKind(), shown->GetPlace(), NeededBy(*control->View()),
-                           shown == dialog->GetDefaultButton()});
-    return LayOut(groups, widgets, {size.width(), size.height()});
-}
-
-/** Where something can be typed, what is said of it has a line below all else. */
-int DialogWindow::NoticeHeight() const {
-    const bool hasBoxes = std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
-        return pair.first->GetKind() == WidgetKind::kEditBox;
-    });
-    return hasBoxes ? 3 * notice->fontMetrics().height() / 2 : 0;
-}
-
-void DialogWindow::Fit() {
-    if (!dialog) return;
-    LayoutSize needed = LayOutFor({}).size;
-    const int mostHigh = RoomOn(*screen()).height() - NoticeHeight();
-    const bool isScrolled = needed.height > mostHigh;
-    if (isScrolled) {
-        needed = {.width = needed.width + area->verticalScrollBar()->sizeHint().width(),
-                  .height = mostHigh};
-    }
-    const bool isSizable =
-        isScrolled || std::any_of(controls.begin(), controls.end(), [](const auto& pair) {
-            return TakesHeight(pair.first->GetKind());
-        });
-    setMinimumSize(needed.width, needed.height + NoticeHeight());
-    if (!isSizable) setMaximumSize(minimumSize());
-    setSizeGripEnabled(isSizable);
-    Arrange();
-}
-
-/** What does not fit on a screen scrolls; what is done with a dialog stays in sight. */
 void DialogWindow::Arrange() {
-    if (!dialog) return;
-    const int noticeHeight = NoticeHeight();
-    const DialogLayout layout = LayOutFor(size() - QSize(0, noticeHeight));
-    const int hidden = layout.size.height + noticeHeight - height();
-    notice->setVisible(noticeHeight > 0);
-    notice->setGeometry(noticeHeight / 2, height() - noticeHeight, width() - noticeHeight,
-                        noticeHeight);
-    for (std::size_t i = 0; i < frames.size(); ++i)
-        if (frames[i]) frames[i]->setGeometry(RectOf(layout.groups[i]));
-    int bodyHeight = layout.size.height;
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        QWidget* const view = controls[i].second->View();
-        const QWidget* const parent = view->parentWidget();
-        QRect place = RectOf(layout.widgets[i]);
-        if (parent == this) {
-            bodyHeight = std::min(bodyHeight, place.top());
-            place.translate(0, -hidden);
-        } else if (parent != area->widget()) {
-            place.translate(-parent->pos());
-        }
-        view->setGeometry(place);
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kGroupSpacing);
+    for (int32 group = 0; group < dialog->CountGroups(); ++group)
+        column->addLayout(ArrangeGroup(group));
+    column->addLayout(ArrangeButtons());
+    AlignColumns();
+    const bool isSizable = std::any_of(controls.begin(), controls.end(),
+                                       [](const auto& pair) { return TakesRoom(*pair.first); });
+    column->setSizeConstraint(isSizable ? QLayout::SetMinimumSize : QLayout::SetFixedSize);
+    setSizeGripEnabled(isSizable);
+}
+
+QLayout* DialogWindow::ArrangeGroup(int32 group) {
+    auto* const grid = new QGridLayout;
+    grids.push_back(grid);
+    grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(kColumnSpacing);
+    grid->setVerticalSpacing(kRowSpacing);
+    for (const auto& [shown, control] : controls) {
+        const WidgetPlace place = shown->GetPlace();
+        if (place.group != group) continue;
+        const Qt::Alignment alignment =
+            FillsItsColumn(*shown) ? Qt::Alignment() : Qt::AlignLeft | Qt::AlignVCenter;
+        grid->addWidget(control->View(), place.row, place.column, 1, place.spansRow ? 2 : 1,
+                        alignment);
+        if (TakesRoom(*shown)) grid->setRowStretch(place.row, 1);
     }
-    area->widget()->resize(layout.size.width, bodyHeight);
-    area->setGeometry(0, 0, width(), bodyHeight - hidden);
+    const QString title = TextFromHost(dialog->GetGroupTitle(group));
+    if (title.isEmpty()) return grid;
+    auto* const frame = new QGroupBox(title, this);
+    frame->setLayout(grid);
+    grid->setContentsMargins(kColumnSpacing, kRowSpacing, kColumnSpacing, kColumnSpacing);
+    auto* const framed = new QVBoxLayout;
+    framed->addWidget(frame);
+    return framed;
 }
 
-bool DialogWindow::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest) Fit();
-    return QDialog::event(event);
+QLayout* DialogWindow::ArrangeButtons() {
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(kRowSpacing);
+    bool isStretched = false;
+    for (const auto& [shown, control] : controls) {
+        if (shown->GetPlace().group != WidgetPlace::kButtonRow) continue;
+        // Buttons for more stand on the left, the one that does it and those behind on the right.
+        const bool isFirstOnTheRight = !isStretched && shown == dialog->GetDefaultButton();
+        if (isFirstOnTheRight) row->addStretch();
+        isStretched = isStretched || isFirstOnTheRight;
+        row->addWidget(control->View());
+    }
+    return row;
 }
 
-bool DialogWindow::eventFilter(QObject* frame, QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest) Fit();
-    return QDialog::eventFilter(frame, event);
-}
-
-void DialogWindow::resizeEvent(QResizeEvent* event) {
-    QDialog::resizeEvent(event);
-    Arrange();
+/** Labels of all groups have one width, so that what they name begins at one line. */
+void DialogWindow::AlignColumns() {
+    int width = 0;
+    for (const auto& [shown, control] : controls)
+        if (shown->GetKind() == WidgetKind::kLabel && !shown->GetPlace().spansRow)
+            width = std::max(width, control->View()->sizeHint().width());
+    for (QGridLayout* const grid : grids)
+        if (grid->itemAtPosition(0, 1) && !grid->itemAtPosition(0, 1)->isEmpty())
+            grid->setColumnMinimumWidth(0, width);
 }
 
 void DialogWindow::OrderTabs() {
@@ -260,67 +184,10 @@ void DialogWindow::OrderTabs() {
         if (last) setTabOrder(last, control->View());
         last = control->View();
     }
-    FocusFirst();
-}
-
-void DialogWindow::FocusFirst() {
-    const auto find = [this](auto test) {
-        const auto found = std::find_if(controls.begin(), controls.end(), test);
-        return found == controls.end() ? nullptr : found->second->View();
-    };
-    QWidget* first =
-        find([](const auto& pair) { return pair.first->GetKind() == WidgetKind::kEditBox; });
-    if (first == nullptr) {
-        first = find(
-            [](const auto& pair) { return pair.second->View()->focusPolicy() != Qt::NoFocus; });
-    }
-    if (first != nullptr) first->setFocus();
-}
-
-void DialogWindow::SetStale(bool isStale) {
-    for (const auto& [shown, control] : controls) control->SetStale(isStale);
-}
-
-/** A window that was placed on a larger screen comes back to this one, and a new one fits it. */
-void DialogWindow::KeepOnScreen() {
-    constexpr QSize kUsualSize(660, 620);
-    const QRect room = screen()->availableGeometry();
-    const bool isPlaced = settings.contains(PlaceKey());
-    if (isSizeGripEnabled()) resize((isPlaced ? size() : kUsualSize).boundedTo(RoomOn(*screen())));
-    if (isPlaced && !room.contains(geometry())) {
-        move(std::clamp(x(), room.left(), std::max(room.left(), room.right() - width())),
-             std::clamp(y(), room.top(), std::max(room.top(), room.bottom() - height())));
-    }
-}
-
-QVariantMap DialogWindow::Content() const {
-    QVariantMap content;
-    for (const auto& [shown, control] : controls) {
-        const QString id = QString::number(shown->GetID());
-        switch (shown->GetKind()) {
-            case WidgetKind::kEditBox: content[id] = TextFromHost(shown->GetText()); break;
-            case WidgetKind::kCheckBox: content[id] = shown->GetState() != 0; break;
-            case WidgetKind::kPopUp: content[id] = shown->GetSelected(); break;
-            case WidgetKind::kResultBox: content[id] = control->FreshResult(); break;
-            default: break;
-        }
-    }
-    return content;
-}
-
-void DialogWindow::SetContent(const QVariantMap& content) {
-    // In tab order: a type brings its options along.
-    for (const auto& [shown, control] : controls) {
-        const QVariant value = content.value(QString::number(shown->GetID()));
-        if (!value.isValid()) continue;
-        switch (shown->GetKind()) {
-            case WidgetKind::kEditBox: shown->Type(TextForHost(value.toString())); break;
-            case WidgetKind::kCheckBox: shown->Tick(value.toBool()); break;
-            case WidgetKind::kPopUp: shown->Choose(value.toInt()); break;
-            case WidgetKind::kResultBox: control->ShowResult(value.toString()); break;
-            default: break;
-        }
-    }
+    const auto first = std::find_if(controls.begin(), controls.end(), [](const auto& pair) {
+        return pair.second->View()->focusPolicy() != Qt::NoFocus;
+    });
+    if (first != controls.end()) first->second->View()->setFocus();
 }
 
 QString DialogWindow::PlaceKey() const {

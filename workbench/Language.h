@@ -1,27 +1,33 @@
 #pragma once
 
-#include <QLocale>
 #include <QString>
 
 namespace linewright {
 
-/** What the window says of its own, in all languages that it speaks; the plug-in's words come from
- *  the plug-in. */
-struct Phrase {
-    const char* enUS;
-    const char* deDE;
-    const char* frFR;
-    const char* jaJP;
+/** What the window says of its own; the plug-in's words come from the plug-in. */
+enum class Phrase {
+    kFileMenu,
+    kQuit,
+    kLanguageMenu,
+    kNoPlugIn,
+    // The page
+    kPageType,
+    kPageData,
+    kPageCheckDigit,
+    kPageRatio,
+    kPageDrawing,
+    kPageZoom,
+    kPageCopy,
+    kPageExport,
+    kScans,
+    kScansAs,
+    kDoesNotScan,
+    kNoScanner,
+    kCannotWrite,
 };
 
 /** The phrase in a locale such as "deDE"; in English where there is no translation. */
-QString Say(const Phrase& phrase, const QString& locale);
-
-/** The locale as Qt knows it. */
-QLocale QtLocale(const QString& locale);
-
-/** A sentence that the rooms below leave bare: with a capital letter in front and a full stop. */
-QString AsSentence(const QString& text, const QString& locale);
+QString Say(Phrase phrase, const QString& locale);
 
 /** A number as it is written in a locale. */
 QString NumberText(double number, int decimals, const QString& locale);

@@ -2,9 +2,6 @@
 
 #include <QRegularExpression>
 
-#include "LocaleSetting.h"
-#include "host/runtime/Host.h"
-
 namespace linewright {
 
 QString TextFromHost(const PMString& text) {
@@ -20,10 +17,6 @@ PMString TextForHost(const QString& text) {
     PMString result;
     for (const uint character : text.toUcs4()) result.AppendW(character);
     return result;
-}
-
-QString RunningLocale() {
-    return QString::fromUtf8(host::GetLocaleName(WLocaleSetting::GetLocale()));
 }
 
 QString SpokenText(const QString& caption) {

@@ -11,9 +11,6 @@ namespace linewright {
 QString TextFromHost(const PMString& text);
 PMString TextForHost(const QString& text);
 
-/** The locale that the host runs in, such as "deDE". */
-QString RunningLocale();
-
 /** A caption as it is read aloud: without its mnemonic and the colon at its end. */
 QString SpokenText(const QString& caption);
 

@@ -1,41 +1,19 @@
 #pragma once
 
-#include <QPointer>
 #include <QSettings>
-#include <QVariantMap>
 #include <QWidget>
 #include <functional>
-#include <utility>
-#include <vector>
 
-#include "PMTypes.h"
 #include "host/runtime/FrontEnd.h"
-#include "workbench/DialogWindow.h"
 
 namespace linewright {
 
 /** Shows what the plug-in has to show in windows. */
 class WindowFrontEnd final : public host::FrontEnd {
   public:
-    /** Settings and window outlive this; the window is where alerts and dialogs belong.
-     *  `cellsPasted` hears of several cells of a spreadsheet. */
-    WindowFrontEnd(QSettings& userSettings, QWidget* mainWindow, std::function<void()> makeBeep,
-                   std::function<void(const QString&)> cellsPasted)
-        : settings(userSettings),
-          window(mainWindow),
-          beep(std::move(makeBeep)),
-          offerCells(std::move(cellsPasted)) {}
-
-    /** Has the plug-in do what an entry of its menus stands for. */
-    void Do(ActionID action);
-
-    /** A dialog that is open, to be opened again by a host that is started anew. */
-    struct OpenDialog {
-        ActionID action;
-        QVariantMap content;
-    };
-    std::vector<OpenDialog> OpenDialogs() const;
-    void OpenAgain(const std::vector<OpenDialog>& dialogs);
+    /** Settings and window outlive this; the window is where alerts and dialogs belong. */
+    WindowFrontEnd(QSettings& userSettings, QWidget* mainWindow, std::function<void()> makeBeep)
+        : settings(userSettings), window(mainWindow), beep(std::move(makeBeep)) {}
 
     void ShowAlert(host::AlertKind kind, const char* text) override;
     void Beep() override { beep(); }
@@ -48,10 +26,6 @@ class WindowFrontEnd final : public host::FrontEnd {
     QSettings& settings;
     QWidget* window;
     std::function<void()> beep;
-    std::function<void(const QString&)> offerCells;
-    /** What the plug-in is doing. */
-    ActionID action = 0;
-    QPointer<DialogWindow> lastOpened;
 };
 
 }  // namespace linewright

@@ -2,14 +2,11 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QStandardPaths>
 
 #include "words/Words.h"
 #include "workbench/Language.h"
-#include "workbench/MenuPhrases.h"
-#include "workbench/Text.h"
 
 namespace linewright {
 
@@ -34,22 +31,7 @@ QString DefaultFonts() {
                            QStringLiteral("/" LINEWRIGHT_FONT_FOLDER));
 }
 
-/** The command beside this program, with the options that this program was started with. */
-QStringList CommandFor(const WorkbenchOptions& options) {
-    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/linewright");
-    QStringList command{QFileInfo::exists(beside) ? beside : QStringLiteral("linewright")};
-    const auto add = [&command](const char* option, const QString& value) {
-        if (!value.isEmpty()) command << QLatin1String(option) << value;
-    };
-    add("--config-dir", options.roamingFolder);
-    add("--app-dir", options.appFolder);
-    add("--plugin", options.plugIn);
-    add("--fonts", options.fonts);
-    return command;
-}
-
 WorkbenchOptions Completed(WorkbenchOptions options) {
-    if (options.command.isEmpty()) options.command = CommandFor(options);
     if (options.plugIn.isEmpty()) options.plugIn = DefaultPlugIn();
     if (options.roamingFolder.isEmpty()) options.roamingFolder = DefaultRoamingFolder();
     if (options.appFolder.isEmpty()) options.appFolder = QCoreApplication::applicationDirPath();
@@ -63,11 +45,8 @@ WorkbenchOptions Completed(WorkbenchOptions options) {
 Workbench::Workbench(const WorkbenchOptions& wanted)
     : options(Completed(wanted)),
       settings(options.roamingFolder + QStringLiteral("/Workbench.ini"), QSettings::IniFormat),
-      window(
-          settings, [this](const QString& locale) { SwitchLanguage(locale); },
-          [this](ActionID action) { frontEnd.Do(action); }),
-      frontEnd(settings, &window, options.beep,
-               [this](const QString& cells) { window.OfferCells(cells); }) {}
+      window(settings, [this](const QString& locale) { SwitchLanguage(locale); }),
+      frontEnd(settings, &window, options.beep) {}
 
 Workbench::~Workbench() {
     StopHost();
@@ -80,19 +59,14 @@ bool Workbench::Start() {
 }
 
 void Workbench::SwitchLanguage(const QString& locale) {
-    const QString before = RunningLocale();
-    if (locale == before || QApplication::activeModalWidget()) return;
-    const std::vector<WindowFrontEnd::OpenDialog> dialogs = frontEnd.OpenDialogs();
+    if (QApplication::activeModalWidget()) return;
     StopHost();
     if (StartHost(locale)) {
-        settings.setValue(QLatin1String(kLanguageKey), locale);
+        settings.setValue(kLanguageKey, locale);
     } else {
-        const QString reason = Error();
-        StartHost(before);
         QMessageBox::critical(&window, window.windowTitle(),
-                              Say(phrases::kNoPlugIn, locale) + QLatin1String(":\n") + reason);
+                              Say(Phrase::kNoPlugIn, locale) + QLatin1String(":\n") + Error());
     }
-    if (service) frontEnd.OpenAgain(dialogs);
 }
 
 bool Workbench::StartHost(const QString& locale) try {
@@ -102,7 +76,7 @@ bool Workbench::StartHost(const QString& locale) try {
                                 .appFolder = options.appFolder.toStdString(),
                                 .locale = locale.toStdString(),
                                 .frontEnd = &frontEnd});
-    window.ShowPlugIn(*service, {options.fonts.toStdString(), options.command});
+    window.ShowPlugIn(*service, options.fonts);
     return true;
 } catch (const RequestFailure& failure) {
     error = QString::fromStdString(Sentence(failure, LanguageOf(locale.toStdString())));

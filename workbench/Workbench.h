@@ -2,7 +2,6 @@
 
 #include <QSettings>
 #include <QString>
-#include <QStringList>
 #include <functional>
 #include <optional>
 
@@ -20,7 +19,6 @@ struct WorkbenchOptions {
     QString fonts;   // the folder of the barcode fonts
     QString locale;  // rather than the one used last, or else the user's
     std::function<void()> beep;
-    QStringList command{};  // that does the same in a shell
 };
 
 /** The desktop program: the host with the plug-in, and the window to use them in. */
@@ -36,11 +34,9 @@ class Workbench final {
     bool Start();
     QString Error() const { return error; }
     MainWindow& Window() { return window; }
-    /** The plug-in, once it has started. */
-    Service& PlugIn() { return *service; }
 
     /** Starts the host anew with another language, which is remembered. Dialogs that are open are
-     *  opened again with what they held; nothing happens while a modal one is. */
+     *  closed; nothing happens while a modal one is. */
     void SwitchLanguage(const QString& locale);
 
   private:

@@ -3,7 +3,6 @@
 #include <new>
 
 #include "host/runtime/Dialog.h"
-#include "host/runtime/FourCharCode.h"
 #include "host/runtime/Running.h"
 
 namespace host {

@@ -30,11 +30,7 @@ std::runtime_error LoadError(const fs::path& path, const std::string& what,
 void Library::Load(const fs::path& path, const std::string& what) {
     fHandle = LoadLibraryExW(fs::absolute(path).make_preferred().c_str(), nullptr,
                              LOAD_WITH_ALTERED_SEARCH_PATH);
-    if (fHandle) return;
-    const DWORD error = GetLastError();
-    throw LoadError(
-        path, what,
-        exists(path) ? "Windows error " + std::to_string(error) : "the file is missing");
+    if (!fHandle) throw LoadError(path, what, "Windows error " + std::to_string(GetLastError()));
 }
 
 void Library::Unload() {

@@ -8,7 +8,6 @@
 
 #include "CreateObject.h"
 #include "FileUtils.h"
-#include "IPanelControlData.h"
 #include "host/runtime/Dialog.h"
 #include "host/runtime/Faults.h"
 #include "host/runtime/Paths.h"
@@ -82,10 +81,7 @@ void Running::Start(const Settings& settings) {
     const PlugIn& loaded = FindPlugIn(library, plugIn);
     const Definitions definitions(resources);
     classes = ClassTable(definitions, loaded);
-    views = ViewTable(definitions, [this](ClassID id) {
-        const BossClass* const found = classes.Find(id);
-        return found && found->Has(IID_IPANELCONTROLDATA);
-    });
+    views = ViewTable(definitions, classes);
     const SettingsLock lock;
     RunServices();
 }

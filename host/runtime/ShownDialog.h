@@ -19,20 +19,6 @@ enum class WidgetKind {
     kButton,
 };
 
-/** A kind as resources name it. */
-constexpr const char* NameOf(WidgetKind kind) {
-    switch (kind) {
-        case WidgetKind::kLabel: return "label";
-        case WidgetKind::kEditBox: return "editBox";
-        case WidgetKind::kResultBox: return "resultBox";
-        case WidgetKind::kDescription: return "description";
-        case WidgetKind::kCheckBox: return "checkBox";
-        case WidgetKind::kPopUp: return "popUp";
-        case WidgetKind::kButton: return "button";
-    }
-    return "";
-}
-
 /** Where a widget stands. A dialog is a column of groups and, at its foot, a row of buttons; a
  * group is a grid of two columns, labels in the first and what they name in the second. */
 struct WidgetPlace {

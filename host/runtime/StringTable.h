@@ -24,7 +24,6 @@ class StringTable {
 
     /** The text of a key; nullptr when it has none. */
     const std::u32string* Find(const std::u32string& key) const;
-    const std::unordered_map<std::u32string, std::u32string>& Texts() const { return fTexts; }
 
   private:
     std::unordered_map<std::u32string, std::u32string> fTexts;

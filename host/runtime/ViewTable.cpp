@@ -1,17 +1,21 @@
 #include "host/runtime/ViewTable.h"
 
 #include <algorithm>
-#include <iterator>
+#include <map>
 
+#include "IPanelControlData.h"
+#include "host/runtime/ClassTable.h"
 #include "host/runtime/ResourceFile.h"
 
 namespace host {
 
 namespace {
 
-constexpr WidgetKind kKinds[] = {
-    WidgetKind::kLabel,    WidgetKind::kEditBox, WidgetKind::kResultBox, WidgetKind::kDescription,
-    WidgetKind::kCheckBox, WidgetKind::kPopUp,   WidgetKind::kButton,
+const std::map<std::string, WidgetKind, std::less<>> kKinds{
+    {"label", WidgetKind::kLabel},         {"editBox", WidgetKind::kEditBox},
+    {"resultBox", WidgetKind::kResultBox}, {"description", WidgetKind::kDescription},
+    {"checkBox", WidgetKind::kCheckBox},   {"popUp", WidgetKind::kPopUp},
+    {"button", WidgetKind::kButton},
 };
 
 const toml::array& GetList(const ResourceFile& file, const toml::table& table,
@@ -36,12 +40,9 @@ WidgetResource ReadWidget(const ResourceFile& file, const toml::table& table, Wi
         table, {"kind", "id", "text", "items", "maxLength", "maxCharacter", "visible", "column"});
     WidgetResource widget;
     widget.place = place;
-    const std::string kindName = file.GetText(table, "kind");
-    const auto* const kind =
-        std::find_if(std::begin(kKinds), std::end(kKinds),
-                     [&](WidgetKind each) { return kindName == NameOf(each); });
-    if (kind == std::end(kKinds)) file.Fail(file.Get(table, "kind"), "no such kind of widget");
-    widget.kind = *kind;
+    const auto kind = kKinds.find(file.GetText(table, "kind"));
+    if (kind == kKinds.end()) file.Fail(file.Get(table, "kind"), "no such kind of widget");
+    widget.kind = kind->second;
     if (table.contains("id")) widget.id = file.GetID(table, "id");
     if (table.contains("text")) widget.text = file.GetText(table, "text");
     if (table.contains("items")) widget.items = ReadItems(file, table);
@@ -115,13 +116,14 @@ void CheckWidgets(const ResourceFile& file, const toml::table& table,
 }
 
 DialogResource ReadDialog(const ResourceFile& file, const toml::table& table,
-                          const IsDialogClass& isDialogClass) {
+                          const ClassTable& classes) {
     file.ExpectOnly(table, {"id", "class", "title", "default", "cancel", "buttons", "group"});
     DialogResource dialog;
     dialog.plugin = file.GetID(file.Root(), "plugin");
     dialog.id = static_cast<RsrcID>(file.GetID(table, "id"));
     dialog.classID = file.GetID(table, "class");
-    if (!isDialogClass(dialog.classID))
+    const BossClass* const bossClass = classes.Find(dialog.classID);
+    if (!bossClass || !bossClass->Has(IID_IPANELCONTROLDATA))
         file.Fail(file.Get(table, "class"), "\"class\" is no class based on kDialogBoss");
     dialog.title = file.GetText(table, "title");
     ReadGroups(file, table, dialog);
@@ -144,11 +146,11 @@ void ReadMenu(const ResourceFile& file, const toml::table& table,
 
 }  // namespace
 
-ViewTable::ViewTable(const Definitions& definitions, const IsDialogClass& isDialogClass) {
+ViewTable::ViewTable(const Definitions& definitions, const ClassTable& classes) {
     for (const ResourceFile& file : definitions.files) {
         if (file.Root().contains("dialog")) {
             for (const toml::table* table : file.GetTables(file.Root(), "dialog")) {
-                DialogResource dialog = ReadDialog(file, *table, isDialogClass);
+                DialogResource dialog = ReadDialog(file, *table, classes);
                 if (Find(dialog.plugin, dialog.id))
                     file.Fail(*table, "dialog " + std::to_string(dialog.id) + " is there twice");
                 fDialogs.push_back(std::move(dialog));

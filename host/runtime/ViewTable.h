@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -8,6 +7,7 @@
 
 namespace host {
 
+class ClassTable;
 struct Definitions;
 
 /** A widget as a resource describes it. Texts are keys. */
@@ -39,19 +39,15 @@ struct MenuResource {
     ActionID action = 0;
 };
 
-/** Whether a class is one of dialogs. */
-using IsDialogClass = std::function<bool(ClassID)>;
-
 /** What the plug-in's resource definitions show: dialogs and menus. */
 class ViewTable {
   public:
     ViewTable() = default;
     /** Throws std::runtime_error saying what does not fit together and where. */
-    ViewTable(const Definitions& definitions, const IsDialogClass& isDialogClass);
+    ViewTable(const Definitions& definitions, const ClassTable& classes);
 
     /** nullptr when there is none. */
     const DialogResource* Find(PluginID plugin, RsrcID id) const;
-    const std::vector<DialogResource>& Dialogs() const { return fDialogs; }
     const std::vector<MenuResource>& MenuItems() const { return fMenuItems; }
 
   private:

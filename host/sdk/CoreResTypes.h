@@ -5,6 +5,6 @@
 // Widgets that mean the same in every dialog.
 
 /** No widget in particular; from a validation: nothing is wrong. */
-const WidgetID kDefaultWidgetId(0);
-const WidgetID kOKButtonWidgetID(0x0F01);
-const WidgetID kCancelButton_WidgetID(0x0F02);  // NOLINT(readability-identifier-naming)
+constexpr WidgetID kDefaultWidgetId = 0;
+constexpr WidgetID kOKButtonWidgetID = 0x0F01;
+constexpr WidgetID kCancelButton_WidgetID = 0x0F02;  // NOLINT(readability-identifier-naming)

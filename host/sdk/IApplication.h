@@ -4,13 +4,13 @@
 
 class IDialogMgr;
 
+constexpr PMIID IID_IAPPLICATION = 0x0F06;
+
 /** The running application. */
 class IApplication : public IPMUnknown {
   public:
-    enum { kDefaultIID = 0x0F06 };
+    enum { kDefaultIID = IID_IAPPLICATION };
 
     /** A reference to the dialog manager, or nullptr. The caller releases it. */
     virtual IDialogMgr* QueryDialogMgr() const = 0;
 };
-
-const PMIID IID_IAPPLICATION(IApplication::kDefaultIID);

@@ -3,4 +3,4 @@
 #include "PMTypes.h"
 
 /** The protocol by which presses of a button are told. */
-const PMIID IID_IBOOLEANCONTROLDATA(0x0F11);
+constexpr PMIID IID_IBOOLEANCONTROLDATA = 0x0F11;

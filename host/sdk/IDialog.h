@@ -2,10 +2,12 @@
 
 #include "IPMUnknown.h"
 
+constexpr PMIID IID_IDIALOG = 0x0F07;
+
 /** One dialog. Main thread only. */
 class IDialog : public IPMUnknown {
   public:
-    enum { kDefaultIID = 0x0F07 };
+    enum { kDefaultIID = IID_IDIALOG };
 
     /** Modal ones close on OK or Cancel; a modeless one stays open after OK. */
     enum DialogType { kMovableModal = 1, kModeless = 2 };
@@ -13,5 +15,3 @@ class IDialog : public IPMUnknown {
     /** Shows the dialog; a modal one returns when it is closed. */
     virtual void Open() = 0;
 };
-
-const PMIID IID_IDIALOG(IDialog::kDefaultIID);

@@ -6,10 +6,12 @@
 
 class IActiveContext;
 
+constexpr PMIID IID_IDIALOGCONTROLLER = 0x0F0A;
+
 /** Fills the fields of a dialog and takes over what they hold. Main thread only. */
 class IDialogController : public IPMUnknown {
   public:
-    enum { kDefaultIID = 0x0F0A };
+    enum { kDefaultIID = IID_IDIALOGCONTROLLER };
 
     /** Called when the dialog opens, before it is shown and observed. */
     virtual void InitializeDialogFields(IActiveContext* context) = 0;
@@ -27,5 +29,3 @@ class IDialogController : public IPMUnknown {
     virtual void SetTriStateControlData(const WidgetID& widgetID,
                                         ITriStateControlData::TriState state) = 0;
 };
-
-const PMIID IID_IDIALOGCONTROLLER(IDialogController::kDefaultIID);

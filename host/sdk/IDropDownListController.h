@@ -2,10 +2,12 @@
 
 #include "IPMUnknown.h"
 
+constexpr PMIID IID_IDROPDOWNLISTCONTROLLER = 0x0F13;
+
 /** Which item of a pop-up list is chosen, and which can be. */
 class IDropDownListController : public IPMUnknown {
   public:
-    enum { kDefaultIID = 0x0F13 };
+    enum { kDefaultIID = IID_IDROPDOWNLISTCONTROLLER };
 
     /** The index of the item chosen; -1 for none. */
     virtual int32 GetSelected() const = 0;
@@ -14,5 +16,3 @@ class IDropDownListController : public IPMUnknown {
     /** Whether the user can choose an item. One that is chosen already stays so. */
     virtual void EnableItem(int32 index, bool16 enable = kTrue) = 0;
 };
-
-const PMIID IID_IDROPDOWNLISTCONTROLLER(IDropDownListController::kDefaultIID);

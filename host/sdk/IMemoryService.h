@@ -2,11 +2,13 @@
 
 #include "IPMUnknown.h"
 
+constexpr PMIID IID_IMEMORYSERVICE = 0xFA500;
+
 /** The host's memory service, an interface of the session. All blocks that pass between plug-ins
  *  come from it and go back to it. Main thread only. */
 class IMemoryService : public IPMUnknown {
   public:
-    enum { kDefaultIID = 0xFA500 };
+    enum { kDefaultIID = IID_IMEMORYSERVICE };
 
     /** A new block, valid also for size 0; nullptr when there is no memory. */
     virtual void* Allocate(uint32 size) = 0;
@@ -19,5 +21,3 @@ class IMemoryService : public IPMUnknown {
     /** The size a block was allocated with or last resized to; 0 for nullptr. */
     virtual uint32 GetSize(const void* block) const = 0;
 };
-
-const PMIID IID_IMEMORYSERVICE(IMemoryService::kDefaultIID);

@@ -4,10 +4,12 @@
 
 class ISubject;
 
+constexpr PMIID IID_IOBSERVER = 0x0F0B;
+
 /** Hears of changes of the subjects that it is attached to. Main thread only. */
 class IObserver : public IPMUnknown {
   public:
-    enum { kDefaultIID = 0x0F0B };
+    enum { kDefaultIID = IID_IOBSERVER };
 
     /** Attaches to what it wants to hear of, and detaches from all of it again. */
     virtual void AutoAttach() = 0;
@@ -16,5 +18,3 @@ class IObserver : public IPMUnknown {
     virtual void Update(const ClassID& change, ISubject* subject, const PMIID& protocol,
                         void* changedBy) = 0;
 };
-
-const PMIID IID_IOBSERVER(IObserver::kDefaultIID);

@@ -10,7 +10,7 @@
  */
 class IPMUnknown {
   public:
-    enum { kDefaultIID = 0 };
+    enum { kDefaultIID = IID_IPMUNKNOWN };
 
     virtual IPMUnknown* QueryInterface(PMIID interfaceID) const = 0;
     virtual void AddRef() const = 0;

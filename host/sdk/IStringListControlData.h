@@ -3,10 +3,12 @@
 #include "IPMUnknown.h"
 #include "PMString.h"
 
+constexpr PMIID IID_ISTRINGLISTCONTROLDATA = 0x0F12;
+
 /** The items of a list. */
 class IStringListControlData : public IPMUnknown {
   public:
-    enum { kDefaultIID = 0x0F12 };
+    enum { kDefaultIID = IID_ISTRINGLISTCONTROLDATA };
     enum Position { kEnd = -2 };
 
     /** Removes all items, and with them the selection. */
@@ -17,5 +19,3 @@ class IStringListControlData : public IPMUnknown {
     /** The text of an item; empty where there is none. */
     virtual PMString GetString(int32 index) const = 0;
 };
-
-const PMIID IID_ISTRINGLISTCONTROLDATA(IStringListControlData::kDefaultIID);

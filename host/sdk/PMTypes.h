@@ -11,4 +11,4 @@ using PluginID = uint32;
 using ActionID = uint32;
 using WidgetID = uint32;
 
-const PMIID IID_IPMUNKNOWN(0);
+constexpr PMIID IID_IPMUNKNOWN = 0;

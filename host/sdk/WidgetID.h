@@ -5,10 +5,10 @@
 // What observers of a widget are told.
 
 /** A button was pressed, or a check box ticked. */
-const ClassID kTrueStateMessage(0x0F01);
+constexpr ClassID kTrueStateMessage = 0x0F01;
 /** A check box was cleared. */
-const ClassID kFalseStateMessage(0x0F02);
+constexpr ClassID kFalseStateMessage = 0x0F02;
 /** Another item of a pop-up list was chosen. */
-const ClassID kPopupChangeStateMessage(0x0F03);
+constexpr ClassID kPopupChangeStateMessage = 0x0F03;
 /** The text of an edit box changed. */
-const ClassID kTextChangeStateMessage(0x0F04);
+constexpr ClassID kTextChangeStateMessage = 0x0F04;

@@ -43,12 +43,12 @@ struct Row {
 
 constexpr std::size_t kNoLimit = std::size_t{1} << 30;
 
-/** Appends the rows that can be read. */
-void ReadInto(std::vector<Row>& rows, std::string_view text, char delimiter = ',',
-              std::size_t piece = kNoLimit, std::size_t maxRecord = kNoLimit) {
+std::vector<Row> Read(std::string_view text, char delimiter = ',', std::size_t piece = kNoLimit,
+                      std::size_t maxRecord = kNoLimit) {
     PieceSource source(text, piece);
     RecordReader reader(source, maxRecord);
     reader.SetDelimiter(delimiter);
+    std::vector<Row> rows;
     while (reader.Next()) {
         const Record& record = reader.Current();
         rows.push_back({std::string(record.text),
@@ -57,11 +57,6 @@ void ReadInto(std::vector<Row>& rows, std::string_view text, char delimiter = ',
                         record.line,
                         record.IsBlank()});
     }
-}
-
-std::vector<Row> Read(std::string_view text, char delimiter = ',', std::size_t piece = kNoLimit) {
-    std::vector<Row> rows;
-    ReadInto(rows, text, delimiter, piece);
     return rows;
 }
 
@@ -75,19 +70,13 @@ std::vector<Values> Parse(std::string_view text, char delimiter = ',') {
     return rows;
 }
 
-template <class Work>
-std::string FailureIn(Work work) {
+std::string FailureOf(std::string_view text, std::size_t maxRecord = kNoLimit) {
     try {
-        work();
+        Read(text, ',', kNoLimit, maxRecord);
     } catch (const Failure& failure) {
         return failure.what();
     }
     return "";
-}
-
-std::string FailureOf(std::string_view text, std::size_t maxRecord = kNoLimit) {
-    std::vector<Row> rows;
-    return FailureIn([&] { ReadInto(rows, text, ',', kNoLimit, maxRecord); });
 }
 
 char DelimiterOf(std::string_view text) {
@@ -200,52 +189,6 @@ TEST(Csv, KeepsOneFieldMoreThanAHeaderMayHave) {
     const std::vector<Row> rows = Read(std::string(20'000, ',') + "\n");
     EXPECT_EQ(rows[0].fields.size(), kMaxColumns + 1);
     EXPECT_EQ(rows[0].text.size(), 20'000U);
-}
-
-/** What lines that were taken all at once hold one by one; there is nothing wrong with them. */
-void ExpectLines(std::string_view lines, std::uint64_t line, const std::vector<Row>& rows,
-                 std::size_t& known) {
-    std::string joined;
-    while (joined.size() < lines.size()) {
-        ASSERT_LT(known, rows.size());
-        EXPECT_EQ(rows[known].line, line + CountLineEnds(joined));
-        joined += rows[known].text + rows[known].ending;
-        ++known;
-    }
-    EXPECT_EQ(joined, lines);
-}
-
-TEST(Csv, TakesLinesAtOnceAsOneByOne) {
-    std::mt19937 random(16);
-    const std::string_view letters = "ab,ab,ab,ab,\n\n\n\r\"\xC3\xA4";
-    std::size_t taken = 0;
-    for (int round = 0; round < 1'000; ++round) {
-        std::string text;
-        for (auto left = random() % 60; left > 0; --left)
-            text += letters[random() % letters.size()];
-        const std::size_t maxRecord = round % 8 == 0 ? 4 : kNoLimit;
-        const std::size_t piece = 1 + random() % 30;
-        std::vector<Row> rows;
-        const std::string failure = FailureIn([&] { ReadInto(rows, text, ',', piece, maxRecord); });
-        PieceSource source(text, piece);
-        RecordReader reader(source, maxRecord);
-        std::size_t known = 0;
-        const std::string found = FailureIn([&] {
-            while (reader.Next()) {
-                const std::uint64_t line = reader.Current().line;
-                ASSERT_LT(known, rows.size()) << text;
-                ASSERT_EQ(line, rows[known++].line) << text;
-                const std::uint64_t next = line + CountLineEnds(reader.Current().text) +
-                                           (reader.Current().ending.empty() ? 0 : 1);
-                const std::string_view lines = reader.TakeLines(random() % 60);
-                ExpectLines(lines, next, rows, known);
-                taken += lines.size();
-            }
-        });
-        ASSERT_EQ(found, failure) << text;
-        ASSERT_EQ(known, rows.size()) << text;
-    }
-    EXPECT_GT(taken, 300U);
 }
 
 TEST(Csv, FindsMarksAsWhoLooksByteByByte) {

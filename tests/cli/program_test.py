@@ -157,61 +157,35 @@ class ProgramTest(unittest.TestCase):
                        stdout=subprocess.DEVNULL)
         return prefix
 
-    def test_without_a_module_it_says_so_and_writes_nothing(self):
+    def test_without_what_draws_it_says_so_and_writes_nothing(self):
         prefix = self.install()
+        for module in prefix.rglob("Drawing.so"):
+            module.unlink()
         table = self.folder / "table.csv"
         table.write_text("type,data\nean8,1234567\n")
         result = self.folder / "result"
-        one = ["draw", "ean8", "1234567", "-o", str(result), "--format"]
-        rows = ["draw", str(table), "-o", str(self.folder / "result{line}"), "--format", "svg"]
-        proof = ["proof", str(table), "-o", str(result)]
-        batch = ["batch", str(table), "--verify", "-o"]
-        needs = {
-            "Drawing": ([*one, "svg"], [*one, "pdf"], rows, ["verify", "ean8", "1234567"],
-                        [*batch, str(result)], [*batch, "-"]),
-            "Pdf": ([*one, "pdf"], proof),
-            "Tiff": ([*one, "tiff"],),
-            "Scanners": ([*one, "svg", "--verify"], [*rows, "--verify"],
-                         ["verify", "ean8", "1234567"], proof, [*batch, str(result)],
-                         [*batch, "-"]),
-        }
-        purposes = {"Drawing": b"what draws barcodes and reads them back",
-                    "Pdf": b"what writes PDF files", "Tiff": b"what writes TIFF files",
-                    "Scanners": b"what reads barcodes"}
-        program = str(prefix / "bin" / "linewright")
-        for name, commands in needs.items():
-            (module,) = prefix.rglob(name + ".so")
-            module.rename(self.folder / "away")
-            for words in commands:
-                run = self.run_program(*words, program=program)
-                self.assertEqual((run.returncode, run.stdout), (2, b""), (name, words))
-                self.assertIn(purposes[name] + b" cannot be loaded", run.stderr)
-                self.assertIn(name.encode() + b".so", run.stderr)
-                self.assertEqual(list(self.folder.glob("result*")), [], (name, words))
-            (self.folder / "away").rename(module)
-        for module in prefix.rglob("lib*/linewright/[DPTS]*.so"):
-            module.unlink()
-        run = self.run_program("batch", str(table), "-o", str(result), program=program)
+        for words in (["draw", "ean8", "1234567", "-o", str(result), "--format", "svg"],
+                      ["verify", "ean8", "1234567"],
+                      ["proof", str(table), "-o", str(result)],
+                      ["batch", str(table), "-o", str(result), "--verify"],
+                      ["batch", str(table), "-o", "-", "--verify"]):
+            run = self.run_program(*words, program=str(prefix / "bin" / "linewright"))
+            self.assertEqual((run.returncode, run.stdout), (2, b""), words)
+            self.assertIn(b"what draws barcodes and reads them back cannot be loaded", run.stderr)
+            self.assertIn(b"Drawing.so", run.stderr)
+            self.assertFalse(result.exists(), words)
+        run = self.run_program("batch", str(table), "-o", str(result),
+                               program=str(prefix / "bin" / "linewright"))
         self.assertEqual(run.returncode, 0, run.stderr)
 
-    def test_it_loads_what_it_needs_and_no_more(self):
+    def test_what_does_not_draw_loads_nothing_for_it(self):
         self.environment["LD_DEBUG"] = "files"
-        libraries = {b"Drawing", b"freetype", b"cairo", b"qpdf", b"tiff", b"ZXing", b"zbar"}
-        result = str(self.folder / "result")
-        draw = ["draw", "ean8", "1234567", "-o", result, "--format"]
-        for words, needed in (
-                (["encode", "ean8", "1234567"], set()), (["types"], set()), (["stream"], set()),
-                ([*draw, "svg"], {b"Drawing", b"freetype"}),
-                ([*draw, "png"], {b"Drawing", b"freetype"}),
-                ([*draw, "eps"], {b"Drawing", b"freetype"}),
-                ([*draw, "tiff"], {b"Drawing", b"freetype", b"tiff"}),
-                ([*draw, "pdf"], {b"Drawing", b"freetype", b"cairo", b"qpdf"}),
-                (["verify", "ean8", "1234567"], {b"Drawing", b"freetype", b"ZXing", b"zbar"})):
+        for words in (["encode", "ean8", "1234567"], ["types"], ["stream"]):
             run = self.run_program(*words, input=b"")
             self.assertEqual(run.returncode, 0, run.stderr)
             self.assertIn(b"Linewright.so", run.stderr)
-            loaded = {name for name in libraries if name in run.stderr}
-            self.assertEqual(loaded, needed, words)
+            for name in (b"Drawing", b"cairo", b"freetype", b"zbar", b"ZXing", b"qpdf", b"tiff"):
+                self.assertNotIn(name, run.stderr, words)
 
     def test_it_works_from_where_it_is_installed(self):
         prefix = self.install()

@@ -4,7 +4,6 @@
 #include "IDialogMgr.h"
 #include "IPMPersist.h"
 #include "ISession.h"
-#include "host/runtime/FourCharCode.h"
 #include "tests/host/HostTest.h"
 #include "tests/host/TestPlugIn.h"
 
@@ -163,7 +162,7 @@ TEST_F(BossTest, ReachesTheHostsOwnObjectsFromTheSession) {
     ASSERT_TRUE(application);
     const InterfacePtr<IDialogMgr> manager(application->QueryDialogMgr());
     ASSERT_TRUE(manager);
-    const RsrcSpec resource{0, 0x99000, host::FourCharCode('V', 'I', 'E', 'W'), 250};
+    const RsrcSpec resource{0, 0x99000, FourCharCode('V', 'I', 'E', 'W'), 250};
     EXPECT_EQ(manager->CreateNewDialog(resource, IDialog::kModeless, kTrue), nullptr);
 }
 

@@ -1,6 +1,5 @@
 #include "FileUtils.h"
 #include "StreamUtil.h"
-#include "host/runtime/FourCharCode.h"
 #include "tests/host/HostTest.h"
 
 #include <algorithm>
@@ -11,7 +10,7 @@ using Io = host::Faults::Io;
 
 namespace {
 
-constexpr OSType kUnknownType = host::FourCharCode('?', '?', '?', '?');
+constexpr OSType kUnknownType = FourCharCode('?', '?', '?', '?');
 
 InterfacePtr<IPMStream> OpenRead(const fs::path& path) {
     return InterfacePtr<IPMStream>(

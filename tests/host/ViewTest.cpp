@@ -9,7 +9,6 @@
 #include "ISubject.h"
 #include "ITextControlData.h"
 #include "ITriStateControlData.h"
-#include "host/runtime/FourCharCode.h"
 #include "host/runtime/Menus.h"
 #include "host/runtime/ShownDialog.h"
 #include "tests/host/HostTest.h"
@@ -50,7 +49,7 @@ rows = [
 rows = [[{ kind = "editBox", id = 0x99003, maxLength = 3, maxCharacter = 127 }]]
 )";
 
-constexpr RsrcType kView = host::FourCharCode('V', 'I', 'E', 'W');
+constexpr RsrcType kView = FourCharCode('V', 'I', 'E', 'W');
 
 class ViewTest : public StartedHostTest, public host::DialogListener {
   protected:

@@ -3,10 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <random>
-#include <string>
 
-#include "standards/CheckDigits.h"
 #include "types/WrittenType.h"
 
 namespace linewright {
@@ -32,18 +29,6 @@ TEST(UpcAColumn, CountsNumbersOfTwelveDigitsAlone) {
     EXPECT_EQ(Found("ean13", {"036000291452", "4006381333931", "03600029145", "", "03600029145x"}),
               (UpcANumbers{1, 1}));
     EXPECT_EQ(Found("ean13", {}), std::nullopt);
-}
-
-TEST(UpcAColumn, KnowsTheCheckDigitOfAnyNumber) {
-    std::mt19937_64 random(12);
-    for (int round = 0; round < 2'000; ++round) {
-        std::string number = std::to_string(100'000'000'000 + random() % 100'000'000'000).substr(1);
-        const char check = Modulo10CheckDigit(number);
-        for (char last = '0'; last <= '9'; ++last) {
-            const auto found = Found("ean13", {number + last});
-            ASSERT_EQ(found.has_value(), last == check) << number << last;
-        }
-    }
 }
 
 TEST(UpcAColumn, CountsOnlyThoseForEan13) {

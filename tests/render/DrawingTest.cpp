@@ -402,7 +402,7 @@ TEST(DrawingTest, TextTypesAreDrawnAsText) {
 
 // DejaVu Sans, which Debian installs along with the other one, has Hebrew.
 TEST(DrawingTest, CharactersThatTheTextFaceLacksComeFromAnother) {
-    const TextFace face{TextFaceName{}};
+    const TextFace face(false);
     const TextLine line = face.Set("a\u05D0b", 10);
     ASSERT_EQ(line.glyphs.size(), 3U);
     EXPECT_EQ(line.glyphs[0].file, line.glyphs[2].file);

@@ -266,27 +266,6 @@ class DrawTest(unittest.TestCase):
         run = self.run_program("draw", "in.csv", "-o", "{type}.pdf", status=3)
         self.assertIn("{line}", self.run_program("draw", "in.csv", "-o", "a.pdf", status=2).stderr)
 
-    def test_a_preset_is_its_options_and_options_go_before_it(self):
-        preset = self.folder / "shelf.toml"
-        preset.write_text("magnification = 80\nheight = \"12mm\"\nquiet-zone = \"12x\"\n")
-        options = "--x-dimension", "0.264mm", "--height", "12mm", "--quiet-zone", "12x"
-        self.assertEqual(self.draw("a.svg", *PEN, "--preset", "shelf.toml"),
-                         self.draw("b.svg", *PEN, *options))
-        self.assertEqual(self.draw("a.svg", *PEN, "--preset", "shelf.toml", "--x-dimension", "0.4mm"),
-                         self.draw("b.svg", *PEN, "--x-dimension", "0.4mm", *options[2:]))
-        preset.write_text("x-dimension = \"0.02mm\"\n")
-        (self.folder / "in.csv").write_text("type,data\nean13,4006381333931\n")
-        for words in (("verify", *PEN), ("draw", *PEN, "-o", "a.pdf"), ("draw", "in.csv", "-o", "{line}.pdf")):
-            run = self.run_program(*words, "--preset", "shelf.toml", status=3 if "in.csv" in words else 2)
-            self.assertIn("the X-dimension can be", run.stderr)
-        run = self.run_program("proof", "in.csv", "-o", "a.pdf", "--preset", "shelf.toml", status=3)
-        self.assertIn("1 rows: 0 drawn", run.stderr)
-        preset.write_text("dpi = 600\ndots = 3\n")
-        run = self.run_program("draw", *PEN, "-o", "a.pdf", "--preset", "shelf.toml", status=2)
-        self.assertIn("shelf.toml: line 2: a preset has no key \"dots\"", run.stderr)
-        run = self.run_program("verify", *PEN, "--preset", "no.toml", status=2)
-        self.assertIn("no.toml: the preset cannot be read: No such file", run.stderr)
-
     def test_a_bad_resolution_offers_a_good_one(self):
         run = self.run_program("draw", *PEN, "-o", "a.pdf", "--dpi", "300", status=2)
         self.assertIn("0.3387 mm, 102.6 %, 4 dots: --x-dimension 0.3387mm", run.stderr)

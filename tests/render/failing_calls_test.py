@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Lets each allocation and each opening, writing, securing and renaming of a file fail, one a run, in
-what draws and merges: a run that ends with exit status 0 has written the same bytes as one in which
-nothing fails, any other run the same or nothing.
+"""Lets each allocation and each opening of a file fail, one a run, in what draws: a run that ends
+with exit status 0 has written the same bytes as one in which nothing fails, any other run the same or
+nothing.
 
 Usage: failing_calls_test.py PROGRAM PRELOADED-LIBRARY [STEP [LAST]]
 """
@@ -37,35 +37,27 @@ class FailingCallsTest(unittest.TestCase):
             [PROGRAM, *words, "--config-dir", "config", "--app-dir", "app"], capture_output=True,
             cwd=self.folder, env=environment, timeout=60).returncode
 
-    def check(self, output, *words, calls=("write", "sync", "rename")):
+    def check(self, output, *words):
         words = (*words, "-o", output)
-        for call, step, last in (("open", 1, 0), ("malloc", STEP, LAST),
-                                 *((call, 1, 0) for call in calls)):
-            self.check_call(output, words, call, step, last)
-
-    def check_call(self, output, words, call, step, last):
         target = self.folder / output
-        counts = self.folder / "calls"
-        self.assertEqual(self.run_program(words, call, 0, counts), 0)
-        expected = target.read_bytes()
-        total = int(counts.read_text())
-        self.assertGreater(total, 0, call)
-        failures = 0
-        for at in {*range(1, total + 1, step), *range(max(1, total - last), total + 1)}:
-            target.unlink(missing_ok=True)
-            status = self.run_program(words, call, at)
-            if status == 0:
-                self.assertEqual(target.read_bytes(), expected, f"{call} {at} of {total}")
-                continue
-            failures += 1
-            # What fails behind the writing leaves the file whole.
-            if target.exists():
-                self.assertEqual(target.read_bytes(), expected, f"{call} {at} of {total}")
-            # What is left of it is gone on with.
-            if "--resume" in words:
-                self.assertEqual(self.run_program(words, call, 0), 0, f"{call} {at} of {total}")
-                self.assertEqual(target.read_bytes(), expected, f"{call} {at} of {total}")
-        self.assertGreater(failures, 0, call)
+        for call, step, last in (("open", 1, 0), ("malloc", STEP, LAST)):
+            counts = self.folder / "calls"
+            self.assertEqual(self.run_program(words, call, 0, counts), 0)
+            expected = target.read_bytes()
+            total = int(counts.read_text())
+            self.assertGreater(total, 5)
+            failures = 0
+            for at in {*range(1, total + 1, step), *range(max(1, total - last), total + 1)}:
+                target.unlink(missing_ok=True)
+                status = self.run_program(words, call, at)
+                if status == 0:
+                    self.assertEqual(target.read_bytes(), expected, f"{call} {at} of {total}")
+                else:
+                    failures += 1
+                    # What fails behind the writing leaves the file whole.
+                    if target.exists():
+                        self.assertEqual(target.read_bytes(), expected, f"{call} {at} of {total}")
+            self.assertGreater(failures, 0, call)
 
     def test_pdf(self):
         self.check("a.pdf", "draw", "code128", "Shelf 7")
@@ -85,16 +77,6 @@ class FailingCallsTest(unittest.TestCase):
 
     def test_proof(self):
         self.check("a.pdf", "proof", "in.csv")
-
-    def test_batch(self):
-        self.check("a.csv", "batch", "in.csv")
-
-    def test_batch_of_several_processes(self):
-        self.check("a.csv", "batch", "in.csv", "--jobs", "2", "--rejects", "b.csv")
-
-    def test_batch_that_goes_on(self):
-        self.check("a.csv", "batch", "in.csv", "--resume", "--summary", "s.json",
-                   calls=("write", "sync", "rename", "cut"))
 
 
 if __name__ == "__main__":

@@ -27,12 +27,12 @@ WorkbenchTest::~WorkbenchTest() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void WorkbenchTest::Start(const QString& locale, const QString& fonts) {
+void WorkbenchTest::Start(const QString& locale) {
     workbench.reset();
     workbench.emplace(WorkbenchOptions{.plugIn = QStringLiteral(LINEWRIGHT_PLUGIN),
                                        .roamingFolder = folder.path(),
                                        .appFolder = folder.path(),
-                                       .fonts = fonts,
+                                       .fonts = QStringLiteral(LINEWRIGHT_FONTS),
                                        .locale = locale,
                                        .beep = [this] { ++beeps; }});
     ASSERT_TRUE(workbench->Start()) << qUtf8Printable(workbench->Error());
@@ -50,24 +50,16 @@ void WorkbenchTest::ClickMenu(int menu, int entry) {
     QTest::mouseClick(popUp, Qt::LeftButton, {}, popUp->actionGeometry(action).center());
 }
 
-QList<DialogWindow*> WorkbenchTest::OpenDialogs() {
-    QList<DialogWindow*> dialogs;
-    for (QDialog* const child : workbench->Window().findChildren<QDialog*>()) {
-        if (auto* const dialog = dynamic_cast<DialogWindow*>(child)) dialogs << dialog;
-    }
-    return dialogs;
-}
-
 DialogWindow& WorkbenchTest::OpenUtility() {
-    ClickMenu(kPlugInMenu, 0);
-    const auto dialogs = OpenDialogs();
+    ClickMenu(1, 0);
+    const auto dialogs = workbench->Window().findChildren<DialogWindow*>();
     if (dialogs.isEmpty()) throw std::logic_error("the dialog does not open");
     Activate(*dialogs.last());
     return *dialogs.last();
 }
 
 void WorkbenchTest::UsePreferences(const std::function<void(DialogWindow&)>& use) {
-    DuringModal<DialogWindow>([this] { ClickMenu(kPlugInMenu, 1); }, use);
+    DuringModal<DialogWindow>([this] { ClickMenu(1, 1); }, use);
 }
 
 void WorkbenchTest::UseNextModal(const std::function<void(QWidget&)>& use) {
@@ -80,10 +72,6 @@ void WorkbenchTest::UseNextModal(const std::function<void(QWidget&)>& use) {
         ADD_FAILURE() << "the modal window is open still";
         modal->hide();
     });
-}
-
-QLineEdit& ResultLine(const DialogWindow& dialog) {
-    return *dialog.FindView(kResult)->findChild<QLineEdit*>();
 }
 
 void ChooseType(const DialogWindow& dialog, const QString& text) {

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QLineEdit>
 #include <QTemporaryDir>
 #include <functional>
 #include <optional>
@@ -31,18 +30,10 @@ class WorkbenchTest : public testing::Test {
     ~WorkbenchTest() override;
 
     /** Starts the program, or starts it again. */
-    void Start(const QString& locale = QStringLiteral("enUS"),
-               const QString& fonts = QStringLiteral(LINEWRIGHT_FONTS));
-
-    /** The plug-in's menu, behind those of the window that pages have entries in. */
-    static constexpr int kPlugInMenu = 3;
-    static constexpr int kLanguageMenu = 4;
-    static constexpr int kHelpMenu = 5;
+    void Start(const QString& locale = QStringLiteral("enUS"));
 
     /** Clicks an entry of a menu of the main window, by their places. */
     void ClickMenu(int menu, int entry);
-    /** The dialogs of the plug-in that are open. */
-    QList<DialogWindow*> OpenDialogs();
     DialogWindow& OpenUtility();
     /** Opens the preferences from the menu, and has them used; they must be closed then. */
     void UsePreferences(const std::function<void(DialogWindow&)>& use);
@@ -69,9 +60,6 @@ class WorkbenchTest : public testing::Test {
   private:
     static void UseNextModal(const std::function<void(QWidget&)>& use);
 };
-
-/** The line of a result. */
-QLineEdit& ResultLine(const DialogWindow& dialog);
 
 /** Chooses a type by its text. */
 void ChooseType(const DialogWindow& dialog, const QString& text);

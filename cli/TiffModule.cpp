@@ -1,8 +1,0 @@
-#include "cli/Modules.h"
-
-/** The library's entry. */
-extern "C" EXPORTED_DECL const void* GetModule() {
-    using namespace linewright;
-    static constexpr TiffModule kModule{TiffOf};
-    return &kModule;
-}
