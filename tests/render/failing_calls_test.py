@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Lets each allocation and each opening of a file fail, one a run, in what draws: a run that ends
-with exit status 0 has written the same bytes as one in which nothing fails, any other run the same or
-nothing.
+"""Lets each allocation but fontconfig's and each opening of a file fail, one a run, in what draws: a
+run that ends with exit status 0 has written the same bytes as one in which nothing fails, any other
+run the same or nothing.
 
 Usage: failing_calls_test.py PROGRAM PRELOADED-LIBRARY [STEP [LAST]]
 """
